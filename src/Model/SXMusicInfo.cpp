@@ -1,0 +1,157 @@
+#include "SXMusicInfo.h"
+
+#include "Media/Framework/MTEAudioFile.h"
+
+namespace {
+template <class T> T locked(QMutex& lock, const T& field) {
+    QMutexLocker guard(&lock);
+    return field;
+}
+template <class T> void lockedSet(QMutex& lock, T& field, const T& value) {
+    QMutexLocker guard(&lock);
+    field = value;
+}
+const QString kArrayKey = QStringLiteral("items");
+} // namespace
+
+QString SXMusicInfo::strFilePath() const {
+    return locked(m_lock, m_strFilePath);
+}
+void SXMusicInfo::setStrFilePath(const QString& p) {
+    lockedSet(m_lock, m_strFilePath, p);
+}
+QString SXMusicInfo::strMusicName() const {
+    return locked(m_lock, m_strMusicName);
+}
+void SXMusicInfo::setStrMusicName(const QString& n) {
+    lockedSet(m_lock, m_strMusicName, n);
+}
+LSMediaPtr SXMusicInfo::mediaInfo() const {
+    return locked(m_lock, m_mediaInfo);
+}
+void SXMusicInfo::setMediaInfo(const LSMediaPtr& m) {
+    lockedSet(m_lock, m_mediaInfo, m);
+}
+QString SXMusicInfo::getStrMusicType() const {
+    return locked(m_lock, m_strMusicType);
+}
+void SXMusicInfo::setStrMusicType(const QString& t) {
+    lockedSet(m_lock, m_strMusicType, t);
+}
+QString SXMusicInfo::striTunesPlaylistName() const {
+    return locked(m_lock, m_striTunesPlaylistName);
+}
+void SXMusicInfo::setStriTunesPlaylistName(const QString& n) {
+    lockedSet(m_lock, m_striTunesPlaylistName, n);
+}
+std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
+    return locked(m_lock, m_metHandler);
+}
+void SXMusicInfo::setMetHandler(const std::shared_ptr<MTEAudioFile>& h) {
+    lockedSet(m_lock, m_metHandler, h);
+}
+
+bool SXMusicInfo::isEqualToMusic(const SXMusicInfo& other) const {
+    return strFilePath() == other.strFilePath() && getStrMusicType() == other.getStrMusicType();
+}
+
+std::shared_ptr<SXMusicInfo> SXMusicInfo::copy() const {
+    auto result = std::make_shared<SXMusicInfo>();
+    result->setStrFilePath(strFilePath());
+    result->setStrMusicName(strMusicName());
+    result->setStrMusicType(getStrMusicType());
+    const LSMediaPtr media = mediaInfo();
+    result->setMediaInfo(media ? media->copy() : nullptr);
+    const auto handle = metHandler();
+    result->setMetHandler(handle ? handle->copy() : nullptr);
+    result->setDConvertProgress(dConvertProgress());
+    result->setBIsSendingToiTunes(bIsSendingToiTunes());
+    result->setStriTunesPlaylistName(striTunesPlaylistName());
+    return result;
+}
+
+QString SXMusicInfo::description() const {
+    const LSMediaPtr media = mediaInfo();
+    return QString::asprintf("P = %p, path = ", static_cast<const void*>(this)) +
+           (media ? media->filePath() : QString()) + QStringLiteral(", name = ") + strMusicName() +
+           QString::asprintf(
+               ", sample = %f, birat = %f,             channel = %d, inFormateType = ",
+               media ? media->audioSamplerate() : 0.0, media ? media->audioBitrate() : 0.0,
+               media ? media->audioChannels() : 0) +
+           getStrMusicType();
+}
+
+void SXMusicInfo::encodeWithCoder(SXCoder& coder) const {
+    if (!coder.allowsKeyedCoding())
+        return;
+    coder.encode(QStringLiteral("strSourceFilePath"), strFilePath());
+    if (const LSMediaPtr media = mediaInfo()) {
+        SXCoder child;
+        media->encodeWithCoder(child);
+        coder.encodeObject(QStringLiteral("mediaInfo"), child);
+    }
+    coder.encode(QStringLiteral("MusicName"), strMusicName());
+    if (const auto handle = metHandler()) {
+        SXCoder child;
+        handle->encodeWithCoder(child);
+        coder.encodeObject(QStringLiteral("metInfo"), child);
+    }
+    coder.encode(QStringLiteral("strMusicType"), getStrMusicType());
+    coder.encode(QStringLiteral("dConvertProgress"), dConvertProgress());
+    coder.encode(QStringLiteral("bIsSendingToiTunes"), bIsSendingToiTunes());
+    coder.encode(QStringLiteral("striTunesPlaylistName"), striTunesPlaylistName());
+}
+
+std::shared_ptr<SXMusicInfo> SXMusicInfo::decodeWithCoder(const SXCoder& coder) {
+    auto item = std::make_shared<SXMusicInfo>();
+    if (!coder.allowsKeyedCoding())
+        return item;
+    item->setStrFilePath(coder.decodeString(QStringLiteral("strSourceFilePath")));
+    if (coder.containsValueForKey(QStringLiteral("mediaInfo")))
+        item->setMediaInfo(
+            LSMedia::decodeWithCoder(coder.decodeObject(QStringLiteral("mediaInfo"))));
+    item->setStrMusicName(coder.decodeString(QStringLiteral("MusicName")));
+    if (coder.containsValueForKey(QStringLiteral("metInfo")))
+        item->setMetHandler(
+            MTEAudioFile::decodeWithCoder(coder.decodeObject(QStringLiteral("metInfo"))));
+    item->setStrMusicType(coder.decodeString(QStringLiteral("strMusicType")));
+    item->setDConvertProgress(coder.decodeDouble(QStringLiteral("dConvertProgress")));
+    item->setBIsSendingToiTunes(coder.decodeBool(QStringLiteral("bIsSendingToiTunes")));
+    item->setStriTunesPlaylistName(coder.decodeString(QStringLiteral("striTunesPlaylistName")));
+    return item;
+}
+
+QByteArray SXMusicInfo::archiveItems(const QList<std::shared_ptr<SXMusicInfo>>& items) {
+    QVariantList encoded;
+    for (const auto& item : items) {
+        SXCoder child;
+        item->encodeWithCoder(child);
+        encoded << child.toData();
+    }
+    SXCoder root;
+    root.encode(kArrayKey, encoded);
+    return root.toData();
+}
+
+QList<std::shared_ptr<SXMusicInfo>> SXMusicInfo::unarchiveItems(const QByteArray& data, bool* ok) {
+    bool parsed = false;
+    const SXCoder root = SXCoder::fromData(data, &parsed);
+    QList<std::shared_ptr<SXMusicInfo>> items;
+    if (parsed && root.containsValueForKey(kArrayKey)) {
+        for (const QVariant& entry : root.decode(kArrayKey).toList()) {
+            bool childOk = false;
+            const SXCoder child = SXCoder::fromData(entry.toByteArray(), &childOk);
+            if (!childOk) {
+                parsed = false;
+                items.clear();
+                break;
+            }
+            items << decodeWithCoder(child);
+        }
+    } else {
+        parsed = false;
+    }
+    if (ok)
+        *ok = parsed;
+    return items;
+}

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+
+// What the program knows about its own installation: where its executable and resources are,
+// and the identity and version strings that the build stamped into it.
+class SXBundle {
+public:
+    static QString executablePath();
+    static QString executableDirectory();
+
+    // Full path of resource `name` with extension `type` ("Formats", "plist"), or an empty
+    // string. Looked up, in order: $SONORIA_RESOURCES_DIR, <exe>/../share/sonoria (installed),
+    // <exe>/Resources, then the source tree's src/Resources (build tree and tests).
+    static QString pathForResource(const QString& name, const QString& type);
+    static QStringList resourceDirectories();
+
+    static QString shortVersionString(); // "CFBundleShortVersionString"
+    static QString bundleVersion();      // "CFBundleVersion", the build number
+    static QString bundleIdentifier();
+    static QString productName(); // "Sonoria"
+};

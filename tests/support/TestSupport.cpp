@@ -1,0 +1,84 @@
+#include "TestSupport.h"
+
+#include <QCryptographicHash>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace SonoriaTest {
+
+namespace {
+QTemporaryDir* g_configHome = nullptr;
+}
+
+void prepareEnvironment() {
+    if (!g_configHome) {
+        g_configHome = new QTemporaryDir(); // lives until the process ends
+        qputenv("XDG_CONFIG_HOME", g_configHome->path().toLocal8Bit());
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+QString configHome() {
+    return g_configHome ? g_configHome->path() : QString();
+}
+
+int run(const QString& program, const QStringList& arguments, QString* output, int timeoutMs) {
+    QProcess process;
+    process.setProcessChannelMode(QProcess::MergedChannels);
+    process.start(program, arguments);
+    if (!process.waitForStarted(10000))
+        return -1;
+    if (!process.waitForFinished(timeoutMs)) {
+        process.kill();
+        process.waitForFinished();
+        return -1;
+    }
+    if (output)
+        *output = QString::fromUtf8(process.readAll());
+    return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+bool makeMedia(const QString& path, const QString& source, const QStringList& extra) {
+    QStringList args{
+        QStringLiteral("-nostdin"), QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"),
+        QStringLiteral("error"),    QStringLiteral("-y"),           QStringLiteral("-f"),
+        QStringLiteral("lavfi"),    QStringLiteral("-i"),           source};
+    args << extra << path;
+    QString output;
+    const int code = run(QStringLiteral("ffmpeg"), args, &output);
+    if (code != 0)
+        qWarning("ffmpeg failed to make %s: %s", qPrintable(path), qPrintable(output));
+    return code == 0 && QFileInfo(path).size() > 0;
+}
+
+bool makeTone(const QString& path, double seconds, const QStringList& extra) {
+    return makeMedia(
+        path, QStringLiteral("sine=frequency=440:sample_rate=44100:duration=%1").arg(seconds),
+        extra);
+}
+
+QString writeScript(const QString& dir, const QString& name, const QString& body) {
+    const QString path = dir + QLatin1Char('/') + name;
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return {};
+    file.write("#!/bin/sh\n");
+    file.write(body.toUtf8());
+    file.close();
+    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
+                        QFile::ExeGroup);
+    return path;
+}
+
+QByteArray fileHash(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    QCryptographicHash hash(QCryptographicHash::Sha256);
+    hash.addData(&file);
+    return hash.result().toHex();
+}
+
+} // namespace SonoriaTest

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QString>
+#include <QStringList>
+#include <QTest>
+
+// Shared helpers of the test executables.
+namespace SonoriaTest {
+
+// Points XDG_CONFIG_HOME (and so the settings store) at a fresh temporary folder that lives as
+// long as the process. Call before the application object exists.
+void prepareEnvironment();
+QString configHome();
+
+// Runs a program to completion; returns its exit code (-1 when it could not start). Merged
+// output goes to *output when given.
+int run(const QString& program, const QStringList& arguments, QString* output = nullptr,
+        int timeoutMs = 120000);
+
+// Makes a media file with ffmpeg's lavfi sources. `source` is a lavfi graph such as
+// "sine=frequency=440:duration=2"; `extra` goes between the input and the output path
+// (codecs, channels, metadata). Fails the current test when ffmpeg fails.
+bool makeMedia(const QString& path, const QString& source, const QStringList& extra = {});
+// A sine tone of `seconds` with ffmpeg's default encoder for the path's extension.
+bool makeTone(const QString& path, double seconds = 2.0, const QStringList& extra = {});
+
+// Writes an executable shell script and returns its path.
+QString writeScript(const QString& dir, const QString& name, const QString& body);
+
+// SHA-256 of a file's bytes ("" when unreadable): sources are compared before and after.
+QByteArray fileHash(const QString& path);
+
+} // namespace SonoriaTest
+
+#define SONORIA_TEST_MAIN(TestObject)                                                              \
+    int main(int argc, char** argv) {                                                              \
+        SonoriaTest::prepareEnvironment();                                                         \
+        QCoreApplication app(argc, argv);                                                          \
+        TestObject tc;                                                                             \
+        return QTest::qExec(&tc, argc, argv);                                                      \
+    }
