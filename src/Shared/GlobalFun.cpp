@@ -1,15 +1,23 @@
 #include "GlobalFun.h"
 
 #include "SXBundle.h"
+#include "SXFolderVisit.h"
 #include "SXSettings.h"
 
+#include <QDir>
+#include <QDirIterator>
 #include <QFile>
+#include <QFileInfo>
 #include <QMutex>
 #include <QMutexLocker>
 #include <QUuid>
 
+#include <charconv>
+#include <cmath>
+#include <cstdio>
 #include <limits>
 
+#include <sys/stat.h>
 #include <sys/utsname.h>
 
 namespace {
@@ -30,7 +38,232 @@ bool leadingNumber(QStringView piece, qint64* value) {
     return true;
 }
 
+// Seconds as the 32-bit count the clock strings work with. Truncated toward zero; NaN counts 0
+// and values beyond the range saturate instead of being undefined.
+int truncatedToInt(double value) {
+    if (std::isnan(value))
+        return 0;
+    if (value >= static_cast<double>(std::numeric_limits<int>::max()))
+        return std::numeric_limits<int>::max();
+    if (value <= static_cast<double>(std::numeric_limits<int>::min()))
+        return std::numeric_limits<int>::min();
+    return static_cast<int>(value);
+}
+
+// The decimal number at the start of `piece` (optional blanks and sign first), 0 when there is
+// none. Written out instead of strtod because the C locale of a Qt program follows the user's
+// locale, where the decimal separator may be a comma.
+double leadingDecimal(const QString& piece) {
+    const QByteArray bytes = piece.toUtf8();
+    const char* cursor = bytes.constData();
+    const char* end = cursor + bytes.size();
+    while (cursor < end && (*cursor == ' ' || (*cursor >= '\t' && *cursor <= '\r')))
+        ++cursor;
+    bool negative = false;
+    if (cursor < end && (*cursor == '+' || *cursor == '-')) {
+        negative = *cursor == '-';
+        ++cursor;
+    }
+    // Only digits or a decimal point may follow: "inf", "nan" and a second sign are not numbers
+    // of a clock.
+    if (cursor == end || !((*cursor >= '0' && *cursor <= '9') || *cursor == '.'))
+        return 0.0;
+    double value = 0.0;
+    const auto [stop, error] = std::from_chars(cursor, end, value, std::chars_format::general);
+    Q_UNUSED(stop);
+    if (error != std::errc())
+        return 0.0;
+    return negative ? -value : value;
+}
+
+struct PathParts {
+    QString base;      // the path without the extension and its dot
+    QString extension; // without the dot
+    bool hasExtension = false;
+};
+
+// Splits off the extension of the last path component. A leading dot (hidden file) does not
+// start an extension.
+PathParts splitExtension(const QString& path) {
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    if (dot <= slash + 1)
+        return {path, {}, false};
+    return {path.left(dot), path.mid(dot + 1), true};
+}
+
+// Anything at the path, a dangling symbolic link included: writing through such a link would
+// create a file somewhere the user did not choose.
+bool somethingExistsAt(const QString& path) {
+    struct stat status {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+QString counterText(int k) {
+    return QStringLiteral("(%1)").arg(k);
+}
+
+void collectFiles(const QString& dir, const QStringList& filter, SXFolderVisit& visit,
+                  QStringList& found) {
+    // Unsorted: the entries come in the order the file system returns them.
+    QDirIterator entries(dir,
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    while (entries.hasNext()) {
+        const QString path = entries.next();
+        if (visit.enter(path)) {
+            collectFiles(path, filter, visit, found);
+            continue;
+        }
+        const QFileInfo info(path);
+        if (!info.exists() || info.isDir())
+            continue; // a dangling link, or a folder this scan has already been through
+        const PathParts parts = splitExtension(path);
+        if (parts.hasExtension && filter.contains(parts.extension, Qt::CaseInsensitive))
+            found << path;
+    }
+}
+
+QMutex g_switchLock;
+std::function<bool()> g_experimentalSwitch;
+
 } // namespace
+
+QString GlobalFun::getTimeStringBySecond(double seconds) {
+    int hour = 0;
+    int minite = 0;
+    int second = 0;
+    getHourMiniteSecondWithTime(&hour, &minite, &second, seconds);
+    QString text;
+    if (hour >= 0)
+        text += QString::asprintf("%02d:", hour);
+    text += QString::asprintf("%02d:", minite);
+    text += QString::asprintf("%02d", second);
+    return text;
+}
+
+void GlobalFun::getHourMiniteSecondWithTime(int* hour, int* minite, int* second, double seconds) {
+    const int total = truncatedToInt(seconds);
+    const int hours = total / 3600;
+    if (hour)
+        *hour = hours;
+    if (minite)
+        *minite = (total - hours * 3600) / 60;
+    if (second)
+        *second = total % 60;
+}
+
+double GlobalFun::getSecondsByTimeString(const QString& timeString) {
+    static constexpr double weights[] = {3600.0, 60.0, 1.0};
+    const QStringList pieces = timeString.split(QLatin1Char(':'));
+    double total = 0.0;
+    for (qsizetype i = 0; i < pieces.size() && i < 3; ++i)
+        total += weights[i] * leadingDecimal(pieces.at(i));
+    return total;
+}
+
+QString GlobalFun::getEstimateStrBySecond(double seconds) {
+    const QString remaining = QStringLiteral("%1 %2 %3 %4 remaining");
+    if (seconds < 60) {
+        // printf rounds the value; the plural test deliberately looks at the unrounded one.
+        char number[512];
+        std::snprintf(number, sizeof number, "%0.0f", seconds);
+        return QStringLiteral("%1 %2 remaining")
+            .arg(QString::fromLatin1(number),
+                 seconds > 1.0 ? QStringLiteral("seconds") : QStringLiteral("second"));
+    }
+    if (seconds < 3600) {
+        const int whole = truncatedToInt(seconds);
+        const int minites = whole / 60;
+        const int rest = truncatedToInt(seconds - minites * 60.0) % 60;
+        return remaining.arg(minites)
+            .arg(whole > 119 ? QStringLiteral("minites") : QStringLiteral("minite"))
+            .arg(rest)
+            .arg(rest > 1 ? QStringLiteral("seconds") : QStringLiteral("second"));
+    }
+    // An hour or more, and NaN, which fails both tests above.
+    const int whole = truncatedToInt(seconds);
+    const int hours = whole / 3600;
+    const int rest = truncatedToInt(seconds - hours * 3600.0);
+    return remaining.arg(hours)
+        .arg(whole > 7199 ? QStringLiteral("hours") : QStringLiteral("hour"))
+        .arg(rest / 60)
+        .arg(rest > 119 ? QStringLiteral("minites") : QStringLiteral("minite"));
+}
+
+QString GlobalFun::makeSureFullPathIdentical(const QString& path, const QString& ext) {
+    const PathParts given = splitExtension(path);
+    QString current = path;
+    if (!given.hasExtension || given.extension != ext)
+        current = path + QLatin1Char('.') + ext;
+    if (!somethingExistsAt(current))
+        return current;
+
+    // The counter text is looked for and replaced over the whole path, folders included, so a
+    // folder named like "Album(1)" is renamed in the candidate too. Callers rely on the result
+    // naming nothing that exists, which the loop guarantees whatever the candidate looks like.
+    int k = 1;
+    for (;;) {
+        const PathParts parts = splitExtension(current);
+        QString candidate;
+        if (!current.contains(counterText(k))) {
+            candidate = parts.base + counterText(k);
+        } else {
+            const QString previous = counterText(k);
+            ++k;
+            candidate = QString(parts.base).replace(previous, counterText(k));
+        }
+        candidate += QLatin1Char('.') + parts.extension;
+        if (!somethingExistsAt(candidate))
+            return candidate;
+        current = candidate;
+    }
+}
+
+bool GlobalFun::MakeSureFolderExsist(const QString& path) {
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).isDir())
+        return true;
+    // mkpath fails when a regular file stands at the path or on the way to it.
+    return QDir().mkpath(path);
+}
+
+QStringList GlobalFun::fileListAtDirenctory(const QString& dir, const QStringList& filter) {
+    QStringList found;
+    SXFolderVisit visit;
+    if (visit.enter(dir))
+        collectFiles(dir, filter, visit, found);
+    return found;
+}
+
+QStringList GlobalFun::getSupportedFmts() {
+    QStringList formats = {QStringLiteral("wmv"),  QStringLiteral("rm"),  QStringLiteral("mpg"),
+                           QStringLiteral("ts"),   QStringLiteral("avi"), QStringLiteral("mkv"),
+                           QStringLiteral("mov"),  QStringLiteral("flv"), QStringLiteral("mp4"),
+                           QStringLiteral("rmvb"), QStringLiteral("vob"), QStringLiteral("m4v"),
+                           QStringLiteral("3gp"),  QStringLiteral("nsv"), QStringLiteral("ogm"),
+                           QStringLiteral("asf"),  QStringLiteral("f4v"), QStringLiteral("swf"),
+                           QStringLiteral("mp3"),  QStringLiteral("wav"), QStringLiteral("m4a"),
+                           QStringLiteral("ape"),  QStringLiteral("ogg"), QStringLiteral("flac"),
+                           QStringLiteral("aac"),  QStringLiteral("wma"), QStringLiteral("ac3"),
+                           QStringLiteral("amr"),  QStringLiteral("m4r"), QStringLiteral("mp2"),
+                           QStringLiteral("dsd")};
+    std::function<bool()> experimental;
+    {
+        QMutexLocker lock(&g_switchLock);
+        experimental = g_experimentalSwitch;
+    }
+    if (experimental && !experimental()) {
+        for (const char* gated : {"vob", "m4v", "m4r", "drm"})
+            formats.removeAll(QLatin1String(gated));
+    }
+    return formats;
+}
+
+void GlobalFun::setExperimentalSwitch(std::function<bool()> isExperimentalOn) {
+    QMutexLocker lock(&g_switchLock);
+    g_experimentalSwitch = std::move(isExperimentalOn);
+}
 
 QString GlobalFun::getGUID() {
     // Two threads asking for the first time must not store two different identifiers.
