@@ -1,0 +1,152 @@
+#include "Media/LSMediaLoader.h"
+
+#include "Media/Framework/HVMediaInfo.h"
+#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Shared/SXLog.h"
+
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QLocale>
+#include <system_error>
+#include <thread>
+
+namespace {
+
+// Size and modification date as the information panel shows them. A file whose attributes
+// cannot be read keeps both empty; that is not a load failure.
+void readFileAttributes(LSMedia& media) {
+    const QFileInfo info(media.filePath());
+    if (!info.exists())
+        return;
+    // The pattern pairs the 24-hour clock with an AM/PM marker; the panel has always shown it so.
+    media.setStrLastModified(
+        QLocale::system().toString(info.lastModified(), QStringLiteral("d/M/yy H:m a")));
+    media.setDFileSize(double(info.size()));
+}
+
+// The output settings start from the source's own values; the scheduler later replaces them
+// with the container's choices.
+void copyProbeToOutput(LSMedia& media) {
+    media.setDAOBitrate(media.audioBitrate() / 1000.0);
+    media.setDAOSamplerate(media.audioSamplerate());
+    media.setIAOChanels(media.audioChannels());
+}
+
+// Everything after a good probe. Unreadable tags leave the handle empty; the item still loads.
+void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
+    copyProbeToOutput(media);
+    readFileAttributes(media);
+    const QString path = item.strFilePath();
+    std::shared_ptr<MTEAudioFile> handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);
+    if (!handle)
+        SXLog::line(QStringLiteral("load %1 failed!").arg(path));
+    item.setMetHandler(handle);
+}
+
+} // namespace
+
+std::shared_ptr<LSMediaLoader> LSMediaLoader::create() {
+    return std::shared_ptr<LSMediaLoader>(new LSMediaLoader());
+}
+
+void LSMediaLoader::setDelegate(LSMediaLoaderDelegate* delegate) {
+    m_delegate.store(delegate);
+}
+
+LSMediaLoaderDelegate* LSMediaLoader::delegate() const {
+    return m_delegate.load();
+}
+
+SXMusicInfoList LSMediaLoader::aryMediasToLoad() const {
+    QMutexLocker locker(&m_lock);
+    return m_aryMediasToLoad;
+}
+
+void LSMediaLoader::cancel() {
+    m_bCanceled.store(true);
+}
+
+bool LSMediaLoader::bCanceled() const {
+    return m_bCanceled.load();
+}
+
+void LSMediaLoader::loadMediasWithMediaArray(const SXMusicInfoList& medias) {
+    if (medias.isEmpty()) {
+        completeLoad(std::nullopt, std::nullopt);
+        return;
+    }
+    {
+        QMutexLocker locker(&m_lock);
+        m_aryMediasToLoad = medias;
+        ++m_runningWorkers;
+    }
+    // The worker owns a reference, so the loader outlives a caller that lets go of it.
+    std::shared_ptr<LSMediaLoader> self = shared_from_this();
+    try {
+        std::thread([self, medias] {
+            self->loadMediasThread(medias);
+            self->workerFinished();
+        }).detach();
+    } catch (const std::system_error& failure) {
+        // No thread could be made: nothing of the batch is delivered, as after a cancel.
+        SXLog::line(QStringLiteral("cannot start the loading thread: %1")
+                        .arg(QString::fromLocal8Bit(failure.what())));
+        completeLoad(std::nullopt, std::nullopt);
+        workerFinished();
+    }
+}
+
+void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
+    QSet<int> failedIndex;
+    const int count = int(medias.size());
+    for (int i = 0; i < count; ++i) {
+        if (bCanceled()) {
+            completeLoad(std::nullopt, std::nullopt);
+            return;
+        }
+        const SXMusicInfoPtr& item = medias.at(i);
+        if (LSMediaLoaderDelegate* target = delegate())
+            target->mediaLoaderStartLoadMusic(this, item);
+
+        const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+        if (!media || !HVMediaInfo::dumpMediaInfo(*media)) {
+            failedIndex.insert(i);
+            SXLog::line(QStringLiteral("Failed:index:%1").arg(i));
+        } else {
+            // A cancel during the probe drops the batch before its tags are read.
+            if (bCanceled()) {
+                completeLoad(std::nullopt, std::nullopt);
+                return;
+            }
+            fillProbedItem(*item, *media);
+        }
+        if (LSMediaLoaderDelegate* target = delegate())
+            target->mediaLoaderDidReceiveProgress(this, double(i + 1) / count);
+    }
+    completeLoad(medias, failedIndex);
+}
+
+void LSMediaLoader::completeLoad(const std::optional<SXMusicInfoList>& medias,
+                                 const std::optional<QSet<int>>& failedIndex) {
+    if (LSMediaLoaderDelegate* target = delegate())
+        target->mediaLoaderDidCompleteLoadMedias(this, medias, failedIndex);
+}
+
+void LSMediaLoader::workerFinished() {
+    QMutexLocker locker(&m_lock);
+    --m_runningWorkers;
+    if (m_runningWorkers == 0)
+        m_idle.wakeAll();
+}
+
+bool LSMediaLoader::waitUntilDone(int timeoutMs) {
+    QDeadlineTimer deadline =
+        timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
+    QMutexLocker locker(&m_lock);
+    while (m_runningWorkers > 0) {
+        if (!m_idle.wait(&m_lock, deadline))
+            return m_runningWorkers == 0;
+    }
+    return true;
+}
