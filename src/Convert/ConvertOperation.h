@@ -1,0 +1,92 @@
+#pragma once
+
+#include "Convert/ConvertOperationDelegate.h"
+#include "Convert/ConvertProgressTracker.h"
+#include "Convert/SXOperation.h"
+#include "Convert/TaskWrapperController.h"
+#include "Model/SXMusicInfo.h"
+
+#include <QMutex>
+#include <QPointer>
+#include <QString>
+#include <QStringList>
+#include <atomic>
+
+class QEventLoop;
+class TaskWrapper;
+
+// Converts one item into one output file with an ffmpeg child process: builds the command line
+// from the item's output settings, reserves an output name that replaces nothing, runs the child
+// while its console text drives the item's progress, decides the outcome from the exit status,
+// copies the tags, gives a ringtone its final extension and hands the file to the music library.
+//
+// Threads: main() and every delegate callback run on the queue's worker thread. cancel(),
+// pause() and resume() may come from any thread (normally the main one).
+class ConvertOperation : public SXOperation, public TaskWrapperController {
+public:
+    explicit ConvertOperation(const SXMusicInfoPtr& item);
+    ~ConvertOperation() override;
+
+    SXMusicInfoPtr musicToConvert() const;
+    void setMusicToConvert(const SXMusicInfoPtr& item);
+    ConvertOperationDelegate* delegate() const { return m_delegate; }
+    void setDelegate(ConvertOperationDelegate* delegate) { m_delegate = delegate; }
+    // Before main(): the output folder (empty = beside the source). From the moment main() has
+    // chosen the output file: that file's full path.
+    QString strOutFilePath() const;
+    void setStrOutFilePath(const QString& path);
+
+    void main() override;
+    // A running conversion: stops the child, deletes its partial output, ends CvtStateCanceled
+    // and still reports didConvertOperationFinish from main(). A waiting one: never runs, no
+    // callbacks. Once the child has ended, a cancel comes too late and changes nothing.
+    void cancel() override;
+    void pause();
+    void resume();
+
+    // Copies the source item's tags into the file at strOutFilePath().
+    void handleMetadataSave();
+
+    // The argument vector of one run (element 0 is the executable), in its fixed order.
+    static QStringList buildArguments(const QString& executable, const LSMedia& media,
+                                      const QString& outputFile);
+    // The ffmpeg beside our own executable, else the one on PATH; empty when there is none.
+    static QString ffmpegPath();
+
+    // TaskWrapperController
+    void appendOutput(const QString& output) override;
+    void processStarted() override;
+    void processFinished() override;
+    void launcherDidTerminatedWithCode(int code) override;
+
+private:
+    bool isRingtone() const;
+    bool chooseOutputFile(QString* outputFile);
+    bool startChild(const QStringList& arguments);
+    void waitForChild();
+    void decideOutcome(const QString& outputFile);
+    void moveRingtone();
+    void deliverToLibrary(const QString& outputFile);
+    void removeOwnOutput(const QString& path);
+    void setState(int state);
+    void tellFinish();
+
+    TaskWrapper* wraperTask = nullptr; // owned; created and destroyed on the worker thread
+    std::atomic<bool> bIsConverting{false};
+    ConvertProgressTracker m_progress; // dLastTime, dLastPrg, dLastLeftTime
+    SXMusicInfoPtr _musicToConvert;
+    std::atomic<bool> isUserCancel{false};
+    std::atomic<int> iExitCode{0};
+    ConvertOperationDelegate* m_delegate = nullptr;
+    QString m_strOutFilePath;
+
+    // Guards the wrapper's lifetime and the cancel decision against the worker, and the fields
+    // above that are strings or shared pointers. Never held while a delegate is called.
+    mutable QMutex m_lock;
+    QPointer<QEventLoop> m_waitLoop; // woken by cancel from another thread
+    bool m_childEnded = false;       // outcome decided: cancel comes too late
+    std::atomic<bool> m_terminated{false};
+    bool m_ownsOutput = false; // the output file was created by this run
+};
+
+using ConvertOperationPtr = std::shared_ptr<ConvertOperation>;
