@@ -1,0 +1,52 @@
+#pragma once
+
+#include <QString>
+
+// Small file operations and standard folders. Each operation answers with its result and never
+// reports: callers that care check the returned value.
+class FileHelper {
+public:
+    // True when anything exists at the path (links followed).
+    static bool fileExistsWithPath(const QString& path);
+    // The same test as fileExistsWithPath: it does not tell folders from files.
+    static bool directoryExistsWithPath(const QString& path);
+    // Creates an empty file. Something already at the path is left alone and gives false.
+    static bool createFileWithPath(const QString& path);
+    // Creates the folder with its missing parents; true also when the folder is already there.
+    static bool createDirectoryWithPath(const QString& path);
+    // Creates a folder (not a file) with its parents when nothing exists at the path. The
+    // second argument has no meaning on this platform.
+    static void checkAndCreateFileAtPath(const QString& path, bool iCloud);
+    // Removes a file, a link (not its target) or a folder with its contents.
+    static bool deleteFileWithPath(const QString& path);
+    static bool deleteDirectoryWithPath(const QString& path);
+    // Move and copy refuse to replace anything at the destination. Folders are copied whole.
+    static bool moveFile(const QString& from, const QString& to);
+    static bool copyFile(const QString& from, const QString& to);
+    // Size in bytes; 0 when the path cannot be read.
+    static quint64 getFileSizeWithPath(const QString& path);
+
+    // Bytes available to this user on the file system of $HOME; 0 when it cannot be asked.
+    static quint64 getFileSystemFreeSize();
+    static bool isDiskFull();
+    // Below 560 MiB counts as full.
+    static bool isDiskFullForFreeBytes(quint64 freeBytes);
+
+    static QString getDocumentsPath(); // the desktop's documents folder
+    static QString getLibraryPath();   // per-user application data (~/.local/share)
+    static QString getAppPath();       // the folder of the running executable
+    static QString getTemporaryPath();
+    static QString dataDirectory(); // the documents folder
+    static QString getDownloadListFile();
+    static QString getDownloadMediaDirectory();
+    static QString getDownloadTempDirectory();
+    static QString getADImagesPath();
+    // <library>/Caches/lang/lang.dat; the folder is created first.
+    static QString getLangConfigPath();
+
+    // Depth-first search of `folder` for an entry called `fileName`. A match directly in
+    // `folder` gives the bare name; a match anywhere below a sub-folder gives that first-level
+    // sub-folder's path joined with the name (the deeper part is dropped). A null string when
+    // nothing matches. Every folder is searched at most once, whatever links point where.
+    static QString findFile(const QString& folder, const QString& fileName);
+};
