@@ -23,6 +23,8 @@ inline const QString ServiceBaseURL = QStringLiteral("ServiceBaseURLKey");
 inline const QString LibraryBackend = QStringLiteral("LibraryBackendKey");
 inline const QString MpdHost = QStringLiteral("MpdHostKey");
 inline const QString MpdPort = QStringLiteral("MpdPortKey");
+// MPD reveals its music folder only over its local socket; over TCP the user names it here.
+inline const QString MpdMusicDirectory = QStringLiteral("MpdMusicDirectoryKey");
 } // namespace SXSettingsKey
 
 // Typed access to the settings store (QSettings, organisation and application "Sonoria").

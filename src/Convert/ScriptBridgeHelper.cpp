@@ -1,0 +1,21 @@
+#include "Convert/ScriptBridgeHelper.h"
+
+#include "Common/Util/SXFileLocalManager.h"
+#include "Convert/SXMpdLibrary.h"
+#include "Convert/SXPlaylistFileLibrary.h"
+#include "Shared/SXLog.h"
+#include "Shared/SXSettings.h"
+
+void ScriptBridgeHelper::syncItunesLibrary(const QString& playlistName, const QString& originFile,
+                                           QString* error) {
+    Q_UNUSED(error)
+    const QString backend = SXSettings::stringForKey(SXSettingsKey::LibraryBackend).trimmed();
+    if (backend == QLatin1String("mpd")) {
+        SXMpdLibrary(SXMpdLibrary::serverFromSettings()).deliver(playlistName, originFile);
+        return;
+    }
+    if (!backend.isEmpty() && backend != QLatin1String("playlist"))
+        SXLog::line(
+            QStringLiteral("unknown library backend \"%1\"; using playlist files").arg(backend));
+    SXPlaylistFileLibrary(SXFileLocalManager::musicDirectory()).deliver(playlistName, originFile);
+}
