@@ -61,7 +61,7 @@ public:
 
 private:
     bool isRingtone() const;
-    bool chooseOutputFile(QString* outputFile);
+    void chooseOutputFile(QString* outputFile);
     bool startChild(const QStringList& arguments);
     void waitForChild();
     void decideOutcome(const QString& outputFile);
@@ -69,6 +69,7 @@ private:
     void deliverToLibrary(const QString& outputFile);
     void removeOwnOutput(const QString& path);
     void setState(int state);
+    void setStateLocked(int state); // with m_lock held
     void tellFinish();
 
     TaskWrapper* wraperTask = nullptr; // owned; created and destroyed on the worker thread
