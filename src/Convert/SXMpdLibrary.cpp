@@ -25,7 +25,7 @@ bool reportAndClear(mpd_connection* connection, const QString& what) {
     return mpd_connection_clear_error(connection);
 }
 
-bool isMissingPlaylist(mpd_connection* connection) {
+bool isMissing(mpd_connection* connection) {
     return mpd_connection_get_error(connection) == MPD_ERROR_SERVER &&
            mpd_connection_get_server_error(connection) == MPD_SERVER_ERROR_NO_EXIST;
 }
@@ -116,28 +116,57 @@ QString SXMpdLibrary::musicDirectory(mpd_connection* connection) const {
 }
 
 bool SXMpdLibrary::indexFile(mpd_connection* connection, const QByteArray& uri) const {
-    const unsigned job = mpd_run_update(connection, uri.constData());
+    const QByteArray scope = updateScope(connection, uri);
+    const unsigned job = mpd_run_update(connection, scope.constData());
     if (job == 0) {
-        reportAndClear(connection, QStringLiteral("update %1").arg(QString::fromUtf8(uri)));
+        reportAndClear(connection, QStringLiteral("update %1").arg(QString::fromUtf8(scope)));
         return false;
     }
     if (!waitForUpdate(connection, job))
         return false;
     // MPD skips files it cannot decode; such a file is not in its library.
-    bool found = false;
+    switch (lookUp(connection, uri, true)) {
+    case Known::Yes:
+        return true;
+    case Known::No:
+        SXLog::line(QStringLiteral("MPD did not index %1").arg(QString::fromUtf8(uri)));
+        return false;
+    case Known::Error:
+        return false;
+    }
+    return false;
+}
+
+// MPD (0.23) cannot update a file when more than one level of the folders above it is new to
+// its database, so the update starts at the first folder it does not know yet.
+QByteArray SXMpdLibrary::updateScope(mpd_connection* connection, const QByteArray& uri) const {
+    const QList<QByteArray> parts = uri.split('/');
+    QByteArray prefix;
+    for (qsizetype i = 0; i + 1 < parts.size(); ++i) {
+        prefix += (i == 0 ? QByteArray() : QByteArrayLiteral("/")) + parts.at(i);
+        if (lookUp(connection, prefix, false) != Known::Yes)
+            return prefix;
+    }
+    return uri;
+}
+
+SXMpdLibrary::Known SXMpdLibrary::lookUp(mpd_connection* connection, const QByteArray& uri,
+                                         bool mustBeSong) const {
+    bool song = false;
     if (mpd_send_list_meta(connection, uri.constData())) {
         while (mpd_entity* entity = mpd_recv_entity(connection)) {
-            found = found || mpd_entity_get_type(entity) == MPD_ENTITY_TYPE_SONG;
+            song = song || mpd_entity_get_type(entity) == MPD_ENTITY_TYPE_SONG;
             mpd_entity_free(entity);
         }
     }
-    if (!mpd_response_finish(connection)) {
-        reportAndClear(connection, QStringLiteral("lsinfo %1").arg(QString::fromUtf8(uri)));
-        return false;
+    if (mpd_response_finish(connection))
+        return !mustBeSong || song ? Known::Yes : Known::No;
+    if (isMissing(connection)) {
+        mpd_connection_clear_error(connection);
+        return Known::No;
     }
-    if (!found)
-        SXLog::line(QStringLiteral("MPD did not index %1").arg(QString::fromUtf8(uri)));
-    return found;
+    reportAndClear(connection, QStringLiteral("lsinfo %1").arg(QString::fromUtf8(uri)));
+    return Known::Error;
 }
 
 // Waits with "idle update" for the job to end. MPD remembers events that happened while the
@@ -184,7 +213,7 @@ bool SXMpdLibrary::playlistHolds(mpd_connection* connection, const QByteArray& p
     }
     if (!mpd_response_finish(connection)) {
         // A playlist that does not exist yet holds nothing; MPD creates it on the first add.
-        if (!isMissingPlaylist(connection))
+        if (!isMissing(connection))
             reportAndClear(connection, QStringLiteral("listplaylist"));
         else
             mpd_connection_clear_error(connection);

@@ -35,8 +35,12 @@ public:
     SXDeliveryResult deliver(const QString& playlistName, const QString& file) const;
 
 private:
+    enum class Known { Yes, No, Error };
+
     QString musicDirectory(mpd_connection* connection) const;
     bool indexFile(mpd_connection* connection, const QByteArray& uri) const;
+    QByteArray updateScope(mpd_connection* connection, const QByteArray& uri) const;
+    Known lookUp(mpd_connection* connection, const QByteArray& uri, bool mustBeSong) const;
     bool waitForUpdate(mpd_connection* connection, unsigned job) const;
     bool playlistHolds(mpd_connection* connection, const QByteArray& playlist,
                        const QByteArray& uri) const;
