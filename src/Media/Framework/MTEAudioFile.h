@@ -66,6 +66,8 @@ public:
     void setStatus(int status);
 
     // Writes the tags held here into the file at `path` (which must be of this handle's kind).
+    // Fields absent from dicReadInfo() stay as the file has them; an empty text or an empty
+    // albumImg list removes the field. False with *error set when nothing could be written.
     bool saveNew(const QString& path, QString* error = nullptr);
 
     QString strTagVersion() const; // for example "ID3 v2.4"
@@ -100,6 +102,10 @@ public:
     MTEArtworkList albumImg() const;
     void setAlbumImg(const MTEArtworkList& images);
 
+    // Whether the pictures are held in memory: false until they are first asked for (or
+    // replaced), so a handle of a file with large cover art stays small.
+    bool isArtworkLoaded() const;
+
     // An independent handle with the same values (edits to one never reach the other).
     std::shared_ptr<MTEAudioFile> copy() const;
 
@@ -107,11 +113,15 @@ public:
     static std::shared_ptr<MTEAudioFile> decodeWithCoder(const SXCoder& coder);
 
 protected:
-    MTEAudioFile() = default;
+    MTEAudioFile();
     MTEAudioFile(const MTEAudioFile&) = default;
 
 private:
     friend class MTEAudioFileMgr;
+    // Opens `path` once: the kind, and with `readTags` the text fields, audio properties and
+    // whether pictures are present. Null when TagLib cannot open it as audio.
+    static std::shared_ptr<MTEAudioFile> openWithPath(const QString& path, bool readTags);
+
     struct Private;
     std::shared_ptr<Private> d; // copy() deep-copies it
 };

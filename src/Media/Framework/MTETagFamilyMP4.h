@@ -1,0 +1,26 @@
+#pragma once
+
+#include "Media/Framework/MTETagFamily.h"
+
+namespace TagLib::MP4 {
+class Tag;
+}
+
+// MP4/M4A atoms. Fields without an atom of their own (publisher) live in free-form
+// "----:com.apple.iTunes:" items, the only custom keys MP4 accepts.
+class MTETagFamilyMP4 : public MTETagFamily {
+public:
+    QString name() const override;
+    const MTEKeyTable& keyTable() const override;
+    bool hasArtwork(TagLib::File& file) const override;
+    MTEArtworkList readArtwork(TagLib::File& file) const override;
+    QString tagVersion(TagLib::File& file) const override;
+
+protected:
+    QString readField(TagLib::File& file, MTETagField field) const override;
+    void writeField(TagLib::File& file, MTETagField field, const QString& value) const override;
+    void writeArtwork(TagLib::File& file, const MTEArtworkList& images) const override;
+
+private:
+    static TagLib::MP4::Tag* tagOf(TagLib::File& file);
+};

@@ -1,0 +1,134 @@
+#include "Media/Framework/MTETagFamilyXiph.h"
+
+#include <taglib/flacfile.h>
+#include <taglib/flacpicture.h>
+#include <taglib/oggflacfile.h>
+#include <taglib/opusfile.h>
+#include <taglib/speexfile.h>
+#include <taglib/vorbisfile.h>
+#include <taglib/xiphcomment.h>
+
+namespace {
+
+constexpr MTEKeyTable kKeys{"TITLE",   "ARTIST", "ALBUMARTIST",           "COMPOSER",  "ALBUM",
+                            "DATE",    "GENRE",  "TRACKNUMBER",           "COPYRIGHT", "PUBLISHER",
+                            "COMMENT", "LYRICS", "METADATA_BLOCK_PICTURE"};
+static_assert(mteKeyTableComplete(kKeys));
+
+// Names other taggers use for the same field, read when the file lacks ours. Writing a field
+// clears them too, so an old value cannot shadow the new one in another player.
+QStringList alternativeNames(MTETagField field) {
+    switch (field) {
+    case MTETagField::AlbumArtist:
+        return {QStringLiteral("ALBUM ARTIST")};
+    case MTETagField::Publisher:
+        return {QStringLiteral("ORGANIZATION"), QStringLiteral("LABEL")};
+    case MTETagField::Comment:
+        return {QStringLiteral("DESCRIPTION")};
+    case MTETagField::Lyric:
+        return {QStringLiteral("UNSYNCEDLYRICS")};
+    default:
+        return {};
+    }
+}
+
+TagLib::List<TagLib::FLAC::Picture*> picturesOf(TagLib::File& file,
+                                                TagLib::Ogg::XiphComment* comment) {
+    if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file))
+        return flac->pictureList();
+    return comment ? comment->pictureList() : TagLib::List<TagLib::FLAC::Picture*>();
+}
+
+} // namespace
+
+QString MTETagFamilyXiph::name() const {
+    return QStringLiteral("Xiph");
+}
+
+const MTEKeyTable& MTETagFamilyXiph::keyTable() const {
+    return kKeys;
+}
+
+TagLib::Ogg::XiphComment* MTETagFamilyXiph::commentOf(TagLib::File& file) {
+    if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file))
+        return flac->xiphComment(true);
+    if (auto* vorbis = dynamic_cast<TagLib::Ogg::Vorbis::File*>(&file))
+        return vorbis->tag();
+    if (auto* opus = dynamic_cast<TagLib::Ogg::Opus::File*>(&file))
+        return opus->tag();
+    if (auto* speex = dynamic_cast<TagLib::Ogg::Speex::File*>(&file))
+        return speex->tag();
+    if (auto* oggFlac = dynamic_cast<TagLib::Ogg::FLAC::File*>(&file))
+        return oggFlac->tag();
+    return nullptr;
+}
+
+QString MTETagFamilyXiph::readField(TagLib::File& file, MTETagField field) const {
+    TagLib::Ogg::XiphComment* comment = commentOf(file);
+    if (!comment)
+        return {};
+    const TagLib::Ogg::FieldListMap& fields = comment->fieldListMap();
+    const QStringList names = QStringList{ownKey(field)} + alternativeNames(field);
+    for (const QString& name : names) {
+        const TagLib::StringList values = fields.value(toTString(name));
+        if (values.isEmpty())
+            continue;
+        QStringList texts;
+        for (const TagLib::String& value : values)
+            texts.append(toQString(value));
+        return joined(texts);
+    }
+    return {};
+}
+
+void MTETagFamilyXiph::writeField(TagLib::File& file, MTETagField field,
+                                  const QString& value) const {
+    TagLib::Ogg::XiphComment* comment = commentOf(file);
+    if (!comment)
+        return;
+    for (const QString& name : alternativeNames(field))
+        comment->removeFields(toTString(name));
+    const TagLib::String key = toTString(ownKey(field));
+    comment->removeFields(key);
+    if (!value.isEmpty())
+        comment->addField(key, toTString(value));
+}
+
+bool MTETagFamilyXiph::hasArtwork(TagLib::File& file) const {
+    return !picturesOf(file, commentOf(file)).isEmpty();
+}
+
+MTEArtworkList MTETagFamilyXiph::readArtwork(TagLib::File& file) const {
+    MTEArtworkList images;
+    for (const TagLib::FLAC::Picture* picture : picturesOf(file, commentOf(file))) {
+        const QByteArray data = toQByteArray(picture->data());
+        images.append({data, mimeTypeOf(data, toQString(picture->mimeType()))});
+    }
+    return images;
+}
+
+void MTETagFamilyXiph::writeArtwork(TagLib::File& file, const MTEArtworkList& images) const {
+    auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file);
+    TagLib::Ogg::XiphComment* comment = commentOf(file);
+    if (flac)
+        flac->removePictures();
+    else if (comment)
+        comment->removeAllPictures();
+    else
+        return;
+    for (qsizetype i = 0; i < images.size(); ++i) {
+        // Both owners below take the picture over.
+        auto* picture = new TagLib::FLAC::Picture;
+        picture->setType(i == 0 ? TagLib::FLAC::Picture::FrontCover : TagLib::FLAC::Picture::Other);
+        picture->setMimeType(toTString(mimeTypeOf(images[i].data, images[i].mimeType)));
+        picture->setData(toByteVector(images[i].data));
+        if (flac)
+            flac->addPicture(picture);
+        else
+            comment->addPicture(picture);
+    }
+}
+
+QString MTETagFamilyXiph::tagVersion(TagLib::File& file) const {
+    return commentOf(file) ? QStringLiteral("Vorbis Comment") : QString();
+}
