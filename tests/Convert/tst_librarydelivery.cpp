@@ -8,6 +8,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 #include <QUrl>
 
@@ -222,6 +223,27 @@ private Q_SLOTS:
         for (int i = 0; i < files.size(); ++i)
             QCOMPARE(lines.count(QStringLiteral("batch/%1.mp3").arg(i).toUtf8()), 1);
         QCOMPARE(QDir(m_music).entryList(QDir::Files | QDir::Hidden).size(), 1); // no leftovers
+    }
+
+    // Another process (a second instance, the command-line tool) holding the folder's lock
+    // makes a delivery wait instead of writing underneath it.
+    void deliveryWaitsForAnotherProcessHoldingTheLock() {
+        const QString file = place(m_music, QStringLiteral("late.mp3"));
+        const QString held = m_outside + QStringLiteral("/held");
+        const QString verdict = m_outside + QStringLiteral("/verdict");
+        QProcess holder;
+        holder.start(QStringLiteral("flock"),
+                     {m_music, QStringLiteral("sh"), QStringLiteral("-c"),
+                      QStringLiteral("touch \"$1\"; sleep 1; "
+                                     "if [ -e \"$3\" ]; then echo early; else echo waited; fi > "
+                                     "\"$2\""),
+                      QStringLiteral("sh"), held, verdict, m_music + QStringLiteral("/Late.m3u8")});
+        QVERIFY(holder.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(held), 10000);
+        QCOMPARE(SXPlaylistFileLibrary(m_music).deliver(QStringLiteral("Late"), file),
+                 SXDeliveryResult::Added);
+        QVERIFY(holder.waitForFinished());
+        QCOMPARE(readAll(verdict), QByteArray("waited\n"));
     }
 
     void unusableMusicFolderOrMissingFileIsLoggedOnly() {
