@@ -1,0 +1,444 @@
+#include "Convert/ConvertOperation.h"
+
+#include "Convert/ConvertOutputPath.h"
+#include "Convert/SXLibraryScript.h"
+#include "Convert/ScriptBridgeHelper.h"
+#include "Convert/TaskWrapper.h"
+#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Shared/SXBundle.h"
+#include "Shared/SXLog.h"
+#include "Shared/SXSettings.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QStandardPaths>
+#include <QTimer>
+
+#include <csignal>
+#include <sys/types.h>
+
+namespace {
+const QString kRingtone = QStringLiteral("ringtone");
+const QString kRingtoneEncodeExt = QStringLiteral("m4a");
+constexpr double kForceStereoAboveKbps = 192.0;
+constexpr int kSliceMs = 1000;
+// After a cancel the child was asked to stop; ffmpeg closes its file first. A child that is
+// still there after this long is killed so the run can end.
+constexpr int kStopGraceMs = 10000;
+
+QString readableList(const QStringList& list) {
+    QStringList quoted;
+    for (const QString& item : list)
+        quoted.append(QLatin1Char('"') + item + QLatin1Char('"'));
+    return QLatin1Char('(') + quoted.join(QStringLiteral(", ")) + QLatin1Char(')');
+}
+} // namespace
+
+ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
+    : _musicToConvert(item) {
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setEumCvtState(CvtStateReady);
+}
+
+ConvertOperation::~ConvertOperation() {
+    SXLog::line(QStringLiteral("operation dealloced"));
+    if (wraperTask) {
+        wraperTask->stopProcess();
+        delete wraperTask;
+        wraperTask = nullptr;
+    }
+}
+
+SXMusicInfoPtr ConvertOperation::musicToConvert() const {
+    QMutexLocker locker(&m_lock);
+    return _musicToConvert;
+}
+
+void ConvertOperation::setMusicToConvert(const SXMusicInfoPtr& item) {
+    QMutexLocker locker(&m_lock);
+    _musicToConvert = item;
+}
+
+QString ConvertOperation::strOutFilePath() const {
+    QMutexLocker locker(&m_lock);
+    return m_strOutFilePath;
+}
+
+void ConvertOperation::setStrOutFilePath(const QString& path) {
+    QMutexLocker locker(&m_lock);
+    m_strOutFilePath = path;
+}
+
+QString ConvertOperation::ffmpegPath() {
+    const QString beside =
+        QDir::cleanPath(SXBundle::executableDirectory() + QStringLiteral("/ffmpeg"));
+    const QFileInfo info(beside);
+    if (info.isFile() && info.isExecutable())
+        return beside;
+    return QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
+}
+
+QStringList ConvertOperation::buildArguments(const QString& executable, const LSMedia& media,
+                                             const QString& outputFile) {
+    const double bitrate = media.dAOBitrate();
+    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChanels();
+    return {executable,
+            QStringLiteral("-i"),
+            media.filePath(),
+            QStringLiteral("-vn"),
+            QStringLiteral("-acodec"),
+            media.vOACodecName(),
+            QStringLiteral("-ar"),
+            QString::number(media.dAOSamplerate(), 'f', 2),
+            QStringLiteral("-b:a"),
+            QString::number(bitrate, 'f', 2) + QLatin1Char('k'),
+            QStringLiteral("-ac"),
+            QString::number(channels),
+            QStringLiteral("-y"),
+            outputFile};
+}
+
+bool ConvertOperation::isRingtone() const {
+    const SXMusicInfoPtr item = musicToConvert();
+    return item && item->getStrMusicType().toLower() == kRingtone;
+}
+
+void ConvertOperation::setState(int state) {
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setEumCvtState(state);
+}
+
+void ConvertOperation::setStateLocked(int state) {
+    if (_musicToConvert && _musicToConvert->mediaInfo())
+        _musicToConvert->mediaInfo()->setEumCvtState(state);
+}
+
+void ConvertOperation::tellFinish() {
+    if (m_delegate)
+        m_delegate->didConvertOperationFinish(this);
+}
+
+void ConvertOperation::main() {
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (!media) {
+        SXLog::line(QStringLiteral("convert item has no media record"));
+        tellFinish();
+        return;
+    }
+    const QString ffmpeg = ffmpegPath();
+    if (ffmpeg.isEmpty()) {
+        SXLog::line(QStringLiteral("ffmpeg not found"));
+        setState(CvtStateFailed);
+        tellFinish();
+        return;
+    }
+    QString outputFile;
+    chooseOutputFile(&outputFile);
+    const QStringList arguments = buildArguments(ffmpeg, *media, outputFile);
+    SXLog::line(QStringLiteral("tOutFile:") + outputFile);
+    SXLog::line(QStringLiteral("args:") + readableList(arguments));
+
+    if (!startChild(arguments)) {
+        // Cancelled after the queue let it run but before the child started: like a waiting
+        // operation, it reports nothing; only the name it reserved is given back.
+        removeOwnOutput(outputFile);
+        return;
+    }
+    waitForChild();
+    decideOutcome(outputFile);
+    const int state = media->eumCvtState();
+    if (state == CvtStateFinished)
+        handleMetadataSave();
+    moveRingtone();
+    deliverToLibrary(outputFile);
+    tellFinish();
+}
+
+void ConvertOperation::chooseOutputFile(QString* outputFile) {
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item->mediaInfo();
+    const QString ext = isRingtone() ? kRingtoneEncodeExt : media->strOutFileExt();
+    QString name = media->strOutFileName();
+    if (!ext.isEmpty())
+        name += QLatin1Char('.') + ext;
+
+    // Always absolute: ffmpeg takes its last argument as the output, and an absolute path can
+    // never be mistaken for an option.
+    QString folder = strOutFilePath();
+    folder = folder.isEmpty() ? QFileInfo(media->filePath()).absolutePath()
+                              : QDir(folder).absolutePath();
+    setStrOutFilePath(folder);
+
+    bool reserved = false;
+    QString error;
+    *outputFile =
+        ConvertOutputPath::reserve(folder + QLatin1Char('/') + name, ext, &reserved, &error);
+    if (!reserved)
+        SXLog::line(QStringLiteral("can't create output file %1: %2").arg(*outputFile, error));
+    m_ownsOutput = reserved;
+    setStrOutFilePath(*outputFile);
+}
+
+bool ConvertOperation::startChild(const QStringList& arguments) {
+    auto* wrapper = new TaskWrapper(this, arguments);
+    TaskWrapper* earlier = nullptr;
+    {
+        QMutexLocker locker(&m_lock);
+        if (isCancelled()) {
+            locker.unlock();
+            delete wrapper;
+            return false;
+        }
+        earlier = wraperTask;
+        wraperTask = wrapper;
+        iExitCode = 0;
+        m_terminated = false;
+    }
+    if (earlier) {
+        earlier->stopProcess();
+        delete earlier;
+    }
+    wrapper->startProcess();
+
+    QMutexLocker locker(&m_lock);
+    if (isUserCancel) {
+        // The cancel came while the child was being launched, so its stop request may have
+        // found no process yet: ask again now that it exists.
+        wrapper->stopProcess();
+        bIsConverting = false;
+    } else {
+        setStateLocked(CvtStateConverting);
+        bIsConverting = true;
+    }
+    return true;
+}
+
+void ConvertOperation::waitForChild() {
+    QEventLoop loop;
+    QTimer slice;
+    slice.setInterval(kSliceMs);
+    QObject::connect(&slice, &QTimer::timeout, &loop, [&loop] { loop.quit(); });
+    {
+        QMutexLocker locker(&m_lock);
+        m_waitLoop = &loop;
+    }
+    slice.start();
+    while (bIsConverting)
+        loop.exec();
+
+    // A cancel ends the wait at once, but the child may still be writing its output: wait
+    // until it is gone, so the output can be removed for good and no process outlives the run.
+    QElapsedTimer sinceCancel;
+    sinceCancel.start();
+    bool killed = false;
+    while (!m_terminated) {
+        if (!killed && sinceCancel.elapsed() > kStopGraceMs) {
+            QMutexLocker locker(&m_lock);
+            if (wraperTask && wraperTask->processId() > 0)
+                ::kill(static_cast<pid_t>(wraperTask->processId()), SIGKILL);
+            killed = true;
+        }
+        loop.exec();
+    }
+    QMutexLocker locker(&m_lock);
+    m_waitLoop.clear();
+}
+
+void ConvertOperation::decideOutcome(const QString& outputFile) {
+    bool cancelled = false;
+    TaskWrapper* finishedWrapper = nullptr;
+    {
+        QMutexLocker locker(&m_lock);
+        m_childEnded = true;
+        cancelled = isUserCancel;
+        finishedWrapper = wraperTask;
+        wraperTask = nullptr;
+    }
+    // The child is gone; the wrapper is destroyed here, on the thread its process lives on.
+    delete finishedWrapper;
+
+    if (cancelled) {
+        // A cancelled run never counts as finished, even when the child managed to exit 0
+        // before the cancel reached it: the user asked for no file.
+        setState(CvtStateCanceled);
+        removeOwnOutput(outputFile);
+        return;
+    }
+    if (iExitCode == 0) {
+        if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToiTunes)) {
+            setState(CvtStateSending);
+            SXLibraryScript::run(outputFile);
+        }
+        setState(CvtStateFinished);
+        return;
+    }
+    setState(CvtStateFailed);
+    removeOwnOutput(outputFile);
+}
+
+void ConvertOperation::removeOwnOutput(const QString& path) {
+    // Only a file this run created: a name we could not reserve may belong to someone else.
+    if (m_ownsOutput && QFileInfo::exists(path))
+        QFile::remove(path);
+    m_ownsOutput = false;
+}
+
+void ConvertOperation::moveRingtone() {
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item->mediaInfo();
+    const int state = media->eumCvtState();
+    if (state == CvtStateCanceled || state == CvtStateFailed || !isRingtone())
+        return;
+    const QString current = strOutFilePath();
+    const QFileInfo info(current);
+    QString wanted = current;
+    if (!info.suffix().isEmpty())
+        wanted.chop(info.suffix().size() + 1);
+    if (!media->strOutFileExt().isEmpty())
+        wanted += QLatin1Char('.') + media->strOutFileExt();
+    if (!info.exists())
+        return;
+    QString error;
+    const QString target = ConvertOutputPath::moveWithoutReplacing(current, wanted, &error);
+    if (target.isEmpty()) {
+        SXLog::line(QStringLiteral("can't move %1 to %2: %3").arg(current, wanted, error));
+        setState(CvtStateFailed);
+        return;
+    }
+    setStrOutFilePath(target);
+}
+
+void ConvertOperation::deliverToLibrary(const QString& outputFile) {
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !item->bIsSendingToiTunes())
+        return;
+    setState(CvtStateSending);
+    if (m_delegate)
+        m_delegate->convertStartSync(this);
+    setState(CvtStateSending);
+    QString playlist = SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+    if (playlist.isEmpty())
+        playlist = SXBundle::productName();
+    ScriptBridgeHelper::syncItunesLibrary(playlist, outputFile);
+    setState(CvtStateFinished);
+}
+
+void ConvertOperation::handleMetadataSave() {
+    const QString path = strOutFilePath();
+    const std::shared_ptr<MTEAudioFile> destination =
+        MTEAudioFileMgr::createAudioFileWithPath(path, false);
+    if (!destination) {
+        SXLog::line(QStringLiteral("save metadate for file (%1) failed!").arg(path));
+        return;
+    }
+    destination->setStatus(1);
+    if (destination->eumFileType() == MTEAudioFile::FileTypeUnwritable) {
+        SXLog::line(
+            QStringLiteral("CAN'T WRITE ID3 FOR FILE TYPE %1").arg(destination->eumFileType()));
+        return;
+    }
+    const SXMusicInfoPtr item = musicToConvert();
+    const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
+    if (source) {
+        const QMap<QString, QString> sourceMap = source->dicMap();
+        const QMap<QString, QString> destinationMap = destination->dicMap();
+        const QMap<QString, QVariant> values = source->dicReadInfo();
+        for (auto value = values.cbegin(); value != values.cend(); ++value) {
+            // Several generic names may share one own key; the last one decides.
+            QString generic;
+            for (auto entry = sourceMap.cbegin(); entry != sourceMap.cend(); ++entry) {
+                if (entry.value() == value.key())
+                    generic = entry.key();
+            }
+            const QString destinationKey = destinationMap.value(generic);
+            if (!generic.isEmpty() && !destinationKey.isEmpty() && value.value().isValid())
+                destination->setReadInfoValue(destinationKey, value.value());
+        }
+    }
+    destination->saveNew(path);
+}
+
+void ConvertOperation::cancel() {
+    QMutexLocker locker(&m_lock);
+    if (isFinished() || m_childEnded)
+        return; // the outcome is decided; nothing is left to stop
+    if (wraperTask) {
+        const SXMusicInfoPtr item = _musicToConvert;
+        if (item && item->mediaInfo() && item->mediaInfo()->eumCvtState() == CvtStatePaused)
+            wraperTask->resume(); // a stopped child cannot act on the terminate request
+        wraperTask->stopProcess();
+        SXOperation::cancel();
+        setStateLocked(CvtStateCanceled);
+        bIsConverting = false;
+        isUserCancel = true;
+        // The partial output is removed by main once the child is gone (it may still write).
+        if (m_waitLoop)
+            QMetaObject::invokeMethod(m_waitLoop.data(), &QEventLoop::quit, Qt::QueuedConnection);
+        return;
+    }
+    SXOperation::cancel();
+    setStateLocked(CvtStateCanceled);
+    bIsConverting = false;
+}
+
+void ConvertOperation::pause() {
+    QMutexLocker locker(&m_lock);
+    if (!wraperTask || m_childEnded)
+        return;
+    setStateLocked(CvtStatePaused);
+    wraperTask->suspend();
+}
+
+void ConvertOperation::resume() {
+    QMutexLocker locker(&m_lock);
+    if (!wraperTask || m_childEnded)
+        return;
+    setStateLocked(CvtStateConverting);
+    wraperTask->resume();
+}
+
+void ConvertOperation::appendOutput(const QString& output) {
+    SXLog::line(QStringLiteral("Append output:") +
+                (output.isNull() ? QStringLiteral("(null)") : output));
+    if (output.isEmpty())
+        return;
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (!media)
+        return;
+    const ConvertProgressTracker::Update update = m_progress.feed(output, media->duration());
+    if (!update.hasTime)
+        return;
+    media->setDProgress(update.progress);
+    media->setDLeftTime(update.leftTime);
+    if (update.renewed && m_delegate)
+        m_delegate->convertOperationHandleProgress(this, media->dProgress());
+}
+
+void ConvertOperation::processStarted() {
+    bIsConverting = true;
+    if (m_delegate)
+        m_delegate->didConvertOperationStart(this);
+}
+
+void ConvertOperation::processFinished() {
+    SXLog::line(QStringLiteral("process finised..."));
+}
+
+void ConvertOperation::launcherDidTerminatedWithCode(int code) {
+    SXLog::line(QStringLiteral("exit code:%1").arg(code));
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setDProgress(100.0);
+    iExitCode = code;
+    m_terminated = true;
+    bIsConverting = false;
+    if (m_waitLoop)
+        m_waitLoop->quit();
+}
