@@ -1,0 +1,25 @@
+#include "Model/SXFormatSetting.h"
+
+std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
+    auto result = std::make_shared<SXFormatSetting>();
+    result->setFmtName(m_fmtName);
+    result->setFmtDescribe(m_fmtDescribe);
+    result->setSampleRate(m_sampleRate);
+    result->setBiteRate(m_biteRate);
+    result->setChannels(m_channels);
+    // The lists are handed over, not duplicated: QStringList's implicit sharing keeps one list.
+    result->setAryBiteRate(m_aryBiteRate);
+    result->setAryChannels(m_aryChannels);
+    result->setArySampleRate(m_arySampleRate);
+    result->setDecodecName(m_decodecName);
+    result->setOutputExtName(m_outputExtName);
+    result->setStrImgFileName(m_strImgFileName);
+    result->setOutputPath(m_outputPath);
+    result->setEnumAddToiTunes(m_enumAddToiTunes);
+    result->setIsSaveAsOriginal(m_isSaveAsOriginal);
+    return result;
+}
+
+QString SXFormatSetting::description() const {
+    return QStringLiteral("<SXFormatSetting: 0x%1>").arg(reinterpret_cast<quintptr>(this), 0, 16);
+}

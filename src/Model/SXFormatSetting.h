@@ -1,0 +1,69 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <memory>
+
+// One output format: what it offers the user (the three choice lists), what the user chose, and
+// what the encoder needs. Containers own copies of the catalogue's records. Everything is held by
+// value, so editing a container's choices never reaches the catalogue; the choice lists of a copy
+// stay shared with the record it came from (QStringList's implicit sharing) because nobody edits
+// them after loading.
+class SXFormatSetting {
+public:
+    SXFormatSetting() = default;
+
+    QStringList arySampleRate() const { return m_arySampleRate; }
+    void setArySampleRate(const QStringList& values) { m_arySampleRate = values; }
+    QStringList aryBiteRate() const { return m_aryBiteRate; }
+    void setAryBiteRate(const QStringList& values) { m_aryBiteRate = values; }
+    QStringList aryChannels() const { return m_aryChannels; }
+    void setAryChannels(const QStringList& values) { m_aryChannels = values; }
+
+    QString fmtName() const { return m_fmtName; }
+    void setFmtName(const QString& name) { m_fmtName = name; }
+    QString fmtDescribe() const { return m_fmtDescribe; }
+    void setFmtDescribe(const QString& text) { m_fmtDescribe = text; }
+    QString sampleRate() const { return m_sampleRate; }
+    void setSampleRate(const QString& choice) { m_sampleRate = choice; }
+    QString biteRate() const { return m_biteRate; }
+    void setBiteRate(const QString& choice) { m_biteRate = choice; }
+    QString channels() const { return m_channels; }
+    void setChannels(const QString& choice) { m_channels = choice; }
+    QString decodecName() const { return m_decodecName; }
+    void setDecodecName(const QString& encoder) { m_decodecName = encoder; }
+    QString outputExtName() const { return m_outputExtName; }
+    void setOutputExtName(const QString& ext) { m_outputExtName = ext; }
+    QString strImgFileName() const { return m_strImgFileName; }
+    void setStrImgFileName(const QString& name) { m_strImgFileName = name; }
+    QString outputPath() const { return m_outputPath; }
+    void setOutputPath(const QString& path) { m_outputPath = path; }
+    // -1: no music-library option for this format, 0: offered and off, 1: offered and on.
+    int enumAddToiTunes() const { return m_enumAddToiTunes; }
+    void setEnumAddToiTunes(int value) { m_enumAddToiTunes = value; }
+    bool isSaveAsOriginal() const { return m_isSaveAsOriginal; }
+    void setIsSaveAsOriginal(bool value) { m_isSaveAsOriginal = value; }
+
+    std::shared_ptr<SXFormatSetting> copy() const;
+
+    // The generic text that names this object ("<SXFormatSetting: 0x...>"), not its fmtDescribe.
+    QString description() const;
+
+private:
+    QStringList m_arySampleRate;
+    QStringList m_aryBiteRate;
+    QStringList m_aryChannels;
+    QString m_fmtName;
+    QString m_fmtDescribe;
+    QString m_sampleRate;
+    QString m_biteRate;
+    QString m_channels;
+    QString m_decodecName;
+    QString m_outputExtName;
+    QString m_strImgFileName;
+    QString m_outputPath;
+    int m_enumAddToiTunes = 0;
+    bool m_isSaveAsOriginal = false;
+};
+
+using SXFormatSettingPtr = std::shared_ptr<SXFormatSetting>;
