@@ -1,0 +1,231 @@
+#include "Workspace/SXWorkspaceFileLists.h"
+
+#include "Shared/GlobalFun.h"
+#include "Shared/SXLog.h"
+#include "Shared/SXSettings.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <cstdio>
+#include <sys/stat.h>
+
+namespace {
+// The way the system log has always shown a list of items.
+QString describeItems(const SXMusicInfoList& items) {
+    QStringList lines;
+    for (const SXMusicInfoPtr& item : items)
+        lines.append(QStringLiteral("    ") + item->description());
+    return lines.isEmpty()
+               ? QStringLiteral("(\n)")
+               : QStringLiteral("(\n") + lines.join(QStringLiteral(",\n")) + QStringLiteral("\n)");
+}
+} // namespace
+
+SXWorkspaceFileLists::SXWorkspaceFileLists(QObject* parent)
+    : SXWorkspaceContainers(parent) {}
+
+SXWorkspaceFileLists::~SXWorkspaceFileLists() {
+    // A worker that still runs must not report to a workspace that is gone.
+    if (m_mediaLoader) {
+        m_mediaLoader->setDelegate(nullptr);
+        m_mediaLoader->cancel();
+        m_mediaLoader->waitUntilDone();
+    }
+}
+
+// --- Adding ---
+
+void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
+    Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
+    Q_EMIT loadProgressValue(0.0);
+    setAppState(AppStateLoading);
+
+    if (m_mediaLoader)
+        m_mediaLoader->setDelegate(nullptr);
+    m_mediaLoader = LSMediaLoader::create();
+    m_mediaLoader->setDelegate(this);
+
+    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths), getCurTableDatasource());
+
+    const QString container = getSelectedMusicFormat();
+    _loadingFileArray.clear();
+    _loadingFileArray.reserve(10);
+    for (const QString& path : candidates) {
+        auto media = std::make_shared<LSMedia>();
+        media->setFilePath(path);
+        media->setStrOutFileName(QFileInfo(path).completeBaseName());
+        auto item = std::make_shared<SXMusicInfo>();
+        item->setStrMusicType(container);
+        item->setMediaInfo(media);
+        item->setStrFilePath(path);
+        _loadingFileArray.append(item);
+    }
+    // Keep our own reference: an empty batch completes inside this call.
+    const LSMediaLoaderPtr loader = m_mediaLoader;
+    loader->loadMediasWithMediaArray(_loadingFileArray);
+}
+
+QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths) {
+    const bool acceptVob = SXSettings::boolForKey(SXSettingsKey::AppSupportVob, false);
+    QStringList candidates;
+    for (const QString& path : paths) {
+        struct stat status {};
+        if (::lstat(QFile::encodeName(path).constData(), &status) != 0) {
+            std::perror("lstat error");
+            continue;
+        }
+        if (S_ISDIR(status.st_mode)) {
+            candidates.append(GlobalFun::fileListAtDirenctory(path, GlobalFun::getSupportedFmts()));
+        } else if (QFileInfo(path).suffix().compare(QLatin1String("vob"), Qt::CaseInsensitive) ==
+                   0) {
+            if (acceptVob)
+                candidates.append(path);
+        } else {
+            candidates.append(path);
+        }
+    }
+    return candidates;
+}
+
+QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
+                                                     const SXMusicInfoList& current) {
+    if (current.isEmpty())
+        return candidates;
+    QSet<QString> present;
+    for (const SXMusicInfoPtr& item : current)
+        present.insert(item->strFilePath());
+    // The index advances after a drop, so the path that slid into the dropped one's place is
+    // not looked at in this pass. Users have long had this behaviour; it stays.
+    for (int i = 0; i < candidates.size(); ++i) {
+        const QString path = candidates.at(i);
+        if (present.contains(path))
+            candidates.removeAll(path);
+    }
+    return candidates;
+}
+
+void SXWorkspaceFileLists::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
+    const QString name = item ? QFileInfo(item->strFilePath()).fileName() : QString();
+    Q_EMIT loadProgressText(name.isEmpty() ? QString()
+                                           : QStringLiteral("Importing %1...").arg(name));
+}
+
+void SXWorkspaceFileLists::mediaLoaderDidReceiveProgress(LSMediaLoader*, double progress) {
+    Q_EMIT loadProgressValue(progress);
+}
+
+void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
+    LSMediaLoader*, const std::optional<SXMusicInfoList>& medias,
+    const std::optional<QSet<int>>& failedIndex) {
+    SXLog::line(QStringLiteral("finish complete load media....."));
+    SXMusicInfoList loaded = medias.value_or(SXMusicInfoList());
+    SXMusicInfoList failed;
+    if (failedIndex) {
+        for (int i = 0; i < loaded.size(); ++i) {
+            if (failedIndex->contains(i))
+                failed.append(loaded.at(i));
+        }
+        for (const SXMusicInfoPtr& item : std::as_const(failed))
+            loaded.removeOne(item);
+    }
+    SXLog::line(QStringLiteral("failed array : %1").arg(describeItems(failed)));
+    {
+        // The container selected now, which need not be the one selected when the run began.
+        QMutexLocker locker(&m_dataLock);
+        const QString container = getSelectedMusicFormat();
+        if (!container.isEmpty())
+            _dicfmtFiles[container].append(loaded);
+    }
+    QMetaObject::invokeMethod(
+        this, [this, failed] { mainSelCompleteLoad(failed); }, Qt::QueuedConnection);
+}
+
+void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
+    refreshListView();
+    if (selectedRows().isEmpty() && getCurentTabMusicCount() > 0)
+        setSelectedRows({0});
+    refreshTabCount();
+    if (!failed.isEmpty())
+        runAlert({QStringLiteral("Following file(s) load failed!"),
+                  loadFailureText(failed),
+                  {QStringLiteral("OK")}});
+    Q_EMIT loadFinished(failed);
+    setAppState(AppStateIdle);
+}
+
+QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
+    QString text;
+    for (int i = 0; i < failed.size(); ++i) {
+        const LSMediaPtr media = failed.at(i)->mediaInfo();
+        text +=
+            QStringLiteral("%1\n").arg(QFileInfo(media ? media->filePath() : QString()).fileName());
+        if (i == 10) {
+            text += QStringLiteral("...");
+            break;
+        }
+    }
+    return text;
+}
+
+void SXWorkspaceFileLists::clickCancel() {
+    if (enumAppState() == AppStateLoading && m_mediaLoader)
+        m_mediaLoader->cancel();
+    Q_EMIT loadCancelled();
+}
+
+// --- Removing and finding ---
+
+void SXWorkspaceFileLists::removeFile(const SXMusicInfoList& items, const QString& fromFiles) {
+    {
+        QMutexLocker locker(&m_dataLock);
+        auto list = _dicfmtFiles.find(fromFiles);
+        if (items.isEmpty() || list == _dicfmtFiles.end() || list->isEmpty())
+            return;
+        removeEqualItems(items, *list);
+    }
+    refreshTabCount();
+}
+
+void SXWorkspaceFileLists::clickDeleteFile() {
+    const SXMusicInfoList items = selectedItems();
+    if (items.isEmpty()) {
+        beep();
+        return;
+    }
+    removeFile(items, getSelectedMusicFormat());
+    refreshListView();
+}
+
+void SXWorkspaceFileLists::clickClear() {
+    const SXMusicInfoList items = getCurTableDatasource();
+    if (items.isEmpty()) {
+        beep();
+        return;
+    }
+    removeFile(items, getSelectedMusicFormat());
+    refreshListView();
+}
+
+int SXWorkspaceFileLists::indexMusicItem(const SXMusicInfoPtr& item,
+                                         const SXMusicInfoList& inArray) {
+    if (!item || inArray.isEmpty())
+        return -1;
+    const QString path = item->strFilePath();
+    for (int i = 0; i < inArray.size(); ++i) {
+        if (inArray.at(i)->strFilePath() == path)
+            return i;
+    }
+    return -1;
+}
+
+SXMusicInfoList
+SXWorkspaceFileLists::getDuplicateFiles(const SXMusicInfoList& items,
+                                        const SXMusicInfoList& inSelectedTableView) {
+    SXMusicInfoList duplicates;
+    for (const SXMusicInfoPtr& item : items) {
+        if (indexMusicItem(item, inSelectedTableView) >= 0)
+            duplicates.append(item);
+    }
+    return duplicates;
+}

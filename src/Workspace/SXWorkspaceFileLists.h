@@ -1,0 +1,63 @@
+#pragma once
+
+#include "Media/LSMediaLoader.h"
+#include "Workspace/SXWorkspaceContainers.h"
+
+#include <QByteArray>
+
+// The file lists of a workspace: adding files (an add run probes them on a loader's worker
+// thread), removing and finding items.
+class SXWorkspaceFileLists : public SXWorkspaceContainers, public LSMediaLoaderDelegate {
+    Q_OBJECT
+public:
+    explicit SXWorkspaceFileLists(QObject* parent = nullptr);
+    ~SXWorkspaceFileLists() override;
+
+    // --- Adding ---
+    // The add run for the selected container: expands folders, filters, drops paths already in
+    // the container and probes the rest. Ends with loadFinished() (state back to idle).
+    void loadAndParseFiles(const QStringList& paths);
+    // The loading sheet's cancel button.
+    void clickCancel();
+    // The end of an add run on the main thread; `failed` are the items that could not be probed.
+    void mainSelCompleteLoad(const SXMusicInfoList& failed);
+    LSMediaLoaderPtr mediaLoader() const { return m_mediaLoader; }
+
+    // The candidate paths of an add run before de-duplication (lstat, folders, the "vob" rule).
+    static QStringList expandPaths(const QStringList& paths);
+    // Drops from `candidates` the paths already in `current`, with the walk that skips the path
+    // moving into a dropped one's place.
+    static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);
+    // "%@\n" per name, "..." after the 11th.
+    static QString loadFailureText(const SXMusicInfoList& failed);
+
+    // LSMediaLoaderDelegate (worker thread)
+    void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) override;
+    void mediaLoaderDidReceiveProgress(LSMediaLoader* loader, double progress) override;
+    void mediaLoaderDidCompleteLoadMedias(LSMediaLoader* loader,
+                                          const std::optional<SXMusicInfoList>& medias,
+                                          const std::optional<QSet<int>>& failedIndex) override;
+
+    // --- Removing and finding ---
+    // Removes from the container named `fromFiles` the first item equal to each of `items`.
+    void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
+    void clickDeleteFile();
+    void clickClear();
+    static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
+    static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
+                                             const SXMusicInfoList& inSelectedTableView);
+
+Q_SIGNALS:
+    // The loading sheet: shown with `text`, then its text and bar (0..1) change. The text and
+    // progress signals are emitted on the loader's worker thread.
+    void loadStarted(const QString& text);
+    void loadProgressText(const QString& text);
+    void loadProgressValue(double fraction);
+    // The sheet is to be hidden at once (the run still ends with loadFinished).
+    void loadCancelled();
+    void loadFinished(const SXMusicInfoList& failed);
+
+private:
+    LSMediaLoaderPtr m_mediaLoader;
+    SXMusicInfoList _loadingFileArray;
+};

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "Model/SXFormatSetting.h"
+
+#include <QList>
+#include <QString>
+#include <QStringList>
+#include <optional>
+
+// A message the workspace needs the user to see and answer. The window shows it as a
+// window-modal alert; a terminal prints it; a test answers it.
+struct SXAlert {
+    QString messageText;     // the bold first line ("Following file(s) load failed!")
+    QString informativeText; // the body, may be empty
+    QStringList buttons;     // in order; the first is the default button
+};
+
+// What the output-folder chooser starts from.
+struct SXOutputFolderRequest {
+    QString startFolder;
+    QString message; // "Please choose output folder:"
+    QString prompt;  // "OK"
+    bool organizeByFormat = true;
+    bool openWhenDone = false;
+};
+
+// What the user chose in the output-folder chooser.
+struct SXOutputFolderChoice {
+    QString folder;
+    bool organizeByFormat = true;
+    bool openWhenDone = false;
+};
+
+// Everything the workspace asks of its front end and waits for. The core never shows anything
+// itself: the desktop window implements this with window-modal dialogs, the command-line tool
+// and the tests answer programmatically. All calls come on the main thread.
+class SXWorkspacePresenter {
+public:
+    virtual ~SXWorkspacePresenter() = default;
+
+    // A modal alert; returns the index of the chosen button in alert.buttons.
+    virtual int runModalAlert(const SXAlert& alert) = 0;
+    // A sheet that only informs (nothing waits for it), such as the refusal to close a tab.
+    virtual void showSheetAlert(const SXAlert& alert) = 0;
+    // The output folder of a run; nothing when the user cancelled.
+    virtual std::optional<SXOutputFolderChoice>
+    chooseOutputFolder(const SXOutputFolderRequest& request) = 0;
+    // The format of a new container among `formats` (catalogue order); nullptr when cancelled.
+    virtual SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) = 0;
+    // The system's "refused" sound.
+    virtual void beep() = 0;
+    // Shows a folder in the file browser.
+    virtual void openFolder(const QString& path) = 0;
+};

@@ -1,0 +1,301 @@
+#include "Workspace/SXWorkspaceScheduler.h"
+
+#include "Common/Util/SXFileLocalManager.h"
+#include "Shared/GlobalFun.h"
+#include "Shared/SXLog.h"
+#include "Shared/SXSettings.h"
+
+#include <QFileInfo>
+#include <QLocale>
+#include <QMutexLocker>
+#include <QRegularExpression>
+
+SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
+    : SXWorkspaceItemMoves(parent)
+    , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
+    , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
+
+SXWorkspaceScheduler::~SXWorkspaceScheduler() {
+    if (_timerToRefresh)
+        _timerToRefresh->stop();
+    // The queue waits for the running conversions; they still report to us meanwhile, so it
+    // goes while this object is whole.
+    if (_queueConvertTask) {
+        _queueConvertTask->cancelAllOperations();
+        _queueConvertTask.reset();
+    }
+}
+
+// --- Start ---
+
+void SXWorkspaceScheduler::clickStart() {
+    if (enumAppState() == AppStateConverting) {
+        clickCancelAll();
+        return;
+    }
+    QString path = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
+    if (path.isEmpty())
+        path = SXFileLocalManager::getDefaultUpperOutputDir();
+    m_bOrganized = SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true);
+    m_bOverOpen = SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false);
+    SXLog::line(QStringLiteral("thepath = %1").arg(path));
+    if (!presenter())
+        return;
+    const std::optional<SXOutputFolderChoice> choice =
+        presenter()->chooseOutputFolder({path, QStringLiteral("Please choose output folder:"),
+                                         QStringLiteral("OK"), m_bOrganized, m_bOverOpen});
+    if (!choice || choice->folder.isEmpty())
+        return;
+    SXSettings::setValue(SXSettingsKey::DefaultOutputPath, choice->folder);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, choice->organizeByFormat);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOpen, choice->openWhenDone);
+    SXSettings::synchronize();
+    m_bOrganized = choice->organizeByFormat;
+    m_bOverOpen = choice->openWhenDone;
+    doRealConverterTask(choice->folder);
+}
+
+void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
+    if (!_queueConvertTask)
+        _queueConvertTask = std::make_unique<SXOperationQueue>();
+    _queueConvertTask->setMaxConcurrentOperationCount(
+        m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
+    m_totalConvertOps = getTotalNeedConvertMusic();
+    startConvertOperation();
+    const QString playlist = SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+
+    // Every item is queued again at each Start, whatever an earlier run made of it.
+    for (const QString& name : containerNames()) {
+        const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            item->setDConvertProgress(SXProgress::Waiting);
+            // Without a media record or a format there is nothing to convert: it stays waiting.
+            if (!item->mediaInfo() || !setting)
+                continue;
+            copyChoicesInto(item, *setting, playlist);
+            auto operation = std::make_shared<ConvertOperation>(item);
+            const QString output =
+                m_bOrganized ? folder + QLatin1Char('/') + setting->fmtName() : folder;
+            SXLog::line(QStringLiteral("the path = %1").arg(output));
+            GlobalFun::MakeSureFolderExsist(output);
+            operation->setStrOutFilePath(output);
+            operation->setDelegate(this);
+            _queueConvertTask->addOperation(operation);
+        }
+    }
+
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+    }
+    _timerToRefresh = new QTimer(this);
+    _timerToRefresh->setInterval(400);
+    connect(_timerToRefresh, &QTimer::timeout, this, &SXWorkspaceScheduler::refreshTimeFired);
+    _timerToRefresh->start();
+}
+
+void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
+                                           const SXFormatSetting& setting,
+                                           const QString& playlist) const {
+    const LSMediaPtr media = item->mediaInfo();
+    const QString useSource = QStringLiteral("Use Source");
+    media->setDProgress(0);
+    media->setDAOBitrate(setting.biteRate() == useSource ? media->audioBitrate() / 1000
+                                                         : choiceValue(setting.biteRate()));
+    media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
+                                                              : choiceValue(setting.sampleRate()));
+    if (setting.channels() == useSource)
+        media->setIAOChanels(media->audioChannels());
+    else
+        media->setIAOChanels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
+    media->setVOACodecName(setting.decodecName());
+    media->setStrOutFileExt(setting.outputExtName());
+    item->setBIsSendingToiTunes(setting.enumAddToiTunes() == 1);
+    item->setStriTunesPlaylistName(playlist);
+}
+
+double SXWorkspaceScheduler::choiceValue(const QString& choice) {
+    static const QRegularExpression number(
+        QStringLiteral(R"(^\s*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?))"));
+    const QRegularExpressionMatch match = number.match(choice);
+    return match.hasMatch() ? QLocale::c().toDouble(match.captured(1)) : 0.0;
+}
+
+void SXWorkspaceScheduler::startConvertOperation() {
+    setAppState(AppStateConverting);
+    Q_EMIT totalProgressChanged(0.0);
+}
+
+void SXWorkspaceScheduler::setConvertOperationFinshed() {
+    setAppState(AppStateIdle);
+}
+
+// --- Progress ---
+
+void SXWorkspaceScheduler::refreshTimeFired() {
+    QMetaObject::invokeMethod(
+        this, [this] { refreshUIOnMainThreadWhenConvert(); }, Qt::QueuedConnection);
+    if (_queueConvertTask && _queueConvertTask->operationCount() > 0)
+        return;
+    finishRun();
+}
+
+void SXWorkspaceScheduler::refreshUIOnMainThreadWhenConvert() {
+    Q_EMIT rowsRedrawRequested();
+    Q_EMIT totalProgressChanged(getTotalConvertProgress() * 100.0);
+}
+
+void SXWorkspaceScheduler::finishRun() {
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+        _timerToRefresh = nullptr;
+    }
+    if (!_queueConvertTask || _queueConvertTask->operationCount() == 0)
+        QMetaObject::invokeMethod(
+            this, [this] { setConvertOperationFinshed(); }, Qt::QueuedConnection);
+
+    int succeeded = 0;
+    QStringList failedNames;
+    for (const QString& name : containerNames()) {
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            const LSMediaPtr media = item->mediaInfo();
+            const int state = media ? media->eumCvtState() : CvtStateReady;
+            if (state == CvtStateFinished)
+                ++succeeded;
+            else if (state == CvtStateFailed)
+                failedNames.append(QFileInfo(item->strFilePath()).completeBaseName());
+        }
+    }
+    const QString message = summaryMessage(succeeded, failedNames);
+    runAlert({message, QString(), {QStringLiteral("OK")}});
+    Q_EMIT rowsRedrawRequested();
+    Q_EMIT runFinished(message, succeeded, int(failedNames.size()));
+    if (m_bOverOpen && presenter())
+        presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
+}
+
+QString SXWorkspaceScheduler::summaryMessage(int succeeded, const QStringList& failedNames) {
+    QString message = QStringLiteral("%1 files has been successfully converted.").arg(succeeded);
+    if (failedNames.isEmpty())
+        return message;
+    message += QStringLiteral("except %1 files failed,including:").arg(failedNames.size());
+    for (int i = 0; i < failedNames.size(); ++i) {
+        if (i == 3) {
+            message += QStringLiteral("...");
+            break;
+        }
+        message += QStringLiteral(" \n%1").arg(failedNames.at(i));
+    }
+    return message;
+}
+
+double SXWorkspaceScheduler::getTotalConvertProgress() const {
+    double sum = 0;
+    qsizetype count = 0;
+    for (const QString& name : containerNames()) {
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            const double value = item->dConvertProgress();
+            ++count;
+            if (value == SXProgress::Failed || value == SXProgress::Canceled ||
+                value == SXProgress::Done)
+                sum += 100;
+            else if (value == SXProgress::Sending)
+                sum += 90;
+            else if (value != SXProgress::Waiting)
+                sum += value;
+        }
+    }
+    // Without items this is 0/0: the front ends get NaN and show no progress.
+    return sum / (double(count) * 100.0);
+}
+
+int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
+    int total = 0;
+    for (const QString& name : containerNames())
+        total += int(getDataForFormat(name).size());
+    return total;
+}
+
+// --- Cancel ---
+
+void SXWorkspaceScheduler::clickCancelAll() {
+    if (!_queueConvertTask)
+        return;
+    for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
+        auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
+        if (!convert)
+            continue;
+        if (const SXMusicInfoPtr item = convert->musicToConvert())
+            item->setDConvertProgress(SXProgress::Canceled);
+        convert->cancel();
+    }
+}
+
+ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusicInfoPtr& item) {
+    if (!_queueConvertTask || _queueConvertTask->operationCount() == 0 || !item)
+        return nullptr;
+    QMutexLocker locker(&m_queueLock);
+    ConvertOperationPtr found;
+    // Walks to the end when nothing matches, so the last operation is the answer then.
+    for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
+        found = std::dynamic_pointer_cast<ConvertOperation>(operation);
+        const SXMusicInfoPtr music = found ? found->musicToConvert() : nullptr;
+        if (music && music->isEqualToMusic(*item))
+            break;
+    }
+    return found;
+}
+
+void SXWorkspaceScheduler::didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item) {
+    const int state = enumAppState();
+    if (state == AppStateIdle || state == AppStatePlaying) {
+        const int row = indexMusicItem(item, getCurTableDatasource());
+        setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
+        Q_EMIT rowsRedrawRequested();
+        Q_EMIT metadataEditorRequested(item);
+    } else if (state == AppStateConverting) {
+        if (const ConvertOperationPtr operation = findOperationForMusicInfo(item))
+            operation->cancel();
+    }
+}
+
+// --- Operation callbacks (worker threads) ---
+
+void SXWorkspaceScheduler::requestRedraw() {
+    QMetaObject::invokeMethod(
+        this, [this] { Q_EMIT rowsRedrawRequested(); }, Qt::QueuedConnection);
+}
+
+void SXWorkspaceScheduler::didConvertOperationStart(ConvertOperation* operation) {
+    if (const SXMusicInfoPtr item = operation->musicToConvert())
+        item->setDConvertProgress(0);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::convertOperationHandleProgress(ConvertOperation* operation,
+                                                          double percent) {
+    if (const SXMusicInfoPtr item = operation->musicToConvert())
+        item->setDConvertProgress(percent);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::convertStartSync(ConvertOperation* operation) {
+    const SXMusicInfoPtr item = operation->musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (media && media->eumCvtState() == CvtStateSending)
+        item->setDConvertProgress(SXProgress::Sending);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::didConvertOperationFinish(ConvertOperation* operation) {
+    const SXMusicInfoPtr item = operation->musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (media) {
+        const int state = media->eumCvtState();
+        item->setDConvertProgress(state == CvtStateCanceled ? SXProgress::Canceled
+                                  : state == CvtStateFailed ? SXProgress::Failed
+                                                            : SXProgress::Done);
+    }
+    requestRedraw();
+}

@@ -1,0 +1,86 @@
+#pragma once
+
+#include "Convert/ConvertOperation.h"
+#include "Convert/SXOperationQueue.h"
+#include "Workspace/SXWorkspaceItemMoves.h"
+
+#include <QMutex>
+#include <QTimer>
+#include <memory>
+#include <optional>
+
+// The conversion run of a workspace: Start asks for the output folder, every item of every
+// container becomes one ConvertOperation with its container's choices copied into its media
+// record, all go on one queue with a bounded number of parallel conversions, and a 0.4 s timer
+// on the main thread pulls the items' progress into a total until the queue has drained.
+//
+// Threads: the operation callbacks come on queue workers; they only store the item's progress
+// value and ask for a redraw on the main thread. Everything else runs on the main thread.
+class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationDelegate {
+    Q_OBJECT
+public:
+    explicit SXWorkspaceScheduler(QObject* parent = nullptr);
+    ~SXWorkspaceScheduler() override;
+
+    // Start, or Stop during a run.
+    void clickStart();
+    void doRealConverterTask(const QString& folder);
+    void startConvertOperation();
+    void setConvertOperationFinshed();
+    int getTotalNeedConvertMusic() const;
+    // Fraction 0..1 over every item (NaN without items).
+    double getTotalConvertProgress() const;
+    void clickCancelAll();
+    // The queued operation of `item`; when none matches, the last queued one.
+    ConvertOperationPtr findOperationForMusicInfo(const SXMusicInfoPtr& item);
+    // A row's right button: the tag editor when idle or playing, cancel during a run.
+    void didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item);
+
+    // The run's parallelism instead of the stored maximum, without storing it (nullopt: the
+    // stored maximum again). Kept until changed.
+    void setMaxConcurrentOverride(std::optional<int> count) { m_maxConcurrentOverride = count; }
+    // The two check boxes of the folder chooser, as the last Start left them.
+    bool organizeByFormat() const { return m_bOrganized; }
+    void setOrganizeByFormat(bool on) { m_bOrganized = on; }
+    bool openFolderWhenDone() const { return m_bOverOpen; }
+    void setOpenFolderWhenDone(bool on) { m_bOverOpen = on; }
+    int totalConvertOps() const { return m_totalConvertOps; }
+    SXOperationQueue* queueConvertTask() const { return _queueConvertTask.get(); }
+
+    // The summary of a run: successes, then up to three failed names and "..." for more.
+    static QString summaryMessage(int succeeded, const QStringList& failedNames);
+    // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
+    static double choiceValue(const QString& choice);
+
+    // ConvertOperationDelegate (worker threads)
+    void didConvertOperationStart(ConvertOperation* operation) override;
+    void convertOperationHandleProgress(ConvertOperation* operation, double percent) override;
+    void convertStartSync(ConvertOperation* operation) override;
+    void didConvertOperationFinish(ConvertOperation* operation) override;
+
+Q_SIGNALS:
+    // The visible rows should be redrawn (their items' progress changed).
+    void rowsRedrawRequested();
+    // Total progress in per cent, at every refresh of a run.
+    void totalProgressChanged(double percent);
+    // A run has drained. Emitted before the state returns to idle (that change is queued).
+    void runFinished(const QString& summary, int succeeded, int failed);
+    // A row asked for the tag editor of its item.
+    void metadataEditorRequested(const SXMusicInfoPtr& item);
+
+private:
+    void refreshTimeFired();
+    void refreshUIOnMainThreadWhenConvert();
+    void finishRun();
+    void copyChoicesInto(const SXMusicInfoPtr& item, const SXFormatSetting& setting,
+                         const QString& playlist) const;
+    void requestRedraw();
+
+    std::unique_ptr<SXOperationQueue> _queueConvertTask;
+    QTimer* _timerToRefresh = nullptr;
+    QMutex m_queueLock; // held while the queue's operations are searched
+    std::optional<int> m_maxConcurrentOverride;
+    bool m_bOrganized = true;
+    bool m_bOverOpen = false;
+    int m_totalConvertOps = 0;
+};
