@@ -61,6 +61,9 @@ ReferenceInfo referenceInfo(const QString& path) {
 QStringList args(const char* text) {
     return QString::fromLatin1(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
 }
+QStringList args(const QString& text) {
+    return text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
 
 const char* const kToneAndPicture =
     "testsrc=duration=2:size=160x120:rate=10[out0];sine=frequency=440:sample_rate=44100:"
@@ -119,20 +122,11 @@ private Q_SLOTS:
             << 44100 << "aac" << video;
         QTest::newRow("mkv video") << "movie.mkv" << both << args("-c:v mpeg4 -c:a libvorbis") << 1
                                    << 44100 << "vorbis" << video;
-        QTest::newRow("mp3 with cover art") << "cover.mp3" << tone
-                                            << QStringList{QStringLiteral("-i"),
-                                                           m_cover,
-                                                           QStringLiteral("-map"),
-                                                           QStringLiteral("0:a"),
-                                                           QStringLiteral("-map"),
-                                                           QStringLiteral("1:v"),
-                                                           QStringLiteral("-c:v"),
-                                                           QStringLiteral("png"),
-                                                           QStringLiteral("-id3v2_version"),
-                                                           QStringLiteral("3"),
-                                                           QStringLiteral("-disposition:v"),
-                                                           QStringLiteral("attached_pic")}
-                                            << 1 << 44100 << "mp3" << audio;
+        const QString cover = QStringLiteral("-i %1 -map 0:a -map 1:v -c:v png -id3v2_version 3 "
+                                             "-disposition:v attached_pic")
+                                  .arg(m_cover);
+        QTest::newRow("mp3 with cover art")
+            << "cover.mp3" << tone << args(cover) << 1 << 44100 << "mp3" << audio;
     }
 
     // Every accepted kind of input against the command-line prober's view of the same file, plus
