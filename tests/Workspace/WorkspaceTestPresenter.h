@@ -1,0 +1,64 @@
+#pragma once
+
+#include "Model/SXMusicInfo.h"
+#include "Workspace/SXWorkspacePresenter.h"
+
+#include <QFileInfo>
+#include <functional>
+
+// Answers the workspace the way a user would, and remembers what it was asked.
+class WorkspaceTestPresenter : public SXWorkspacePresenter {
+public:
+    int runModalAlert(const SXAlert& alert) override {
+        alerts.append(alert);
+        return alertAnswer;
+    }
+    void showSheetAlert(const SXAlert& alert) override { sheets.append(alert); }
+    std::optional<SXOutputFolderChoice>
+    chooseOutputFolder(const SXOutputFolderRequest& request) override {
+        folderRequests.append(request);
+        return folderAnswer;
+    }
+    SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) override {
+        offeredFormats = formats;
+        for (const SXFormatSettingPtr& format : formats) {
+            if (format->fmtName() == formatAnswer)
+                return format;
+        }
+        return nullptr;
+    }
+    void beep() override { ++beeps; }
+    void openFolder(const QString& path) override { openedFolders.append(path); }
+
+    QList<SXAlert> alerts;
+    QList<SXAlert> sheets;
+    int alertAnswer = 0;
+    QList<SXOutputFolderRequest> folderRequests;
+    std::optional<SXOutputFolderChoice> folderAnswer;
+    QList<SXFormatSettingPtr> offeredFormats;
+    QString formatAnswer;
+    int beeps = 0;
+    QStringList openedFolders;
+};
+
+// An item of container `type` for `path`, with a media record unless told otherwise.
+inline SXMusicInfoPtr makeWorkspaceItem(const QString& path, const QString& type,
+                                        bool withMedia = true) {
+    auto item = std::make_shared<SXMusicInfo>();
+    item->setStrFilePath(path);
+    item->setStrMusicType(type);
+    if (withMedia) {
+        auto media = std::make_shared<LSMedia>();
+        media->setFilePath(path);
+        media->setStrOutFileName(QFileInfo(path).completeBaseName());
+        item->setMediaInfo(media);
+    }
+    return item;
+}
+
+inline QStringList itemPaths(const SXMusicInfoList& items) {
+    QStringList paths;
+    for (const SXMusicInfoPtr& item : items)
+        paths.append(item->strFilePath());
+    return paths;
+}
