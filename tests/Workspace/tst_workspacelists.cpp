@@ -57,7 +57,6 @@ private Q_SLOTS:
     void init();
     void opensWithTheFixedContainersEmpty();
     void containerRules();
-    void perContainerData();
     void addRunExpandsFoldersAndAppliesTheVobRule();
     void addRunDropsPathsAlreadyInTheContainer();
     void addRunNamesFailedFilesInOneAlert_data();
@@ -210,34 +209,6 @@ void TestWorkspaceLists::containerRules() {
         m_presenter.alerts.last().messageText,
         QStringLiteral("All formats are opened, you can set the paramas in the setting window."));
     QCOMPARE(m_presenter.alerts.last().buttons, QStringList{QStringLiteral("Yes")});
-}
-
-void TestWorkspaceLists::perContainerData() {
-    SXWorkspace workspace;
-    workspace.addDefaultTabs();
-    const QString mp3 = QStringLiteral("MP3");
-    QSignalSpy counts(&workspace, &SXWorkspace::tabCountsChanged);
-
-    workspace.setData({makeWorkspaceItem(QStringLiteral("/x/1.wav"), mp3)}, QString());
-    QVERIFY(!workspace.hasDataForFormat(QString()));
-    workspace.setData({makeWorkspaceItem(QStringLiteral("/x/1.wav"), mp3),
-                       makeWorkspaceItem(QStringLiteral("/x/2.wav"), mp3)},
-                      mp3);
-    QCOMPARE(workspace.getCurentTabMusicCount(), 2);
-    workspace.refreshTabCount();
-    QCOMPARE(counts.last().at(0).toStringList(), workspace.tabLabels());
-    QCOMPARE(counts.last().at(1).value<QList<int>>(), (QList<int>{2, 0, 0}));
-
-    QVERIFY(!workspace.getFormatSettingForFormatName(QString()));
-    auto custom = SXDataEngine::shareInstance()->getFormatWithName(mp3);
-    custom->setBiteRate(QStringLiteral("320"));
-    QSignalSpy shown(&workspace, &SXWorkspace::formatSettingShown);
-    workspace.setFmtSetting(custom);
-    QCOMPARE(shown.count(), 1);
-    QCOMPARE(workspace.getSelectedTabFormatSetting()->biteRate(), QStringLiteral("320"));
-
-    workspace.createArrayForFormate(mp3);
-    QCOMPARE(workspace.getCurentTabMusicCount(), 0);
 }
 
 void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
@@ -420,6 +391,7 @@ void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
                     makeWorkspaceItem(QStringLiteral("/x/9.wav"), mp3)},
                    mp3);
     second.setData({makeWorkspaceItem(QStringLiteral("/x/3.wav"), aac)}, aac);
+    QSignalSpy counts(&first, &SXWorkspace::tabCountsChanged);
 
     // Rows 1 and 2 of the first workspace are dragged onto the second's AAC tab.
     const QByteArray archive = first.dragDataForRows({1, 2});
@@ -438,11 +410,12 @@ void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
     QCOMPARE(target.last()->getStrMusicType(), aac);
     QCOMPARE(target.last()->dConvertProgress(), SXProgress::Waiting);
     QCOMPARE(itemPaths(first.getDataForFormat(mp3)), QStringList{QStringLiteral("/x/1.wav")});
+    QCOMPARE(counts.last().at(0).toStringList(), first.tabLabels());
+    QCOMPARE(counts.last().at(1).value<QList<int>>(), (QList<int>{1, 0, 0}));
     QCOMPARE(itemPaths(second.getDataForFormat(mp3)), QStringList{QStringLiteral("/x/9.wav")});
     QVERIFY(second.selectContainer(aac));
 
     // Dropped on a row of another container: inserted there.
-    second.selectContainer(aac);
     const SXMusicInfoList fromFirst = {first.getDataForFormat(mp3).first()->copy()};
     QVERIFY(second.acceptDrop(fromFirst, 0, SXWorkspace::DropOnRow));
     QCOMPARE(itemPaths(second.getDataForFormat(aac)),
