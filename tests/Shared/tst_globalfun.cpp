@@ -8,217 +8,190 @@
 #include <QSettings>
 #include <QTemporaryDir>
 
-#include <algorithm>
 #include <cmath>
 #include <limits>
+
+static void touch(const QString& path) {
+    QVERIFY2(SonoriaTest::writeFile(path, {}), qPrintable(path));
+}
 
 class GlobalFunTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void guidIsCreatedOnceAndStored();
-    void versions();
-    void kernelRelease_data();
-    void kernelRelease();
-    void clockStrings_data();
-    void clockStrings();
-    void clockStringsAreRead();
-    void estimateWording_data();
-    void estimateWording();
-    void uniquePathNeverNamesAnExistingEntry();
-    void folderIsMadeSure();
-    void scanIsDepthFirstAndSurvivesLinkLoops();
-    void supportedFormatsFollowExperimentalSwitch();
+    void guidIsCreatedOnceAndStored() {
+        SXSettings::removeKey(SXSettingsKey::Guid);
+        const QString first = GlobalFun::getGUID();
+        QCOMPARE(first.size(), 36);
+        QCOMPARE(GlobalFun::getGUID(), first);
+        // Written to disk at once: a fresh reader of the settings file sees it.
+        QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat).value("guid").toString(),
+                 first);
+        SXSettings::setValue(SXSettingsKey::Guid, "from-an-earlier-run");
+        QCOMPARE(GlobalFun::getGUID(), QStringLiteral("from-an-earlier-run"));
+    }
+
+    void versions() {
+        QCOMPARE(GlobalFun::normalizedVersion("3"), QStringLiteral("3.0.0"));
+        QCOMPARE(GlobalFun::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
+        QCOMPARE(GlobalFun::normalizedVersion("1.2.3.4"), QStringLiteral("1.2.3"));
+        // The running kernel publishes its release under /proc too; both readings must agree.
+        QFile osRelease("/proc/sys/kernel/osrelease");
+        QVERIFY(osRelease.open(QIODevice::ReadOnly));
+        qint64 major = 0, minor = 0, bugFix = 0;
+        QVERIFY(GlobalFun::getMajorMinorBugFix(&major, &minor, &bugFix));
+        QVERIFY(osRelease.readAll().startsWith(QString("%1.%2.").arg(major).arg(minor).toLatin1()));
+        QCOMPARE(GlobalFun::getSystemVersionString(),
+                 QString("%1.%2.%3").arg(major).arg(minor).arg(bugFix));
+        QCOMPARE(GlobalFun::computerModelFromFile("/nonexistent/product_name"),
+                 QStringLiteral("PC"));
+    }
+
+    void kernelRelease_data() {
+        QTest::addColumn<QString>("release");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QList<qint64>>("numbers"); // -1: left as the caller had it
+        QTest::newRow("distribution") << "6.1.0-18-amd64" << true << QList<qint64>{6, 1, 0};
+        QTest::newRow("suffixed patch") << "5.15.153.1-wsl" << true << QList<qint64>{5, 15, 153};
+        QTest::newRow("no patch") << "6.8-rc3" << true << QList<qint64>{6, 8, 0};
+        QTest::newRow("bad minor") << "6.x.2" << false << QList<qint64>{6, -1, -1};
+        QTest::newRow("bad major") << "v6.1.0" << false << QList<qint64>{-1, -1, -1};
+    }
+    void kernelRelease() {
+        QFETCH(QString, release);
+        QFETCH(bool, ok);
+        QFETCH(QList<qint64>, numbers);
+        QList<qint64> got{-1, -1, -1};
+        QCOMPARE(GlobalFun::versionNumbersFromRelease(release, &got[0], &got[1], &got[2]), ok);
+        QCOMPARE(got, numbers);
+    }
+
+    // Written clocks must read back as the truncated seconds they came from.
+    void clockStrings_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("clock");
+        QTest::newRow("zero") << 0.0 << "00:00:00";
+        QTest::newRow("truncated") << 59.99 << "00:00:59";
+        QTest::newRow("minutes") << 205.9 << "00:03:25";
+        QTest::newRow("hours keep all digits") << 360000.0 << "100:00:00";
+        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "00:00:00";
+        QTest::newRow("saturates at 32 bits") << 1e12 << "596523:14:07";
+    }
+    void clockStrings() {
+        QFETCH(double, seconds);
+        QFETCH(QString, clock);
+        QCOMPARE(GlobalFun::getTimeStringBySecond(seconds), clock);
+        const double back = GlobalFun::getSecondsByTimeString(clock);
+        QCOMPARE(back, std::isnan(seconds) ? 0.0 : std::floor(qMin(seconds, 2147483647.0)));
+    }
+
+    void clockStringsAreRead() {
+        // Reading: each piece from its start, strtod-like, at most three pieces.
+        QCOMPARE(GlobalFun::getSecondsByTimeString("00:01:23.45"), 83.45);
+        QCOMPARE(GlobalFun::getSecondsByTimeString("abc"), 0.0);
+        QCOMPARE(GlobalFun::getSecondsByTimeString(""), 0.0);
+        QCOMPARE(GlobalFun::getSecondsByTimeString("2"), 7200.0);
+        QCOMPARE(GlobalFun::getSecondsByTimeString("00:00:05:99"), 5.0);
+        QCOMPARE(GlobalFun::getSecondsByTimeString("1h:2m:3.5s"), 3723.5);
+        QCOMPARE(GlobalFun::getSecondsByTimeString(" +1: -1:.5"), 3540.5);
+        QCOMPARE(GlobalFun::getSecondsByTimeString("inf:nan:1"), 1.0);
+    }
+
+    void estimateWording_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("wording");
+        QTest::newRow("plural looks at raw") << 1.4 << "1 seconds remaining";
+        QTest::newRow("under one") << 0.7 << "1 second remaining";
+        QTest::newRow("rounds to sixty") << 59.6 << "60 seconds remaining";
+        QTest::newRow("one minute") << 60.0 << "1 minite 0 second remaining";
+        QTest::newRow("minite to 119") << 119.9 << "1 minite 59 seconds remaining";
+        QTest::newRow("minites from 120") << 121.0 << "2 minites 1 second remaining";
+        QTest::newRow("one hour") << 3600.0 << "1 hour 0 minite remaining";
+        QTest::newRow("hour to 7199") << 7199.0 << "1 hour 59 minites remaining";
+        QTest::newRow("hours") << 7325.0 << "2 hours 2 minites remaining";
+        QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN()
+                             << "0 hour 0 minite remaining";
+    }
+    void estimateWording() {
+        QFETCH(double, seconds);
+        QFETCH(QString, wording);
+        QCOMPARE(GlobalFun::getEstimateStrBySecond(seconds), wording);
+    }
+
+    void uniquePathNeverNamesAnExistingEntry() {
+        QTemporaryDir dir;
+        const QString song = dir.filePath("song.mp3");
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), song);
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song"), "mp3"), song);
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song.MP3"), "mp3"),
+                 dir.filePath("song.MP3.mp3"));
+        touch(song);
+        touch(dir.filePath("song(1).mp3"));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), dir.filePath("song(2).mp3"));
+        // A folder and a dangling link are taken names too.
+        QVERIFY(QDir(dir.path()).mkdir("song(2).mp3"));
+        QVERIFY(QFile::link(dir.filePath("nowhere"), dir.filePath("song(3).mp3")));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song(1).mp3"), "mp3"),
+                 dir.filePath("song(4).mp3"));
+        // The counter is searched and replaced over the whole path: "Album(1)" becomes "Album(2)".
+        touch(dir.filePath("Album(1)/take.wav"));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("Album(1)/take"), "wav"),
+                 dir.filePath("Album(2)/take.wav"));
+    }
+
+    void folderIsMadeSure() {
+        QTemporaryDir dir;
+        QVERIFY(!GlobalFun::MakeSureFolderExsist(QString()));
+        QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
+        QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
+        QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
+        touch(dir.filePath("plain"));
+        QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain")));
+        QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain/below")));
+    }
+
+    void scanIsDepthFirstAndSurvivesLinkLoops() {
+        QTemporaryDir dir;
+        for (const char* name : {"song.mp3", ".hidden.FLAC", "notes.txt", "mp3", "sub/clip.wav",
+                                 "sub/deeper/track.Mp3"})
+            touch(dir.filePath(name));
+        QVERIFY(QFile::link(dir.filePath("song.mp3"), dir.filePath("alias.mp3")));
+        QVERIFY(QFile::link(dir.filePath("gone.mp3"), dir.filePath("dangling.mp3")));
+        // A link to an ancestor, to the folder itself and a second way into the same folder.
+        QVERIFY(QFile::link(dir.path(), dir.filePath("sub/deeper/up")));
+        QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("sub/self")));
+        QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("twin")));
+
+        const QStringList found =
+            GlobalFun::fileListAtDirenctory(dir.path(), {"MP3", "flac", "mp3", "wav"});
+        QCOMPARE(found.size(), 5); // a file matching two filter entries comes once
+        for (const char* name : {"song.mp3", ".hidden.FLAC", "alias.mp3"})
+            QVERIFY(found.contains(dir.filePath(name)));
+        // Depth first: the two files of the sub-tree stand next to each other.
+        const qsizetype clip = found.indexOf(found.filter("/clip.wav").value(0));
+        const qsizetype track = found.indexOf(found.filter("/track.Mp3").value(0));
+        QCOMPARE(found.filter("clip.wav").size(), 1);
+        QVERIFY(clip >= 0 && track >= 0 && qAbs(clip - track) == 1);
+        QVERIFY(GlobalFun::fileListAtDirenctory(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
+    }
+
+    void supportedFormatsFollowExperimentalSwitch() {
+        const QStringList all = GlobalFun::getSupportedFmts();
+        QCOMPARE(all.size(), 31);
+        QCOMPARE(all.mid(9, 3), QStringList({"rmvb", "vob", "m4v"}));
+        QCOMPARE(all.mid(27), QStringList({"amr", "m4r", "mp2", "dsd"}));
+
+        bool experimental = false;
+        GlobalFun::setExperimentalSwitch([&experimental] { return experimental; });
+        QStringList reduced = all;
+        for (const char* gated : {"vob", "m4v", "m4r"})
+            reduced.removeAll(gated);
+        QCOMPARE(GlobalFun::getSupportedFmts(), reduced);
+        experimental = true;
+        QCOMPARE(GlobalFun::getSupportedFmts(), all);
+        GlobalFun::setExperimentalSwitch({});
+        QCOMPARE(GlobalFun::getSupportedFmts(), all);
+    }
 };
-
-static void touch(const QString& path) {
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly), qPrintable(path));
-}
-
-void GlobalFunTest::guidIsCreatedOnceAndStored() {
-    SXSettings::removeKey(SXSettingsKey::Guid);
-    const QString first = GlobalFun::getGUID();
-    QCOMPARE(first.size(), 36);
-    QCOMPARE(GlobalFun::getGUID(), first);
-    // Written to disk at once: a fresh reader of the settings file sees it.
-    QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat).value("guid").toString(),
-             first);
-    SXSettings::setValue(SXSettingsKey::Guid, "from-an-earlier-run");
-    QCOMPARE(GlobalFun::getGUID(), QStringLiteral("from-an-earlier-run"));
-}
-
-void GlobalFunTest::versions() {
-    QCOMPARE(GlobalFun::normalizedVersion("3"), QStringLiteral("3.0.0"));
-    QCOMPARE(GlobalFun::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
-    QCOMPARE(GlobalFun::normalizedVersion("4.5.6"), QStringLiteral("4.5.6"));
-    QCOMPARE(GlobalFun::normalizedVersion("1.2.3.4"), QStringLiteral("1.2.3"));
-
-    // The running kernel publishes its release under /proc too; both readings must agree.
-    QFile osRelease("/proc/sys/kernel/osrelease");
-    QVERIFY(osRelease.open(QIODevice::ReadOnly));
-    qint64 major = 0, minor = 0, bugFix = 0;
-    QVERIFY(GlobalFun::getMajorMinorBugFix(&major, &minor, &bugFix));
-    QVERIFY(
-        osRelease.readAll().startsWith(QStringLiteral("%1.%2.").arg(major).arg(minor).toLatin1()));
-    QCOMPARE(GlobalFun::getSystemVersionString(),
-             QStringLiteral("%1.%2.%3").arg(major).arg(minor).arg(bugFix));
-    QCOMPARE(GlobalFun::computerModelFromFile("/nonexistent/product_name"), QStringLiteral("PC"));
-}
-
-void GlobalFunTest::kernelRelease_data() {
-    QTest::addColumn<QString>("release");
-    QTest::addColumn<bool>("ok");
-    QTest::addColumn<QList<qint64>>("numbers"); // -1: left as the caller had it
-    QTest::newRow("distribution") << "6.1.0-18-amd64" << true << QList<qint64>{6, 1, 0};
-    QTest::newRow("suffixed patch") << "5.15.153.1-wsl" << true << QList<qint64>{5, 15, 153};
-    QTest::newRow("no patch") << "6.8-rc3" << true << QList<qint64>{6, 8, 0};
-    QTest::newRow("bad minor") << "6.x.2" << false << QList<qint64>{6, -1, -1};
-    QTest::newRow("bad major") << "v6.1.0" << false << QList<qint64>{-1, -1, -1};
-}
-
-void GlobalFunTest::kernelRelease() {
-    QFETCH(QString, release);
-    QFETCH(bool, ok);
-    QFETCH(QList<qint64>, numbers);
-    QList<qint64> got{-1, -1, -1};
-    QCOMPARE(GlobalFun::versionNumbersFromRelease(release, &got[0], &got[1], &got[2]), ok);
-    QCOMPARE(got, numbers);
-}
-
-void GlobalFunTest::clockStrings_data() {
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<QString>("clock");
-    QTest::newRow("zero") << 0.0 << "00:00:00";
-    QTest::newRow("truncated") << 59.99 << "00:00:59";
-    QTest::newRow("minutes") << 205.9 << "00:03:25";
-    QTest::newRow("hours keep all digits") << 360000.0 << "100:00:00";
-    QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "00:00:00";
-    QTest::newRow("saturates at 32 bits") << 1e12 << "596523:14:07";
-}
-
-void GlobalFunTest::clockStrings() {
-    QFETCH(double, seconds);
-    QFETCH(QString, clock);
-    QCOMPARE(GlobalFun::getTimeStringBySecond(seconds), clock);
-    const double back = GlobalFun::getSecondsByTimeString(clock);
-    QCOMPARE(back, std::isnan(seconds) ? 0.0 : std::floor(qMin(seconds, 2147483647.0)));
-}
-
-void GlobalFunTest::clockStringsAreRead() {
-    // Reading: each piece from its start, strtod-like, at most three pieces.
-    QCOMPARE(GlobalFun::getSecondsByTimeString("00:01:23.45"), 83.45);
-    QCOMPARE(GlobalFun::getSecondsByTimeString("abc"), 0.0);
-    QCOMPARE(GlobalFun::getSecondsByTimeString(""), 0.0);
-    QCOMPARE(GlobalFun::getSecondsByTimeString("2"), 7200.0);
-    QCOMPARE(GlobalFun::getSecondsByTimeString("00:00:05:99"), 5.0);
-    QCOMPARE(GlobalFun::getSecondsByTimeString("1h:2m:3.5s"), 3723.5);
-    QCOMPARE(GlobalFun::getSecondsByTimeString(" +1: -1:.5"), 3540.5);
-    QCOMPARE(GlobalFun::getSecondsByTimeString("inf:nan:1"), 1.0);
-}
-
-void GlobalFunTest::estimateWording_data() {
-    QTest::addColumn<double>("seconds");
-    QTest::addColumn<QString>("wording");
-    QTest::newRow("plural looks at raw") << 1.4 << "1 seconds remaining";
-    QTest::newRow("under one") << 0.7 << "1 second remaining";
-    QTest::newRow("rounds to sixty") << 59.6 << "60 seconds remaining";
-    QTest::newRow("one minute") << 60.0 << "1 minite 0 second remaining";
-    QTest::newRow("singulars") << 61.0 << "1 minite 1 second remaining";
-    QTest::newRow("minite to 119") << 119.9 << "1 minite 59 seconds remaining";
-    QTest::newRow("minites from 120") << 125.0 << "2 minites 5 seconds remaining";
-    QTest::newRow("one hour") << 3600.0 << "1 hour 0 minite remaining";
-    QTest::newRow("hour to 7199") << 7199.0 << "1 hour 59 minites remaining";
-    QTest::newRow("hours") << 7325.0 << "2 hours 2 minites remaining";
-    QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN() << "0 hour 0 minite remaining";
-}
-
-void GlobalFunTest::estimateWording() {
-    QFETCH(double, seconds);
-    QFETCH(QString, wording);
-    QCOMPARE(GlobalFun::getEstimateStrBySecond(seconds), wording);
-}
-
-void GlobalFunTest::uniquePathNeverNamesAnExistingEntry() {
-    QTemporaryDir dir;
-    const QString song = dir.filePath("song.mp3");
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), song);
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song"), "mp3"), song);
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song.MP3"), "mp3"),
-             dir.filePath("song.MP3.mp3"));
-    touch(song);
-    touch(dir.filePath("song(1).mp3"));
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), dir.filePath("song(2).mp3"));
-    // A folder and a dangling link are taken names too.
-    QVERIFY(QDir(dir.path()).mkdir("song(2).mp3"));
-    QVERIFY(QFile::link(dir.filePath("nowhere"), dir.filePath("song(3).mp3")));
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song(1).mp3"), "mp3"),
-             dir.filePath("song(4).mp3"));
-
-    // The counter is searched and replaced over the whole path: "Album(1)" becomes "Album(2)".
-    QVERIFY(QDir(dir.path()).mkpath("Album(1)"));
-    touch(dir.filePath("Album(1)/take.wav"));
-    QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("Album(1)/take"), "wav"),
-             dir.filePath("Album(2)/take.wav"));
-}
-
-void GlobalFunTest::folderIsMadeSure() {
-    QTemporaryDir dir;
-    QVERIFY(!GlobalFun::MakeSureFolderExsist(QString()));
-    QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
-    QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
-    QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
-    touch(dir.filePath("plain"));
-    QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain")));
-    QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain/below")));
-}
-
-void GlobalFunTest::scanIsDepthFirstAndSurvivesLinkLoops() {
-    QTemporaryDir dir;
-    QVERIFY(QDir(dir.path()).mkpath("sub/deeper"));
-    for (const char* name :
-         {"song.mp3", ".hidden.FLAC", "notes.txt", "mp3", "sub/clip.wav", "sub/deeper/track.Mp3"})
-        touch(dir.filePath(name));
-    QVERIFY(QFile::link(dir.filePath("song.mp3"), dir.filePath("alias.mp3")));
-    QVERIFY(QFile::link(dir.filePath("gone.mp3"), dir.filePath("dangling.mp3")));
-    // A link to an ancestor, to the folder itself and a second way into the same folder.
-    QVERIFY(QFile::link(dir.path(), dir.filePath("sub/deeper/up")));
-    QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("sub/self")));
-    QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("twin")));
-
-    const QStringList found =
-        GlobalFun::fileListAtDirenctory(dir.path(), {"MP3", "flac", "mp3", "wav"});
-    QCOMPARE(found.size(), 5); // a file matching two filter entries comes once
-    for (const char* name : {"song.mp3", ".hidden.FLAC", "alias.mp3"})
-        QVERIFY(found.contains(dir.filePath(name)));
-    QCOMPARE(found.filter("clip.wav").size(), 1);
-    // Depth first: the two files of the sub-tree stand next to each other.
-    const auto position = [&found](const char* end) {
-        return std::find_if(found.begin(), found.end(),
-                            [end](const QString& path) { return path.endsWith(end); }) -
-               found.begin();
-    };
-    QCOMPARE(qAbs(position("clip.wav") - position("track.Mp3")), 1);
-    QVERIFY(GlobalFun::fileListAtDirenctory(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
-}
-
-void GlobalFunTest::supportedFormatsFollowExperimentalSwitch() {
-    const QStringList all = GlobalFun::getSupportedFmts();
-    QCOMPARE(all.size(), 31);
-    QCOMPARE(all.mid(9, 3), QStringList({"rmvb", "vob", "m4v"}));
-    QCOMPARE(all.mid(27), QStringList({"amr", "m4r", "mp2", "dsd"}));
-
-    bool experimental = false;
-    GlobalFun::setExperimentalSwitch([&experimental] { return experimental; });
-    QStringList reduced = all;
-    reduced.removeAll("vob");
-    reduced.removeAll("m4v");
-    reduced.removeAll("m4r");
-    QCOMPARE(GlobalFun::getSupportedFmts(), reduced);
-    experimental = true;
-    QCOMPARE(GlobalFun::getSupportedFmts(), all);
-    GlobalFun::setExperimentalSwitch({});
-    QCOMPARE(GlobalFun::getSupportedFmts(), all);
-}
 
 SONORIA_TEST_MAIN(GlobalFunTest)
 #include "tst_globalfun.moc"

@@ -28,6 +28,11 @@ bool makeTone(const QString& path, double seconds = 2.0, const QStringList& extr
 // Writes an executable shell script and returns its path.
 QString writeScript(const QString& dir, const QString& name, const QString& body);
 
+// Writes `bytes` to a file (replacing it), creating its folder first; false on any failure.
+bool writeFile(const QString& path, const QByteArray& bytes);
+// A file's bytes, "" when it cannot be read.
+QByteArray readFile(const QString& path);
+
 // SHA-256 of a file's bytes ("" when unreadable): sources are compared before and after.
 QByteArray fileHash(const QString& path);
 

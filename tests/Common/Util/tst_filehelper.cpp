@@ -14,21 +14,13 @@ private Q_SLOTS:
     void findFileGivesNameOrFirstLevelFolder();
 };
 
-static void write(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    QVERIFY2(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size(),
-             qPrintable(path));
-}
-
-static QByteArray read(const QString& path) {
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray("<missing>");
-}
+using SonoriaTest::readFile;
+using SonoriaTest::writeFile;
 
 void FileHelperTest::fileOperationsNeverReplaceAnything() {
     QTemporaryDir dir;
     const auto at = [&dir](const char* name) { return dir.filePath(name); };
-    write(at("a.txt"), "a");
+    QVERIFY(writeFile(at("a.txt"), "a"));
     QVERIFY(!FileHelper::createFileWithPath(at("a.txt")));
     QVERIFY(FileHelper::createFileWithPath(at("b.txt")));
     QCOMPARE(FileHelper::getFileSizeWithPath(at("a.txt")), 1ULL);
@@ -36,27 +28,28 @@ void FileHelperTest::fileOperationsNeverReplaceAnything() {
     QVERIFY(!FileHelper::copyFile(at("a.txt"), at("b.txt")));
     QVERIFY(!FileHelper::moveFile(at("a.txt"), at("b.txt")));
     FileHelper::checkAndCreateFileAtPath(at("a.txt"), false);
-    QCOMPARE(read(at("a.txt")), QByteArray("a"));
-    QCOMPARE(read(at("b.txt")), QByteArray());
+    QCOMPARE(readFile(at("a.txt")), QByteArray("a"));
+    QVERIFY(QFileInfo(at("b.txt")).isFile());
+    QCOMPARE(readFile(at("b.txt")), QByteArray());
 
     FileHelper::checkAndCreateFileAtPath(at("made/here"), true);
     QVERIFY(QFileInfo(at("made/here")).isDir());
     QVERIFY(!FileHelper::createDirectoryWithPath(at("a.txt/sub")));
 
     // Folders are copied and moved whole; links inside stay links.
-    write(at("made/here/f.txt"), "f");
+    QVERIFY(writeFile(at("made/here/f.txt"), "f"));
     QVERIFY(QFile::link("here/f.txt", at("made/rel")));
     QVERIFY(FileHelper::copyFile(at("made"), at("copy")));
     QVERIFY(!FileHelper::copyFile(at("made"), at("copy")));
     QVERIFY(FileHelper::moveFile(at("copy"), at("moved")));
     QVERIFY(QFileInfo(at("moved/rel")).isSymLink());
-    QCOMPARE(read(at("moved/rel")), QByteArray("f"));
+    QCOMPARE(readFile(at("moved/rel")), QByteArray("f"));
 
     // Deleting a link removes only the link; deleting a folder takes its contents along.
     QVERIFY(QFile::link(at("made"), at("moved/outside")));
     QVERIFY(FileHelper::deleteDirectoryWithPath(at("moved")));
     QVERIFY(!FileHelper::fileExistsWithPath(at("moved")));
-    QCOMPARE(read(at("made/here/f.txt")), QByteArray("f"));
+    QCOMPARE(readFile(at("made/here/f.txt")), QByteArray("f"));
     QVERIFY(FileHelper::deleteFileWithPath(at("a.txt")));
     QVERIFY(!FileHelper::deleteFileWithPath(at("a.txt")));
 }
@@ -84,9 +77,8 @@ void FileHelperTest::freeSpaceAndFullThreshold() {
 
 void FileHelperTest::findFileGivesNameOrFirstLevelFolder() {
     QTemporaryDir dir;
-    QVERIFY(QDir(dir.path()).mkpath("a/b/c"));
-    write(dir.filePath("top.txt"), "");
-    write(dir.filePath("a/b/c/deep.txt"), "");
+    QVERIFY(writeFile(dir.filePath("top.txt"), {}) &&
+            writeFile(dir.filePath("a/b/c/deep.txt"), {}));
     QVERIFY(QFile::link(dir.filePath("a"), dir.filePath("a/b/up")));
     QVERIFY(QFile::link(dir.filePath("a/b"), dir.filePath("a/b/self")));
 
