@@ -1,54 +1,47 @@
 #include "SXMusicInfo.h"
 
 #include "Media/Framework/MTEAudioFile.h"
+#include "Shared/SXLocked.h"
 
 namespace {
-template <class T> T locked(QMutex& lock, const T& field) {
-    QMutexLocker guard(&lock);
-    return field;
-}
-template <class T> void lockedSet(QMutex& lock, T& field, const T& value) {
-    QMutexLocker guard(&lock);
-    field = value;
-}
 const QString kArrayKey = QStringLiteral("items");
 } // namespace
 
 QString SXMusicInfo::strFilePath() const {
-    return locked(m_lock, m_strFilePath);
+    return sxLockedGet(m_lock, m_strFilePath);
 }
 void SXMusicInfo::setStrFilePath(const QString& p) {
-    lockedSet(m_lock, m_strFilePath, p);
+    sxLockedSet(m_lock, m_strFilePath, p);
 }
 QString SXMusicInfo::strMusicName() const {
-    return locked(m_lock, m_strMusicName);
+    return sxLockedGet(m_lock, m_strMusicName);
 }
 void SXMusicInfo::setStrMusicName(const QString& n) {
-    lockedSet(m_lock, m_strMusicName, n);
+    sxLockedSet(m_lock, m_strMusicName, n);
 }
 LSMediaPtr SXMusicInfo::mediaInfo() const {
-    return locked(m_lock, m_mediaInfo);
+    return sxLockedGet(m_lock, m_mediaInfo);
 }
 void SXMusicInfo::setMediaInfo(const LSMediaPtr& m) {
-    lockedSet(m_lock, m_mediaInfo, m);
+    sxLockedSet(m_lock, m_mediaInfo, m);
 }
 QString SXMusicInfo::getStrMusicType() const {
-    return locked(m_lock, m_strMusicType);
+    return sxLockedGet(m_lock, m_strMusicType);
 }
 void SXMusicInfo::setStrMusicType(const QString& t) {
-    lockedSet(m_lock, m_strMusicType, t);
+    sxLockedSet(m_lock, m_strMusicType, t);
 }
 QString SXMusicInfo::striTunesPlaylistName() const {
-    return locked(m_lock, m_striTunesPlaylistName);
+    return sxLockedGet(m_lock, m_striTunesPlaylistName);
 }
 void SXMusicInfo::setStriTunesPlaylistName(const QString& n) {
-    lockedSet(m_lock, m_striTunesPlaylistName, n);
+    sxLockedSet(m_lock, m_striTunesPlaylistName, n);
 }
 std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
-    return locked(m_lock, m_metHandler);
+    return sxLockedGet(m_lock, m_metHandler);
 }
 void SXMusicInfo::setMetHandler(const std::shared_ptr<MTEAudioFile>& h) {
-    lockedSet(m_lock, m_metHandler, h);
+    sxLockedSet(m_lock, m_metHandler, h);
 }
 
 bool SXMusicInfo::isEqualToMusic(const SXMusicInfo& other) const {

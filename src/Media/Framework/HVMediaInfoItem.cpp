@@ -1,57 +1,48 @@
 #include "HVMediaInfoItem.h"
 
-namespace {
-template <class T> T locked(QMutex& lock, const T& field) {
-    QMutexLocker guard(&lock);
-    return field;
-}
-template <class T> void lockedSet(QMutex& lock, T& field, const T& value) {
-    QMutexLocker guard(&lock);
-    field = value;
-}
-} // namespace
+#include "Shared/SXLocked.h"
 
 QString HVMediaInfoItem::filePath() const {
-    return locked(m_lock, m_filePath);
+    return sxLockedGet(m_lock, m_filePath);
 }
 void HVMediaInfoItem::setFilePath(const QString& path) {
-    lockedSet(m_lock, m_filePath, path);
+    sxLockedSet(m_lock, m_filePath, path);
 }
 double HVMediaInfoItem::audioBitrate() const {
-    return locked(m_lock, m_audioBitrate);
+    return sxLockedGet(m_lock, m_audioBitrate);
 }
 void HVMediaInfoItem::setAudioBitrate(double v) {
-    lockedSet(m_lock, m_audioBitrate, v);
+    sxLockedSet(m_lock, m_audioBitrate, v);
 }
 double HVMediaInfoItem::audioSamplerate() const {
-    return locked(m_lock, m_audioSamplerate);
+    return sxLockedGet(m_lock, m_audioSamplerate);
 }
 void HVMediaInfoItem::setAudioSamplerate(double v) {
-    lockedSet(m_lock, m_audioSamplerate, v);
+    sxLockedSet(m_lock, m_audioSamplerate, v);
 }
 int HVMediaInfoItem::audioChannels() const {
-    return locked(m_lock, m_audioChannels);
+    return sxLockedGet(m_lock, m_audioChannels);
 }
 void HVMediaInfoItem::setAudioChannels(int v) {
-    lockedSet(m_lock, m_audioChannels, v);
+    sxLockedSet(m_lock, m_audioChannels, v);
 }
 double HVMediaInfoItem::duration() const {
-    return locked(m_lock, m_duration);
+    return sxLockedGet(m_lock, m_duration);
 }
 void HVMediaInfoItem::setDuration(double v) {
-    lockedSet(m_lock, m_duration, v);
+    sxLockedSet(m_lock, m_duration, v);
 }
 int HVMediaInfoItem::eumMediaType() const {
-    return locked(m_lock, m_eumMediaType);
+    return sxLockedGet(m_lock, m_eumMediaType);
 }
 void HVMediaInfoItem::setEumMediaType(int v) {
-    lockedSet(m_lock, m_eumMediaType, v);
+    sxLockedSet(m_lock, m_eumMediaType, v);
 }
 QString HVMediaInfoItem::strAudioCodecName() const {
-    return locked(m_lock, m_strAudioCodecName);
+    return sxLockedGet(m_lock, m_strAudioCodecName);
 }
 void HVMediaInfoItem::setStrAudioCodecName(const QString& name) {
-    lockedSet(m_lock, m_strAudioCodecName, name);
+    sxLockedSet(m_lock, m_strAudioCodecName, name);
 }
 
 void HVMediaInfoItem::encodeWithCoder(SXCoder& coder) const {
