@@ -1,29 +1,56 @@
+#include "CliCatalogue.h"
+#include "CliInfo.h"
+#include "CliOptions.h"
+#include "CliOutput.h"
+#include "CliRun.h"
+#include "CliSignalWatcher.h"
 #include "Shared/SXLog.h"
 
 #include <QCoreApplication>
-#include <QTextStream>
 
 namespace {
-const char* const kUsage = R"(Usage: sonoria-cli [options] FILE|FOLDER...
-Convert audio and video files to audio formats.
 
-  -f, --format NAME       output format, a catalogue name (default "MP3")
-  -o, --output DIR        output folder (default: the stored last folder, else Music/Sonoria)
-      --no-organize       write into DIR itself instead of DIR/<format name>
-  -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
-  -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format's offered choices
-      --library           deliver finished files to the music library and playlist
-      --list-formats      print the catalogue: names, extensions, choices and defaults
-      --info FILE         print what the file information panel shows for a file
-  -n, --dry-run           load and probe, print what would be converted and where, convert nothing
-  -v, --verbose           mirror the log lines to standard error
-  -h, --help              show this text
-)";
+constexpr int kUsageErrorStatus = 2;
+
+int runConversion(const CliOptions& options) {
+    QString error;
+    const SXFormatSettingPtr setting = CliCatalogue::settingForOptions(options, &error);
+    if (!setting) {
+        CliOutput::usageError(error);
+        return kUsageErrorStatus;
+    }
+    CliRun run(options, setting);
+    CliSignalWatcher watcher;
+    QObject::connect(&watcher, &CliSignalWatcher::received, &run, &CliRun::interrupt);
+    if (!watcher.install())
+        CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot watch for interrupts"));
+    run.start();
+    return QCoreApplication::exec();
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
     QCoreApplication app(argc, argv);
-    SXLog::install(SXLog::verboseFromEnvironment());
-    QTextStream(stdout) << kUsage;
-    return 0;
+    QString error;
+    const std::optional<CliOptions> options =
+        CliOptionsParser::parse(QCoreApplication::arguments(), &error);
+    SXLog::install((options && options->verbose) || SXLog::verboseFromEnvironment());
+    if (!options) {
+        CliOutput::usageError(error);
+        return kUsageErrorStatus;
+    }
+    switch (options->mode) {
+    case CliOptions::Mode::Help:
+        CliOutput::write(stdout, CliOptionsParser::helpText());
+        return 0;
+    case CliOptions::Mode::ListFormats:
+        CliOutput::write(stdout, CliCatalogue::formatListing());
+        return 0;
+    case CliOptions::Mode::Info:
+        return CliInfo::printInfo(options->infoFile);
+    case CliOptions::Mode::Convert:
+        break;
+    }
+    return runConversion(*options);
 }

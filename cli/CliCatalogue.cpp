@@ -1,0 +1,98 @@
+#include "CliCatalogue.h"
+
+#include "Model/SXDataEngine.h"
+
+namespace {
+
+QString choiceLine(const QString& caption, const QStringList& offered, const QString& chosen) {
+    QStringList shown;
+    for (const QString& choice : offered)
+        shown.append(choice == chosen ? choice + QLatin1Char('*') : choice);
+    return QStringLiteral("    %1 %2\n").arg(caption, -14).arg(shown.join(QStringLiteral(", ")));
+}
+
+QString libraryText(int enumAddToiTunes) {
+    if (enumAddToiTunes < 0)
+        return QStringLiteral("not offered");
+    return enumAddToiTunes == 1 ? QStringLiteral("offered, on") : QStringLiteral("offered, off");
+}
+
+// Applies one choice; false with *error when the format does not offer it.
+bool applyChoice(const QString& wanted, const QStringList& offered, const QString& what,
+                 const SXFormatSetting& format, QString* chosen, QString* error) {
+    if (wanted.isEmpty())
+        return true;
+    const QString match = CliCatalogue::matchChoice(offered, wanted);
+    if (match.isEmpty()) {
+        *error = QStringLiteral("%1 does not offer %2 \"%3\" (offered: %4)")
+                     .arg(format.fmtName(), what, wanted, offered.join(QStringLiteral(", ")));
+        return false;
+    }
+    *chosen = match;
+    return true;
+}
+
+} // namespace
+
+QString CliCatalogue::formatListing() {
+    const SXDataEngine* engine = SXDataEngine::shareInstance();
+    QString text = QStringLiteral("Output formats (* marks the default choice):\n");
+    for (const QString& name : engine->getAllOutputFormats()) {
+        const SXFormatSettingPtr format = engine->getFormatWithName(name);
+        if (!format)
+            continue;
+        text += QStringLiteral("%1 (.%2): %3\n")
+                    .arg(name, format->outputExtName(), format->fmtDescribe());
+        text += choiceLine(QStringLiteral("bit rates:"), format->aryBiteRate(), format->biteRate());
+        text += choiceLine(QStringLiteral("sample rates:"), format->arySampleRate(),
+                           format->sampleRate());
+        text += choiceLine(QStringLiteral("channels:"), format->aryChannels(), format->channels());
+        text += QStringLiteral("    %1 %2\n")
+                    .arg(QStringLiteral("music library:"), -14)
+                    .arg(libraryText(format->enumAddToiTunes()));
+    }
+    return text;
+}
+
+QString CliCatalogue::matchChoice(const QStringList& offered, const QString& wanted) {
+    const QString trimmed = wanted.trimmed();
+    for (const QString& choice : offered) {
+        if (choice.compare(trimmed, Qt::CaseInsensitive) == 0)
+            return choice;
+    }
+    return QString();
+}
+
+SXFormatSettingPtr CliCatalogue::settingForOptions(const CliOptions& options, QString* error) {
+    const SXDataEngine* engine = SXDataEngine::shareInstance();
+    SXFormatSettingPtr format = engine->getFormatWithName(options.formatName);
+    if (!format) {
+        *error =
+            QStringLiteral("unknown format \"%1\" (formats: %2)")
+                .arg(options.formatName, engine->getAllOutputFormats().join(QStringLiteral(", ")));
+        return nullptr;
+    }
+    QString bitrate = format->biteRate();
+    QString samplerate = format->sampleRate();
+    QString channels = format->channels();
+    if (!applyChoice(options.bitrate, format->aryBiteRate(), QStringLiteral("bit rate"), *format,
+                     &bitrate, error) ||
+        !applyChoice(options.samplerate, format->arySampleRate(), QStringLiteral("sample rate"),
+                     *format, &samplerate, error) ||
+        !applyChoice(options.channels, format->aryChannels(), QStringLiteral("channels"), *format,
+                     &channels, error))
+        return nullptr;
+    format->setBiteRate(bitrate);
+    format->setSampleRate(samplerate);
+    format->setChannels(channels);
+
+    if (options.library && format->enumAddToiTunes() < 0) {
+        *error = QStringLiteral("%1 does not offer delivery to the music library")
+                     .arg(format->fmtName());
+        return nullptr;
+    }
+    // The tool delivers to the library only when asked, whatever the preset's default.
+    if (format->enumAddToiTunes() >= 0)
+        format->setEnumAddToiTunes(options.library ? 1 : 0);
+    return format;
+}

@@ -1,0 +1,59 @@
+#include "CliInfo.h"
+
+#include "CliOutput.h"
+#include "Media/LSMediaLoader.h"
+#include "Workspace/SXFileInfoText.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+namespace {
+
+// Collects the loader's verdict; the loader calls it on its worker thread, and waitUntilDone()
+// orders that write before our read.
+class SingleLoad : public LSMediaLoaderDelegate {
+public:
+    void mediaLoaderDidCompleteLoadMedias(LSMediaLoader*, const std::optional<SXMusicInfoList>&,
+                                          const std::optional<QSet<int>>& failedIndex) override {
+        failed = failedIndex && failedIndex->contains(0);
+    }
+    bool failed = true;
+};
+
+QString artworkText(const SXMusicInfo& item) {
+    const std::optional<MTEArtwork> artwork = SXFileInfoText::artworkForItem(item);
+    if (!artwork)
+        return QStringLiteral("none");
+    const QString kind = artwork->mimeType.isEmpty() ? QStringLiteral("image") : artwork->mimeType;
+    return QStringLiteral("%1, %2 bytes").arg(kind).arg(artwork->data.size());
+}
+
+} // namespace
+
+int CliInfo::printInfo(const QString& path) {
+    const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    auto media = std::make_shared<LSMedia>();
+    media->setFilePath(absolute);
+    media->setStrOutFileName(QFileInfo(absolute).completeBaseName());
+    auto item = std::make_shared<SXMusicInfo>();
+    item->setStrFilePath(absolute);
+    item->setMediaInfo(media);
+
+    SingleLoad verdict;
+    const LSMediaLoaderPtr loader = LSMediaLoader::create();
+    loader->setDelegate(&verdict);
+    loader->loadMediasWithMediaArray({item});
+    loader->waitUntilDone();
+    if (verdict.failed) {
+        CliOutput::line(stderr,
+                        QStringLiteral("sonoria-cli: cannot read \"%1\" as media").arg(path));
+        return 1;
+    }
+
+    QString text;
+    for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(*item))
+        text += QStringLiteral("%1 %2\n").arg(line.caption + QLatin1Char(':'), -15).arg(line.text);
+    text += QStringLiteral("%1 %2\n").arg(QStringLiteral("Artwork:"), -15).arg(artworkText(*item));
+    CliOutput::write(stdout, text);
+    return 0;
+}

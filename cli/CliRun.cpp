@@ -1,0 +1,263 @@
+#include "CliRun.h"
+
+#include "CliOutput.h"
+#include "Common/Util/SXFileLocalManager.h"
+#include "Shared/GlobalFun.h"
+#include "Shared/SXBundle.h"
+#include "Shared/SXSettings.h"
+#include "Workspace/SXWorkspace.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <csignal>
+#include <sys/stat.h>
+
+namespace {
+
+constexpr int kDefaultJobs = 5;
+constexpr int kStatusInterruptedByUser = 128 + SIGINT;
+
+QString absoluteClean(const QString& path) {
+    return QDir::cleanPath(QDir::current().absoluteFilePath(path));
+}
+
+} // namespace
+
+CliRun::CliRun(const CliOptions& options, const SXFormatSettingPtr& setting, QObject* parent)
+    : QObject(parent)
+    , m_options(options)
+    , m_setting(setting) {}
+
+CliRun::~CliRun() = default;
+
+// --- Setting up ---
+
+QString CliRun::outputFolderForRun() const {
+    if (!m_options.outputFolder.isEmpty())
+        return absoluteClean(m_options.outputFolder);
+    const QString stored = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
+    if (!stored.isEmpty())
+        return absoluteClean(stored);
+    // A dry run creates nothing, not even the default folder.
+    if (m_options.dryRun)
+        return SXFileLocalManager::musicDirectory() + QLatin1Char('/') + SXBundle::productName();
+    return SXFileLocalManager::getDefaultUpperOutputDir();
+}
+
+void CliRun::prepareWorkspace() {
+    m_workspace = std::make_unique<SXWorkspace>();
+    m_workspace->setPresenter(this);
+    m_workspace->addDefaultTabs();
+    if (!m_workspace->selectContainer(m_setting->fmtName()))
+        m_workspace->addContainerWithFormat(m_setting);
+    m_workspace->setFmtSetting(m_setting);
+    m_workspace->setOrganizeByFormat(m_options.organize);
+    m_workspace->setOpenFolderWhenDone(false);
+    int jobs = m_options.jobs.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask));
+    if (jobs <= 0)
+        jobs = kDefaultJobs;
+    m_workspace->setMaxConcurrentOverride(jobs);
+}
+
+int CliRun::countUnreadablePaths() const {
+    int unreadable = 0;
+    for (const QString& path : m_options.inputs) {
+        struct stat status {};
+        if (::lstat(QFile::encodeName(absoluteClean(path)).constData(), &status) != 0) {
+            CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot examine \"%1\"").arg(path));
+            ++unreadable;
+        }
+    }
+    return unreadable;
+}
+
+void CliRun::start() {
+    m_terminal = CliOutput::stdoutIsTerminal();
+    m_outputFolder = outputFolderForRun();
+    prepareWorkspace();
+    connect(m_workspace.get(), &SXWorkspaceFileLists::loadFinished, this,
+            [this](const SXMusicInfoList& failed) { loadFinished(int(failed.size())); });
+
+    QStringList paths;
+    for (const QString& input : std::as_const(m_options.inputs))
+        paths.append(absoluteClean(input));
+    m_loadFailures = countUnreadablePaths();
+    m_workspace->loadAndParseFiles(paths);
+}
+
+SXMusicInfoList CliRun::items() const {
+    return m_workspace->getDataForFormat(m_setting->fmtName());
+}
+
+// --- Loading ---
+
+void CliRun::loadFinished(int failedCount) {
+    m_loadFailures += failedCount;
+    if (m_interruptSignal) {
+        finish(m_interruptSignal == SIGINT ? kStatusInterruptedByUser : 1);
+        return;
+    }
+    if (m_options.dryRun) {
+        printDryRun();
+        finish(m_loadFailures > 0 ? 1 : 0);
+        return;
+    }
+    startConversion();
+}
+
+void CliRun::printDryRun() {
+    const QString folder = m_options.organize
+                               ? m_outputFolder + QLatin1Char('/') + m_setting->fmtName()
+                               : m_outputFolder;
+    const QString ext = m_setting->outputExtName();
+    const SXMusicInfoList loaded = items();
+    QString text;
+    for (const SXMusicInfoPtr& item : loaded) {
+        const LSMediaPtr media = item->mediaInfo();
+        const QString name = media ? media->strOutFileName() : QString();
+        const QString target = GlobalFun::makeSureFullPathIdentical(
+            folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
+        text += QStringLiteral("would convert: %1 -> %2\n").arg(item->strFilePath(), target);
+    }
+    text += QStringLiteral("%1 files would be converted to %2 in %3 (each with the name it would "
+                           "get now; nothing was converted or created)\n")
+                .arg(loaded.size())
+                .arg(m_setting->fmtName(), folder);
+    CliOutput::write(stdout, text);
+}
+
+// --- Converting ---
+
+void CliRun::startConversion() {
+    m_phase = Phase::Converting;
+    m_total = int(items().size());
+    connect(m_workspace.get(), &SXWorkspaceScheduler::runFinished, this,
+            [this](const QString& summary, int, int) { runFinished(summary); });
+    if (m_terminal) {
+        connect(m_workspace.get(), &SXWorkspaceScheduler::totalProgressChanged, this,
+                &CliRun::totalProgressChanged);
+        m_bar.start();
+    }
+    m_workspace->doRealConverterTask(m_outputFolder);
+
+    SXOperationQueue* queue = m_workspace->queueConvertTask();
+    if (!queue)
+        return;
+    // The operation knows the output name it picked; keep it so every finished file can be
+    // named, also one whose end was reported before we listened.
+    for (const SXOperationPtr& operation : queue->operations()) {
+        auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
+        if (convert && convert->musicToConvert())
+            m_operations.insert(convert->musicToConvert().get(), convert);
+    }
+    connect(
+        queue, &SXOperationQueue::operationFinished, this,
+        [this](SXOperationPtr operation) {
+            auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
+            QMetaObject::invokeMethod(
+                this, [this, convert] { operationFinished(convert); }, Qt::QueuedConnection);
+        },
+        Qt::DirectConnection);
+}
+
+void CliRun::operationFinished(const ConvertOperationPtr& operation) {
+    if (operation)
+        report(operation->musicToConvert(), operation->strOutFilePath());
+}
+
+void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
+    if (!item || m_reported.contains(item.get()))
+        return;
+    const LSMediaPtr media = item->mediaInfo();
+    const int state = media ? media->eumCvtState() : CvtStateReady;
+    QString line;
+    if (state == CvtStateFinished) {
+        ++m_done;
+        line = outputFile.isEmpty()
+                   ? QStringLiteral("done: %1").arg(item->strFilePath())
+                   : QStringLiteral("done: %1 -> %2").arg(item->strFilePath(), outputFile);
+    } else if (state == CvtStateFailed) {
+        ++m_failed;
+        line = QStringLiteral("failed: %1").arg(item->strFilePath());
+    } else if (state == CvtStateCanceled || item->dConvertProgress() == SXProgress::Canceled) {
+        line = QStringLiteral("cancelled: %1").arg(item->strFilePath());
+    } else {
+        return;
+    }
+    m_reported.insert(item.get());
+    if (!m_terminal)
+        CliOutput::line(stdout, line);
+}
+
+void CliRun::totalProgressChanged(double percent) {
+    m_bar.update(percent, m_done, m_failed, m_total);
+}
+
+void CliRun::runFinished(const QString& summary) {
+    bool allConverted = m_loadFailures == 0;
+    for (const SXMusicInfoPtr& item : items()) {
+        const ConvertOperationPtr operation = m_operations.value(item.get());
+        report(item, operation ? operation->strOutFilePath() : QString());
+        const LSMediaPtr media = item->mediaInfo();
+        if (!media || media->eumCvtState() != CvtStateFinished)
+            allConverted = false;
+    }
+    if (m_terminal) {
+        m_bar.update(m_workspace->getTotalConvertProgress() * 100.0, m_done, m_failed, m_total);
+        CliOutput::write(stdout, QStringLiteral("\n"));
+    }
+    CliOutput::line(stdout, summary);
+    if (m_interruptSignal)
+        finish(m_interruptSignal == SIGINT ? kStatusInterruptedByUser : 1);
+    else
+        finish(allConverted ? 0 : 1);
+}
+
+void CliRun::interrupt(int signalNumber) {
+    if (m_interruptSignal || m_phase == Phase::Finished)
+        return;
+    m_interruptSignal = signalNumber;
+    if (m_phase == Phase::Loading) {
+        CliOutput::line(stderr, QStringLiteral("sonoria-cli: interrupted, stopping the load"));
+        m_workspace->clickCancel();
+    } else {
+        if (m_terminal)
+            m_bar.clear();
+        CliOutput::line(stderr,
+                        QStringLiteral("sonoria-cli: interrupted, cancelling the conversions"));
+        m_workspace->clickCancelAll();
+    }
+}
+
+void CliRun::finish(int status) {
+    m_phase = Phase::Finished;
+    QCoreApplication::exit(status);
+}
+
+// --- Presenter ---
+
+int CliRun::runModalAlert(const SXAlert& alert) {
+    // The end of a run is reported through runFinished, which carries the same summary text;
+    // every other alert (the load failures) goes to standard error.
+    if (m_phase == Phase::Converting)
+        return 0;
+    QString text = alert.messageText + QLatin1Char('\n') + alert.informativeText;
+    if (!text.endsWith(QLatin1Char('\n')))
+        text += QLatin1Char('\n');
+    CliOutput::write(stderr, text);
+    return 0;
+}
+
+void CliRun::showSheetAlert(const SXAlert& alert) {
+    CliOutput::line(stderr, alert.messageText);
+}
+
+std::optional<SXOutputFolderChoice> CliRun::chooseOutputFolder(const SXOutputFolderRequest&) {
+    // The run is started with its folder from the command line; nothing here asks for one.
+    return std::nullopt;
+}
+
+SXFormatSettingPtr CliRun::chooseNewFormat(const QList<SXFormatSettingPtr>&) {
+    return nullptr;
+}

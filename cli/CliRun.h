@@ -1,0 +1,69 @@
+#pragma once
+
+#include "CliOptions.h"
+#include "CliProgressBar.h"
+#include "Convert/ConvertOperation.h"
+#include "Model/SXFormatSetting.h"
+#include "Workspace/SXWorkspacePresenter.h"
+
+#include <QHash>
+#include <QObject>
+#include <QSet>
+#include <memory>
+
+class SXWorkspace;
+
+// One conversion run (or dry run) of the tool: a headless workspace with one container of the
+// chosen format does the work, exactly as a window would; this class only answers the
+// workspace's questions, reports on the console and picks the exit status.
+class CliRun : public QObject, public SXWorkspacePresenter {
+    Q_OBJECT
+public:
+    CliRun(const CliOptions& options, const SXFormatSettingPtr& setting, QObject* parent = nullptr);
+    ~CliRun() override;
+
+    // Starts the add run; the event loop ends with the exit status (QCoreApplication::exit).
+    void start();
+    // SIGINT or SIGTERM: stop loading or cancel every conversion, then end as usual.
+    void interrupt(int signalNumber);
+
+    // SXWorkspacePresenter
+    int runModalAlert(const SXAlert& alert) override;
+    void showSheetAlert(const SXAlert& alert) override;
+    std::optional<SXOutputFolderChoice>
+    chooseOutputFolder(const SXOutputFolderRequest& request) override;
+    SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) override;
+    void beep() override {}
+    void openFolder(const QString&) override {}
+
+private:
+    enum class Phase { Loading, Converting, Finished };
+
+    void prepareWorkspace();
+    int countUnreadablePaths() const;
+    void loadFinished(int failedCount);
+    void printDryRun();
+    void startConversion();
+    void operationFinished(const ConvertOperationPtr& operation);
+    void report(const SXMusicInfoPtr& item, const QString& outputFile);
+    void totalProgressChanged(double percent);
+    void runFinished(const QString& summary);
+    void finish(int status);
+    QString outputFolderForRun() const;
+    SXMusicInfoList items() const;
+
+    CliOptions m_options;
+    SXFormatSettingPtr m_setting;
+    QString m_outputFolder; // absolute, before the per-format folder
+    std::unique_ptr<SXWorkspace> m_workspace;
+    Phase m_phase = Phase::Loading;
+    int m_loadFailures = 0;
+    int m_interruptSignal = 0;
+    bool m_terminal = false;
+    CliProgressBar m_bar;
+    QHash<const SXMusicInfo*, ConvertOperationPtr> m_operations;
+    QSet<const SXMusicInfo*> m_reported;
+    int m_done = 0;
+    int m_failed = 0;
+    int m_total = 0;
+};
