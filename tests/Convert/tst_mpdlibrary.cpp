@@ -16,6 +16,7 @@
 #include <mpd/client.h>
 
 #include <csignal>
+#include <functional>
 #include <memory>
 #include <netinet/in.h>
 #include <sys/socket.h>
@@ -65,64 +66,42 @@ class TestMpdLibrary : public QObject {
         return QFile::copy(m_root.filePath(QStringLiteral("tone.mp3")), path) ? path : QString();
     }
 
-    // What MPD itself says, asked through a connection of the test's own.
-    QStringList storedPlaylist(const QString& name) const {
+    // Values named `key` in MPD's answer to what `send` asks, over a connection of the test's
+    // own; {"<missing>"} when MPD refuses the request.
+    QStringList ask(const std::function<bool(mpd_connection*)>& send, const char* key) const {
         Connection c = connect();
-        QStringList files;
-        const QByteArray utf8 = name.toUtf8();
-        if (mpd_send_list_playlist(c.get(), utf8.constData())) {
-            while (mpd_pair* pair = mpd_recv_pair_named(c.get(), "file")) {
-                files << QString::fromUtf8(pair->value);
+        QStringList values;
+        if (send(c.get())) {
+            while (mpd_pair* pair = mpd_recv_pair_named(c.get(), key)) {
+                values << QString::fromUtf8(pair->value);
                 mpd_return_pair(c.get(), pair);
             }
         }
-        return mpd_response_finish(c.get()) ? files : QStringList{QStringLiteral("<missing>")};
+        return mpd_response_finish(c.get()) ? values : QStringList{QStringLiteral("<missing>")};
     }
-
-    QStringList storedPlaylistNames() const {
-        Connection c = connect();
-        QStringList names;
-        if (mpd_send_list_playlists(c.get())) {
-            while (mpd_playlist* playlist = mpd_recv_playlist(c.get())) {
-                names << QString::fromUtf8(mpd_playlist_get_path(playlist));
-                mpd_playlist_free(playlist);
-            }
-        }
-        mpd_response_finish(c.get());
-        return names;
+    QStringList storedPlaylist(const QString& name) const {
+        const QByteArray utf8 = name.toUtf8();
+        return ask([&](mpd_connection* c) { return mpd_send_list_playlist(c, utf8.constData()); },
+                   "file");
     }
-
+    QStringList storedPlaylistNames() const { return ask(mpd_send_list_playlists, "playlist"); }
     bool inDatabase(const QString& uri) const {
-        Connection c = connect();
-        bool found = false;
         const QByteArray utf8 = uri.toUtf8();
-        if (mpd_send_list_meta(c.get(), utf8.constData())) {
-            while (mpd_entity* entity = mpd_recv_entity(c.get())) {
-                found = found || mpd_entity_get_type(entity) == MPD_ENTITY_TYPE_SONG;
-                mpd_entity_free(entity);
-            }
-        }
-        return mpd_response_finish(c.get()) && found;
+        return ask([&](mpd_connection* c) { return mpd_send_list_meta(c, utf8.constData()); },
+                   "file") == QStringList{uri};
     }
 
     bool writeConfig(const QString& path) {
-        QFile config(path);
-        if (!config.open(QIODevice::WriteOnly))
-            return false;
-        const QString text =
-            QStringLiteral("music_directory \"%1\"\n"
-                           "playlist_directory \"%2\"\n"
-                           "db_file \"%3\"\n"
-                           "bind_to_address \"127.0.0.1\"\n"
-                           "bind_to_address \"%4\"\n"
-                           "port \"%5\"\n"
-                           "auto_update \"no\"\n"
-                           "zeroconf_enabled \"no\"\n"
-                           "audio_output {\n    type \"null\"\n    name \"null\"\n}\n")
-                .arg(m_music, m_root.filePath(QStringLiteral("playlists")),
-                     m_root.filePath(QStringLiteral("database")), m_socket)
-                .arg(m_port);
-        return config.write(text.toUtf8()) > 0;
+        return SonoriaTest::writeFile(
+            path, QStringLiteral("music_directory \"%1\"\nplaylist_directory \"%2\"\n"
+                                 "db_file \"%3\"\nbind_to_address \"127.0.0.1\"\n"
+                                 "bind_to_address \"%4\"\nport \"%5\"\nauto_update \"no\"\n"
+                                 "zeroconf_enabled \"no\"\naudio_output {\n type \"null\"\n"
+                                 " name \"null\"\n}\n")
+                      .arg(m_music, m_root.filePath(QStringLiteral("playlists")),
+                           m_root.filePath(QStringLiteral("database")), m_socket)
+                      .arg(m_port)
+                      .toUtf8());
     }
 
 private Q_SLOTS:
@@ -203,9 +182,7 @@ private Q_SLOTS:
                                  .arg(outside, m_music)));
 
         const QString notAudio = m_music + QStringLiteral("/notes.mp3");
-        QFile text(notAudio);
-        QVERIFY(text.open(QIODevice::WriteOnly) && text.write("just text\n") > 0);
-        text.close();
+        QVERIFY(SonoriaTest::writeFile(notAudio, "just text\n"));
         QCOMPARE(library.deliver(QStringLiteral("Refused"), notAudio), SXDeliveryResult::Failed);
         QVERIFY2(log.contains(QStringLiteral("MPD did not index notes.mp3")),
                  qPrintable(log.lines().join(QLatin1Char('\n'))));

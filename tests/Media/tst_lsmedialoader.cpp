@@ -95,12 +95,6 @@ SXMusicInfoList makeItems(const QStringList& paths) {
     return items;
 }
 
-bool writeFile(const QString& path, const QByteArray& bytes) {
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
-           file.write(bytes) == bytes.size();
-}
-
 } // namespace
 
 class TestLSMediaLoader : public QObject {
@@ -114,7 +108,7 @@ private Q_SLOTS:
         m_flac = path("tone.flac");
         QVERIFY(SonoriaTest::makeTone(m_flac, 1, {QStringLiteral("-ac"), QStringLiteral("2")}));
         m_text = path("letter.mp3");
-        QVERIFY(writeFile(m_text, "Not a sound, only words.\n"));
+        QVERIFY(SonoriaTest::writeFile(m_text, "Not a sound, only words.\n"));
     }
 
     // The middle item fails: progress still covers it, the batch comes back whole with its index
@@ -222,6 +216,7 @@ private Q_SLOTS:
     }
 
     // Readable media whose tags cannot be read is loaded all the same, without a tag handle.
+    // The caller lets go of the loader at once: the worker keeps it alive while the batch runs.
     void loadsMediaWithoutReadableTags() {
         const QString ac3 = path("surround.ac3");
         QVERIFY(SonoriaTest::makeTone(ac3, 1, {QStringLiteral("-ac"), QStringLiteral("6")}));
@@ -231,10 +226,15 @@ private Q_SLOTS:
         const SXMusicInfoList batch = makeItems({ac3, mka});
         RecordingDelegate delegate(batch);
         LogCapture log;
-        const LSMediaLoaderPtr loader = LSMediaLoader::create();
-        loader->setDelegate(&delegate);
-        loader->loadMediasWithMediaArray(batch);
+        std::weak_ptr<LSMediaLoader> watcher;
+        {
+            const LSMediaLoaderPtr loader = LSMediaLoader::create();
+            watcher = loader;
+            loader->setDelegate(&delegate);
+            loader->loadMediasWithMediaArray(batch);
+        }
         QVERIFY(delegate.waitForCompletion());
+        QTRY_VERIFY_WITH_TIMEOUT(watcher.expired(), 10000);
 
         QCOMPARE(delegate.failed, std::optional<QSet<int>>(QSet<int>{}));
         QCOMPARE(log.count(QStringLiteral("load %1 failed!").arg(ac3)), 1);
@@ -249,46 +249,23 @@ private Q_SLOTS:
     }
 
     // Every kind of unreadable input ends in the failure set; the batch goes on to the end.
+    // (Which file contents the probe rejects is the probe's own test.)
     void badInputsNeverStopTheBatch() {
         const QString empty = path("empty.mp3");
-        QVERIFY(writeFile(empty, {}));
-        QFile whole(m_mp3);
-        QVERIFY(whole.open(QIODevice::ReadOnly));
-        const QString truncated = path("truncated.mp3");
-        QVERIFY(writeFile(truncated, whole.read(300)));
-        const QString silentFilm = path("silent.mp4");
-        QVERIFY(SonoriaTest::makeMedia(silentFilm, QStringLiteral("testsrc=duration=1:size=96x64"),
-                                       {QStringLiteral("-c:v"), QStringLiteral("mpeg4")}));
+        QVERIFY(SonoriaTest::writeFile(empty, {}));
         const QString folder = path("album.flac");
         QVERIFY(QDir().mkpath(folder));
 
-        SXMusicInfoList batch =
-            makeItems({m_text, empty, truncated, silentFilm, folder, path("gone.mp3"), m_flac});
+        SXMusicInfoList batch = makeItems({m_text, empty, folder, path("gone.mp3"), m_flac});
         batch.insert(1, std::make_shared<SXMusicInfo>()); // an item without a media record
         RecordingDelegate delegate(batch);
         const LSMediaLoaderPtr loader = LSMediaLoader::create();
         loader->setDelegate(&delegate);
         loader->loadMediasWithMediaArray(batch);
         QVERIFY(delegate.waitForCompletion());
-        QCOMPARE(delegate.failed, std::optional<QSet<int>>(QSet<int>{0, 1, 2, 3, 4, 5, 6}));
+        QCOMPARE(delegate.failed, std::optional<QSet<int>>(QSet<int>{0, 1, 2, 3, 4}));
         QCOMPARE(delegate.events.count(), 2 * batch.size() + 1);
         QVERIFY(batch.last()->metHandler());
-    }
-
-    // The worker keeps the loader alive: the caller may let go while the batch runs.
-    void workerOutlivesCallerReference() {
-        const SXMusicInfoList batch = makeItems({m_mp3, m_flac});
-        RecordingDelegate delegate(batch);
-        std::weak_ptr<LSMediaLoader> watcher;
-        {
-            LSMediaLoaderPtr loader = LSMediaLoader::create();
-            watcher = loader;
-            loader->setDelegate(&delegate);
-            loader->loadMediasWithMediaArray(batch);
-        }
-        QVERIFY(delegate.waitForCompletion());
-        QCOMPARE(delegate.failed, std::optional<QSet<int>>(QSet<int>{}));
-        QTRY_VERIFY_WITH_TIMEOUT(watcher.expired(), 10000);
     }
 
 private:
