@@ -253,6 +253,17 @@ void TestCli::loadFailuresAreNamedAndExitOne() {
     QVERIFY(result.out.contains(QStringLiteral("1 files has been successfully converted.")));
     QCOMPARE(filesBelow(out),
              (QStringList{QStringLiteral("MP3"), QStringLiteral("MP3/plain tone.mp3")}));
+
+    // A file that loads but cannot be converted (its output folder is a regular file): named
+    // per line and in the window's summary.
+    const CliResult failed =
+        runCli({QStringLiteral("--no-organize"), QStringLiteral("-o"), m_textAsMp3, good});
+    QCOMPARE(failed.exitCode, 1);
+    QCOMPARE(nonEmptyLines(failed.out),
+             (QStringList{QStringLiteral("failed: ") + good,
+                          QStringLiteral("0 files has been successfully converted.except 1 files "
+                                         "failed,including: "),
+                          QStringLiteral("plain tone")}));
 }
 
 void TestCli::dryRunCreatesNothing() {
@@ -277,10 +288,13 @@ void TestCli::dryRunCreatesNothing() {
         QStringLiteral("would convert: %1/sub/ünïcødé 日本.m4a -> %2/MP3/ünïcødé 日本.mp3")
             .arg(m_sources, out)));
 
-    result = runCli({QStringLiteral("--dry-run"), QStringLiteral("--no-organize"),
-                     QStringLiteral("-o"), fresh(QStringLiteral("dry-missing")), m_textAsMp3});
+    // -v mirrors the log lines to standard error.
+    result =
+        runCli({QStringLiteral("--dry-run"), QStringLiteral("-v"), QStringLiteral("--no-organize"),
+                QStringLiteral("-o"), fresh(QStringLiteral("dry-missing")), m_textAsMp3});
     QCOMPARE(result.exitCode, 1);
     QVERIFY(result.err.contains(QStringLiteral("Following file(s) load failed!")));
+    QVERIFY(result.err.contains(QStringLiteral("finish complete load media.....")));
     QCOMPARE(filesBelow(m_work.path()), before);
 }
 
