@@ -47,6 +47,18 @@ QString probe(const QString& path) {
     return output.trimmed();
 }
 
+// The nominal bit rate of the first audio stream in bit/s ("N/A" for lossless streams).
+QString probeBitRate(const QString& path) {
+    QString output;
+    SonoriaTest::run(QStringLiteral("ffprobe"),
+                     {QStringLiteral("-v"), QStringLiteral("error"),
+                      QStringLiteral("-select_streams"), QStringLiteral("a:0"),
+                      QStringLiteral("-show_entries"), QStringLiteral("stream=bit_rate"),
+                      QStringLiteral("-of"), QStringLiteral("csv=p=0"), path},
+                     &output);
+    return output.trimmed();
+}
+
 QStringList nonEmptyLines(const QString& text) {
     return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }
@@ -203,6 +215,7 @@ void TestCli::choicesReachTheOutput() {
                                QStringLiteral("mono"), QStringLiteral("-o"), out, source});
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(probe(out + QStringLiteral("/MP3/plain tone.mp3")), QStringLiteral("mp3,22050,1"));
+    QCOMPARE(probeBitRate(out + QStringLiteral("/MP3/plain tone.mp3")), QStringLiteral("64000"));
 
     result = runCli({QStringLiteral("-f"), QStringLiteral("FLAC"), QStringLiteral("--samplerate"),
                      QStringLiteral("48000"), QStringLiteral("-o"), out, source});
