@@ -2,7 +2,6 @@
 # ours links sonoria_options, so no target can quietly build with a weaker set.
 add_library(sonoria_options INTERFACE)
 target_compile_features(sonoria_options INTERFACE cxx_std_20)
-set_property(GLOBAL PROPERTY CXX_EXTENSIONS OFF)
 target_compile_options(sonoria_options INTERFACE -Wall -Wextra -Wpedantic -Werror
                                                  -Wno-missing-field-initializers)
 target_compile_definitions(sonoria_options INTERFACE
