@@ -13,25 +13,25 @@
 // settings are filled in directly (as the workspace does) rather than taken from the catalogue.
 namespace ConvertTest {
 
+using namespace Qt::StringLiterals;
+
 class Recorder : public ConvertOperationDelegate {
 public:
-    void didConvertOperationStart(ConvertOperation*) override { add(QStringLiteral("start")); }
-    void convertOperationHandleProgress(ConvertOperation*, double) override {
-        add(QStringLiteral("progress"));
-    }
-    void convertStartSync(ConvertOperation*) override { add(QStringLiteral("sync")); }
-    void didConvertOperationFinish(ConvertOperation*) override { add(QStringLiteral("finish")); }
+    void didConvertOperationStart(ConvertOperation*) override { add(u"start"_s); }
+    void convertOperationHandleProgress(ConvertOperation*, double) override { add(u"progress"_s); }
+    void convertStartSync(ConvertOperation*) override { add(u"sync"_s); }
+    void didConvertOperationFinish(ConvertOperation*) override { add(u"finish"_s); }
 
     QStringList events() const {
         QMutexLocker locker(&m_lock);
         return m_events;
     }
+    int count(const QString& event) const { return int(events().count(event)); }
     // One start, any number of progress reports, at most one sync, exactly one finish.
     bool isWellFormed() const {
-        static const QRegularExpression form(QStringLiteral("^start( progress)*( sync)? finish$"));
-        return form.match(events().join(QLatin1Char(' '))).hasMatch();
+        static const QRegularExpression form(u"^start( progress)*( sync)? finish$"_s);
+        return form.match(events().join(u' ')).hasMatch();
     }
-    int count(const QString& event) const { return static_cast<int>(events().count(event)); }
 
 private:
     void add(const QString& event) {
@@ -42,28 +42,22 @@ private:
     QStringList m_events;
 };
 
-struct Output {
-    QString format = QStringLiteral("MP3");
-    QString codec = QStringLiteral("libmp3lame");
-    QString ext = QStringLiteral("mp3");
-    double kbps = 128.0;
-    double sampleRate = 44100.0;
-    int channels = 2;
-};
-
-inline SXMusicInfoPtr makeItem(const QString& source, double duration, const Output& out = {}) {
+inline SXMusicInfoPtr makeItem(const QString& source, double duration,
+                               const QString& format = u"MP3"_s,
+                               const QString& codec = u"libmp3lame"_s,
+                               const QString& ext = u"mp3"_s) {
     auto media = std::make_shared<LSMedia>();
     media->setFilePath(source);
     media->setDuration(duration);
-    media->setDAOBitrate(out.kbps);
-    media->setDAOSamplerate(out.sampleRate);
-    media->setIAOChanels(out.channels);
-    media->setVOACodecName(out.codec);
-    media->setStrOutFileExt(out.ext);
+    media->setDAOBitrate(128.0);
+    media->setDAOSamplerate(44100.0);
+    media->setIAOChanels(2);
+    media->setVOACodecName(codec);
+    media->setStrOutFileExt(ext);
     media->setStrOutFileName(QFileInfo(source).completeBaseName());
     auto item = std::make_shared<SXMusicInfo>();
     item->setStrFilePath(source);
-    item->setStrMusicType(out.format);
+    item->setStrMusicType(format);
     item->setMediaInfo(media);
     return item;
 }

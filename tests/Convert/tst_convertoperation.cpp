@@ -1,6 +1,5 @@
 #include "ConvertTestSupport.h"
 
-#include "Media/Framework/HVMediaInfo.h"
 #include "Media/Framework/MTEAudioFileMgr.h"
 #include "Shared/SXSettings.h"
 #include "support/LogCapture.h"
@@ -15,292 +14,201 @@ using namespace ConvertTest;
 
 class ConvertOperationTest : public QObject {
     Q_OBJECT
-private Q_SLOTS:
-    void finishedBesideSourceWithTagsAndArtwork();
-    void failuresLeaveNothingBehind_data();
-    void failuresLeaveNothingBehind();
-    void missingEncoderProgramFails();
-    void existingFilesAreNeverReplaced();
-    void ringtoneMovesToFreeName();
-    void parallelRunsNeverShareOutput();
-    void awkwardNamesConvert_data();
-    void awkwardNamesConvert();
-    void commandLineAndChannelRule();
-    void libraryDeliveryIsAnnounced();
-};
+    QTemporaryDir m_dir;
+    QString m_tone; // one-second WAV, copied wherever a test needs a source
 
-void ConvertOperationTest::finishedBesideSourceWithTagsAndArtwork() {
-    QTemporaryDir dir;
-    const QString cover = dir.filePath(QStringLiteral("cover.png"));
-    QVERIFY(SonoriaTest::makeMedia(cover, QStringLiteral("color=c=red:s=32x32"),
-                                   {QStringLiteral("-frames:v"), QStringLiteral("1")}));
-    const QString plain = dir.filePath(QStringLiteral("plain.mp3"));
-    QVERIFY(SonoriaTest::makeTone(plain, 3.0));
-    const QString source = dir.filePath(QStringLiteral("song.mp3"));
-    QCOMPARE(SonoriaTest::run(
-                 QStringLiteral("ffmpeg"),
-                 {QStringLiteral("-nostdin"), QStringLiteral("-i"), plain, QStringLiteral("-i"),
-                  cover, QStringLiteral("-map"), QStringLiteral("0"), QStringLiteral("-map"),
-                  QStringLiteral("1"), QStringLiteral("-c"), QStringLiteral("copy"),
-                  QStringLiteral("-metadata"), QStringLiteral("title=Night Drive"),
-                  QStringLiteral("-metadata"), QStringLiteral("artist=The Tones"), source}),
-             0);
-    QFile::remove(plain);
-    const QByteArray sourceHash = SonoriaTest::fileHash(source);
-
-    auto item = makeItem(source, 3.0,
-                         {QStringLiteral("AAC"), QStringLiteral("aac"), QStringLiteral("m4a")});
-    item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
-    QVERIFY(item->metHandler());
-    const MTEArtworkList artwork = item->metHandler()->albumImg();
-    QCOMPARE(artwork.size(), 1);
-
-    LogCapture log;
-    Recorder recorder;
-    auto operation = convert(item, QString(), &recorder);
-
-    const QString expected = dir.filePath(QStringLiteral("song.m4a"));
-    QCOMPARE(stateOf(item), int(CvtStateFinished));
-    QCOMPARE(operation->strOutFilePath(), expected);
-    QCOMPARE(item->mediaInfo()->dProgress(), 100.0);
-    QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
-    QVERIFY(log.contains(QStringLiteral("tOutFile:") + expected));
-    QVERIFY(log.contains(QStringLiteral("exit code:0")));
-    QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
-
-    const auto written = MTEAudioFileMgr::createAudioFileWithPath(expected, true);
-    QVERIFY(written);
-    QCOMPARE(written->title(), QStringLiteral("Night Drive"));
-    QCOMPARE(written->artist(), QStringLiteral("The Tones"));
-    QCOMPARE(written->albumImg().size(), 1);
-    QCOMPARE(written->albumImg().first().data, artwork.first().data);
-}
-
-void ConvertOperationTest::failuresLeaveNothingBehind_data() {
-    QTest::addColumn<QString>("kind");
-    QTest::newRow("no audio stream") << "video";
-    QTest::newRow("unknown encoder") << "encoder";
-    QTest::newRow("unwritable output folder") << "folder";
-}
-
-void ConvertOperationTest::failuresLeaveNothingBehind() {
-    QFETCH(QString, kind);
-    QTemporaryDir dir;
-    QString source = dir.filePath(QStringLiteral("in.wav"));
-    Output out;
-    QString folder = dir.filePath(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(folder));
-    if (kind == QLatin1String("video")) {
-        source = dir.filePath(QStringLiteral("in.mp4"));
-        QVERIFY(SonoriaTest::makeMedia(source, QStringLiteral("testsrc=duration=1:size=64x64")));
-    } else {
-        QVERIFY(SonoriaTest::makeTone(source, 1.0));
+    QString copyTone(const QString& folder, const QString& name) {
+        QDir().mkpath(folder);
+        return QFile::copy(m_tone, folder + u'/' + name) ? folder + u'/' + name : QString();
     }
-    if (kind == QLatin1String("encoder"))
-        out.codec = QStringLiteral("no_such_encoder");
-    if (kind == QLatin1String("folder")) {
-        if (::geteuid() == 0) {
+
+private Q_SLOTS:
+    void initTestCase() {
+        m_tone = m_dir.filePath(u"tone.wav"_s);
+        QVERIFY(SonoriaTest::makeTone(m_tone, 1.0));
+    }
+
+    // Title and artwork reach the output; a library that cannot be reached fails quietly and
+    // the item still finishes; once finished, cancel and pause change nothing.
+    void finishedWithTagsArtworkAndDelivery() {
+        SXSettings::setValue(SXSettingsKey::LibraryBackend, u"mpd"_s);
+        SXSettings::setValue(SXSettingsKey::MpdHost, u"127.0.0.1"_s);
+        SXSettings::setValue(SXSettingsKey::MpdPort, 1);
+        QTemporaryDir dir;
+        const QString cover = dir.filePath(u"cover.png"_s);
+        QVERIFY(SonoriaTest::makeMedia(cover, u"color=c=red:s=32x32"_s, {u"-frames:v"_s, u"1"_s}));
+        const QString source = dir.filePath(u"song.mp3"_s);
+        QVERIFY(
+            SonoriaTest::makeTone(source, 3.0,
+                                  {u"-i"_s, cover, u"-map"_s, u"0"_s, u"-map"_s, u"1"_s, u"-c:v"_s,
+                                   u"copy"_s, u"-metadata"_s, u"title=Night Drive"_s}));
+        const QByteArray sourceHash = SonoriaTest::fileHash(source);
+        auto item = makeItem(source, 3.0, u"AAC"_s, u"aac"_s, u"m4a"_s);
+        item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
+        QCOMPARE(item->metHandler()->albumImg().size(), 1);
+        item->setBIsSendingToiTunes(true);
+
+        LogCapture log;
+        Recorder recorder;
+        auto operation = convert(item, QString(), &recorder);
+        const QString expected = dir.filePath(u"song.m4a"_s);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QCOMPARE(operation->strOutFilePath(), expected);
+        QCOMPARE(item->mediaInfo()->dProgress(), 100.0);
+        QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
+        QCOMPARE(recorder.count(u"sync"_s), 1);
+        QVERIFY(log.contains(u"exit code:0"_s));
+        QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
+        const auto written = MTEAudioFileMgr::createAudioFileWithPath(expected, true);
+        QVERIFY(written);
+        QCOMPARE(written->title(), u"Night Drive"_s);
+        QCOMPARE(written->albumImg().size(), 1);
+
+        operation->cancel();
+        operation->pause();
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QVERIFY(QFileInfo(expected).size() > 0);
+    }
+
+    void failuresLeaveNothingBehind_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("no audio stream") << u"video"_s;
+        QTest::newRow("unknown encoder") << u"encoder"_s;
+        QTest::newRow("unwritable output folder") << u"folder"_s;
+        QTest::newRow("no ffmpeg on the path") << u"path"_s;
+    }
+    void failuresLeaveNothingBehind() {
+        QFETCH(QString, kind);
+        QTemporaryDir dir;
+        QString folder = dir.filePath(u"out"_s);
+        QString source = copyTone(folder, u"in.wav"_s);
+        QString codec = u"libmp3lame"_s;
+        if (kind == "video"_L1) {
+            source = dir.filePath(u"in.mp4"_s);
+            QVERIFY(SonoriaTest::makeMedia(source, u"testsrc=duration=1:size=64x64"_s));
+        } else if (kind == "encoder"_L1) {
+            codec = u"no_such_encoder"_s;
+        } else if (kind == "folder"_L1 && ::geteuid() == 0) {
             // Permissions do not stop root: a folder "inside" a regular file cannot be written.
-            QFile blocker(dir.filePath(QStringLiteral("blocker")));
-            QVERIFY(blocker.open(QIODevice::WriteOnly));
-            folder = blocker.fileName() + QStringLiteral("/out");
-        } else {
+            QVERIFY(SonoriaTest::writeFile(dir.filePath(u"blocker"_s), ""));
+            folder = dir.filePath(u"blocker/out"_s);
+        } else if (kind == "folder"_L1) {
             QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
         }
-    }
-    const QStringList before = entries(dir.path());
-    auto item = makeItem(source, 1.0, out);
-    LogCapture log;
-    Recorder recorder;
-    convert(item, folder, &recorder);
-
-    QCOMPARE(stateOf(item), int(CvtStateFailed));
-    QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
-    QVERIFY(!log.contains(QStringLiteral("exit code:0")));
-    QVERIFY(log.lines().filter(QStringLiteral("exit code:")).size() == 1);
-    QCOMPARE(entries(dir.path()), before);
-    if (QFileInfo(folder).isDir())
-        QCOMPARE(entries(folder), QStringList());
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-}
-
-void ConvertOperationTest::missingEncoderProgramFails() {
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("in.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    const QByteArray path = qgetenv("PATH");
-    qputenv("PATH", dir.path().toLocal8Bit());
-    LogCapture log;
-    Recorder recorder;
-    auto item = makeItem(source, 1.0);
-    convert(item, QString(), &recorder);
-    qputenv("PATH", path);
-    QCOMPARE(stateOf(item), int(CvtStateFailed));
-    QVERIFY(log.contains(QStringLiteral("ffmpeg not found")));
-    QCOMPARE(recorder.events(), QStringList{QStringLiteral("finish")});
-    QCOMPARE(entries(dir.path()), QStringList{QStringLiteral("in.wav")});
-}
-
-void ConvertOperationTest::existingFilesAreNeverReplaced() {
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("song.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    const QString folder = dir.filePath(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(folder));
-    for (const QString& name : {QStringLiteral("song.mp3"), QStringLiteral("song(1).mp3")}) {
-        QFile existing(folder + u'/' + name);
-        QVERIFY(existing.open(QIODevice::WriteOnly));
-        existing.write(name.toUtf8());
-    }
-    Recorder recorder;
-    auto item = makeItem(source, 1.0);
-    auto operation = convert(item, folder, &recorder);
-    QCOMPARE(stateOf(item), int(CvtStateFinished));
-    QCOMPARE(operation->strOutFilePath(), folder + QStringLiteral("/song(2).mp3"));
-    QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
-    for (const QString& name : {QStringLiteral("song.mp3"), QStringLiteral("song(1).mp3")}) {
-        QFile existing(folder + u'/' + name);
-        QVERIFY(existing.open(QIODevice::ReadOnly));
-        QCOMPARE(existing.readAll(), name.toUtf8());
-    }
-}
-
-void ConvertOperationTest::ringtoneMovesToFreeName() {
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("song.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    const QString folder = dir.filePath(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(folder));
-    QFile taken(folder + QStringLiteral("/song.m4r"));
-    QVERIFY(taken.open(QIODevice::WriteOnly));
-    taken.write("an earlier ringtone");
-    taken.close();
-
-    Recorder recorder;
-    auto item = makeItem(
-        source, 1.0, {QStringLiteral("Ringtone"), QStringLiteral("aac"), QStringLiteral("m4r")});
-    LogCapture log;
-    auto operation = convert(item, folder, &recorder);
-    QCOMPARE(stateOf(item), int(CvtStateFinished));
-    // Encoded as m4a first, then given its own extension under a free name.
-    QVERIFY(log.contains(QStringLiteral("tOutFile:") + folder + QStringLiteral("/song.m4a")));
-    QCOMPARE(operation->strOutFilePath(), folder + QStringLiteral("/song(1).m4r"));
-    QCOMPARE(entries(folder),
-             (QStringList{QStringLiteral("song(1).m4r"), QStringLiteral("song.m4r")}));
-    QVERIFY(taken.open(QIODevice::ReadOnly));
-    QCOMPARE(taken.readAll(), QByteArray("an earlier ringtone"));
-    HVMediaInfoItem probed;
-    probed.setFilePath(operation->strOutFilePath());
-    QVERIFY(HVMediaInfo::dumpMediaInfo(probed));
-    QCOMPARE(probed.strAudioCodecName(), QStringLiteral("aac"));
-}
-
-void ConvertOperationTest::parallelRunsNeverShareOutput() {
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("same.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    const QString folder = dir.filePath(QStringLiteral("out"));
-    QVERIFY(QDir().mkpath(folder));
-    constexpr int kRuns = 4;
-    SXOperationQueue queue;
-    queue.setMaxConcurrentOperationCount(kRuns);
-    QList<ConvertOperationPtr> operations;
-    Recorder recorders[kRuns];
-    for (int i = 0; i < kRuns; ++i) {
-        operations.append(makeOperation(makeItem(source, 1.0), folder, &recorders[i]));
-        queue.addOperation(operations.last());
-    }
-    queue.waitUntilAllOperationsAreFinished();
-    QSet<QString> outputs;
-    for (int i = 0; i < kRuns; ++i) {
-        QCOMPARE(stateOf(operations[i]->musicToConvert()), int(CvtStateFinished));
-        QVERIFY(recorders[i].isWellFormed());
-        outputs.insert(operations[i]->strOutFilePath());
-        QVERIFY(QFileInfo(operations[i]->strOutFilePath()).size() > 0);
-    }
-    QCOMPARE(outputs.size(), kRuns);
-    QCOMPARE(entries(folder).size(), kRuns);
-}
-
-void ConvertOperationTest::awkwardNamesConvert_data() {
-    QTest::addColumn<QString>("name");
-    QTest::newRow("shell characters") << QStringLiteral("it's a \"test\" $HOME; rm -rf x & y.wav");
-    QTest::newRow("leading dash") << QStringLiteral("-y.wav");
-    QTest::newRow("non-ASCII") << QStringLiteral("Ünïcödé 音楽 ñ.wav");
-    QTest::newRow("backslash and star") << QStringLiteral("a\\b*?[c].wav");
-}
-
-void ConvertOperationTest::awkwardNamesConvert() {
-    QFETCH(QString, name);
-    QTemporaryDir dir;
-    const QString source = dir.filePath(name);
-    QVERIFY(SonoriaTest::makeTone(dir.filePath(QStringLiteral("plain.wav")), 1.0));
-    QVERIFY(QFile::rename(dir.filePath(QStringLiteral("plain.wav")), source));
-    const QByteArray hash = SonoriaTest::fileHash(source);
-    Recorder recorder;
-    auto item = makeItem(source, 1.0);
-    auto operation = convert(item, QString(), &recorder);
-    QCOMPARE(stateOf(item), int(CvtStateFinished));
-    QCOMPARE(operation->strOutFilePath(),
-             dir.filePath(QFileInfo(name).completeBaseName() + QStringLiteral(".mp3")));
-    QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
-    QCOMPARE(SonoriaTest::fileHash(source), hash);
-    QCOMPARE(entries(dir.path()).size(), 2);
-}
-
-void ConvertOperationTest::commandLineAndChannelRule() {
-    LSMedia media;
-    media.setFilePath(QStringLiteral("/music/-in.flac"));
-    media.setVOACodecName(QStringLiteral("libmp3lame"));
-    media.setDAOSamplerate(44100);
-    media.setDAOBitrate(192.0);
-    media.setIAOChanels(1);
-    const QStringList atLimit = ConvertOperation::buildArguments(QStringLiteral("/x/ffmpeg"), media,
-                                                                 QStringLiteral("/o.mp3"));
-    QCOMPARE(atLimit,
-             (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
-                          "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));
-    media.setDAOBitrate(192.01);
-    const QStringList above = ConvertOperation::buildArguments(QStringLiteral("/x/ffmpeg"), media,
-                                                               QStringLiteral("/o.mp3"));
-    QCOMPARE(above.at(9), QStringLiteral("192.01k"));
-    QCOMPARE(above.at(11), QStringLiteral("2"));
-
-    // The rule reaches the file ffmpeg writes.
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("mono.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0, {QStringLiteral("-ac"), QStringLiteral("1")}));
-    for (const double kbps : {192.0, 192.01}) {
-        Output out;
-        out.kbps = kbps;
-        out.channels = 1;
+        const QByteArray path = qgetenv("PATH");
+        if (kind == "path"_L1)
+            qputenv("PATH", dir.path().toLocal8Bit());
+        const QStringList before = entries(dir.path());
+        const QStringList beforeInFolder = entries(folder);
+        auto item = makeItem(source, 1.0, u"MP3"_s, codec);
+        LogCapture log;
         Recorder recorder;
-        auto item = makeItem(source, 1.0, out);
+        convert(item, folder, &recorder);
+        qputenv("PATH", path);
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+        QCOMPARE(stateOf(item), int(CvtStateFailed));
+        QCOMPARE(entries(dir.path()), before);
+        QCOMPARE(entries(folder), beforeInFolder);
+        QVERIFY(!log.contains(u"exit code:0"_s));
+        if (kind == "path"_L1) {
+            QVERIFY(log.contains(u"ffmpeg not found"_s));
+            QCOMPARE(recorder.events(), QStringList{u"finish"_s});
+        } else {
+            QCOMPARE(log.lines().filter(u"exit code:"_s).size(), 1);
+            QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
+        }
+    }
+
+    // Parallel runs into a folder where the plain and the first numbered name are taken: each
+    // run gets a name of its own and the existing files keep their contents.
+    void outputsAreNeverSharedNorReplaced() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        const QString source = copyTone(dir.path(), u"same.wav"_s);
+        const QStringList taken{u"same.mp3"_s, u"same(1).mp3"_s};
+        for (const QString& name : taken)
+            QVERIFY(SonoriaTest::writeFile(folder + u'/' + name, name.toUtf8()));
+        constexpr int kRuns = 4;
+        SXOperationQueue queue;
+        queue.setMaxConcurrentOperationCount(kRuns);
+        QList<ConvertOperationPtr> operations;
+        Recorder recorders[kRuns];
+        for (int i = 0; i < kRuns; ++i) {
+            operations.append(makeOperation(makeItem(source, 1.0), folder, &recorders[i]));
+            queue.addOperation(operations.last());
+        }
+        queue.waitUntilAllOperationsAreFinished();
+        QSet<QString> outputs;
+        for (int i = 0; i < kRuns; ++i) {
+            QCOMPARE(stateOf(operations[i]->musicToConvert()), int(CvtStateFinished));
+            QVERIFY(recorders[i].isWellFormed());
+            QVERIFY(QFileInfo(operations[i]->strOutFilePath()).size() > 0);
+            outputs.insert(QFileInfo(operations[i]->strOutFilePath()).fileName());
+        }
+        QCOMPARE(outputs,
+                 (QSet<QString>{"same(2).mp3", "same(3).mp3", "same(4).mp3", "same(5).mp3"}));
+        for (const QString& name : taken)
+            QCOMPARE(SonoriaTest::readFile(folder + u'/' + name), name.toUtf8());
+    }
+
+    void ringtoneMovesToFreeName() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        const QString source = copyTone(dir.path(), u"song.wav"_s);
+        QVERIFY(SonoriaTest::writeFile(folder + u"/song.m4r"_s, "earlier"));
+        auto item = makeItem(source, 1.0, u"Ringtone"_s, u"aac"_s, u"m4r"_s);
+        LogCapture log;
+        Recorder recorder;
+        auto operation = convert(item, folder, &recorder);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        // Encoded as m4a first, then given its own extension under a free name.
+        QVERIFY(log.contains(u"tOutFile:"_s + folder + u"/song.m4a"_s));
+        QCOMPARE(operation->strOutFilePath(), folder + u"/song(1).m4r"_s);
+        QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
+        QCOMPARE(entries(folder), (QStringList{u"song(1).m4r"_s, u"song.m4r"_s}));
+        QCOMPARE(SonoriaTest::readFile(folder + u"/song.m4r"_s), "earlier");
+    }
+
+    void awkwardNamesConvert_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("shell characters") << u"it's a \"test\" $HOME; rm -rf x & y.wav"_s;
+        QTest::newRow("leading dash") << u"-y.wav"_s;
+        QTest::newRow("non-ASCII") << u"Ünïcödé 音楽 ñ.wav"_s;
+        QTest::newRow("backslash and star") << u"a\\b*?[c].wav"_s;
+    }
+    void awkwardNamesConvert() {
+        QFETCH(QString, name);
+        QTemporaryDir dir;
+        const QString source = copyTone(dir.path(), name);
+        const QByteArray hash = SonoriaTest::fileHash(source);
+        Recorder recorder;
+        auto item = makeItem(source, 1.0);
         auto operation = convert(item, QString(), &recorder);
         QCOMPARE(stateOf(item), int(CvtStateFinished));
-        HVMediaInfoItem probed;
-        probed.setFilePath(operation->strOutFilePath());
-        QVERIFY(HVMediaInfo::dumpMediaInfo(probed));
-        QCOMPARE(probed.audioChannels(), kbps > 192.0 ? 2 : 1);
+        QCOMPARE(operation->strOutFilePath(),
+                 dir.filePath(QFileInfo(name).completeBaseName() + u".mp3"_s));
+        QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
+        QCOMPARE(SonoriaTest::fileHash(source), hash);
+        QCOMPARE(entries(dir.path()).size(), 2);
     }
-}
 
-void ConvertOperationTest::libraryDeliveryIsAnnounced() {
-    // A library that cannot be reached: delivery fails quietly and the item still finishes.
-    SXSettings::setValue(SXSettingsKey::LibraryBackend, QStringLiteral("mpd"));
-    SXSettings::setValue(SXSettingsKey::MpdHost, QStringLiteral("127.0.0.1"));
-    SXSettings::setValue(SXSettingsKey::MpdPort, 1);
-    QTemporaryDir dir;
-    const QString source = dir.filePath(QStringLiteral("send.wav"));
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    auto item = makeItem(source, 1.0);
-    item->setBIsSendingToiTunes(true);
-    Recorder recorder;
-    convert(item, QString(), &recorder);
-    QCOMPARE(stateOf(item), int(CvtStateFinished));
-    QCOMPARE(recorder.count(QStringLiteral("sync")), 1);
-    QVERIFY(recorder.isWellFormed());
-}
+    // Above 192 kb/s the output is always stereo, whatever was asked.
+    void commandLineAndChannelRule() {
+        LSMedia media;
+        media.setFilePath(u"/music/-in.flac"_s);
+        media.setVOACodecName(u"libmp3lame"_s);
+        media.setDAOSamplerate(44100);
+        media.setDAOBitrate(192.0);
+        media.setIAOChanels(1);
+        QCOMPARE(ConvertOperation::buildArguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
+                 (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
+                              "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));
+        media.setDAOBitrate(192.01);
+        QCOMPARE(ConvertOperation::buildArguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s).mid(9, 3),
+                 (QStringList{"192.01k", "-ac", "2"}));
+    }
+};
 
 SONORIA_TEST_MAIN(ConvertOperationTest)
 #include "tst_convertoperation.moc"

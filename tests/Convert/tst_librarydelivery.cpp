@@ -15,20 +15,20 @@
 #include <thread>
 #include <vector>
 
-// Names that a shell would read as quotes, commands, separators or options.
-namespace {
-const QStringList kAwkwardNames{
-    QStringLiteral("it's \"quoted\".mp3"),      QStringLiteral("$(touch pwned).mp3"),
-    QStringLiteral("a; touch pwned; b.mp3"),    QStringLiteral("`touch pwned`.mp3"),
-    QStringLiteral("-rf leading dash.mp3"),     QStringLiteral("Ünïcødé 日本 song.mp3"),
-    QStringLiteral("tab\tand  spaces &|>.mp3"),
-};
-
+using namespace Qt::StringLiterals;
 using SonoriaTest::readFile;
 using SonoriaTest::writeFile;
+using Result = SXDeliveryResult;
 
+namespace {
 QStringList entriesOf(const QString& folder) {
     return QDir(folder).entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot);
+}
+
+// The shipped script, as the conversion runs it, with the given music folder.
+int runScript(const QString& file, const QString& music) {
+    const QString script = SXBundle::pathForResource(u"SyncToiTunesLibrary"_s, u"sh"_s);
+    return SXLibraryScript::runScript(script, file, music);
 }
 } // namespace
 
@@ -41,267 +41,203 @@ class TestLibraryDelivery : public QObject {
     QString m_outside;
 
     QString place(const QString& folder, const QString& name) {
-        const QString path = folder + QLatin1Char('/') + name;
+        const QString path = folder + u'/' + name;
         QDir().mkpath(QFileInfo(path).absolutePath());
         return QFile::copy(m_tone, path) ? path : QString();
     }
-
-    // Nothing may have run a command hidden in a name: "touch pwned" would leave a file.
-    void verifyNothingRan() {
-        QDirIterator it(m_root.path(), QDir::AllEntries | QDir::Hidden | QDir::System,
-                        QDirIterator::Subdirectories);
-        while (it.hasNext())
-            QVERIFY2(it.next().section(QLatin1Char('/'), -1) != QLatin1String("pwned"),
-                     qPrintable(it.filePath()));
-    }
-
-    // The shipped script, as the conversion runs it, with the test's music folder.
-    int runScript(const QString& file, const QString& music) {
-        const QString script =
-            SXBundle::pathForResource(QStringLiteral("SyncToiTunesLibrary"), QStringLiteral("sh"));
-        return SXLibraryScript::runScript(script, file, music);
-    }
-
-    // Run without a music folder, the script reads the desktop's user-dirs.dirs.
-    void pointUserDirsAt(const QByteArray& musicValue) {
-        QVERIFY(writeFile(SonoriaTest::configHome() + QStringLiteral("/user-dirs.dirs"),
-                          "# written by the test\nXDG_MUSIC_DIR=\"" + musicValue + "\"\n"));
-    }
+    QString links() const { return m_music + u"/Sonoria/Library"_s; }
 
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_root.isValid());
-        // Any command that a name smuggled in would run here, where verifyNothingRan looks.
+        // Any command that a name smuggled in would run here, where the awkward-name test looks.
         QVERIFY(QDir::setCurrent(m_root.path()));
-        m_tone = m_root.filePath(QStringLiteral("source/tone.mp3"));
-        QDir().mkpath(QFileInfo(m_tone).absolutePath());
-        QVERIFY(SonoriaTest::makeTone(
-            m_tone, 2.0, {QStringLiteral("-metadata"), QStringLiteral("title=Morning Tone")}));
+        m_tone = m_root.filePath(u"source/tone.mp3"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(m_tone).absolutePath()));
+        QVERIFY(SonoriaTest::makeTone(m_tone, 2.0, {u"-metadata"_s, u"title=Morning Tone"_s}));
     }
 
     void init() {
         static int round = 0;
         ++round;
-        m_music = m_root.filePath(QStringLiteral("music%1").arg(round));
-        m_outside = m_root.filePath(QStringLiteral("elsewhere%1").arg(round));
+        m_music = m_root.filePath(u"music%1"_s.arg(round));
+        m_outside = m_root.filePath(u"elsewhere%1"_s.arg(round));
         QVERIFY(QDir().mkpath(m_outside));
     }
 
     void newPlaylistGetsHeaderTitleAndRelativeEntryOnce() {
-        const QString file = place(m_music, QStringLiteral("Sonoria/MP3/tone.mp3"));
+        const QString file = place(m_music, u"Sonoria/MP3/tone.mp3"_s);
         SXPlaylistFileLibrary library(m_music);
-        QCOMPARE(library.deliver(QStringLiteral("Sonoria"), file), SXDeliveryResult::Added);
-        const QString playlist = m_music + QStringLiteral("/Sonoria.m3u8");
+        QCOMPARE(library.deliver(u"Sonoria"_s, file), Result::Added);
+        const QString playlist = m_music + u"/Sonoria.m3u8"_s;
         const QByteArray expected = "#EXTM3U\n#EXTINF:2,Morning Tone\nSonoria/MP3/tone.mp3\n";
         QCOMPARE(readFile(playlist), expected);
-
         // Delivered again: listed already, the file is left byte for byte as it was.
-        QCOMPARE(library.deliver(QStringLiteral("Sonoria"), file), SXDeliveryResult::AlreadyListed);
+        QCOMPARE(library.deliver(u"Sonoria"_s, file), Result::AlreadyListed);
         QCOMPARE(readFile(playlist), expected);
         // A file below the music folder needs no link to be in the library.
-        QVERIFY(!QFileInfo::exists(m_music + QStringLiteral("/Sonoria/Library")));
-
+        QVERIFY(!QFileInfo::exists(links()));
         // Names match case-sensitively: "sonoria" is another playlist.
-        QCOMPARE(library.deliver(QStringLiteral("sonoria"), file), SXDeliveryResult::Added);
-        QVERIFY(QFileInfo::exists(m_music + QStringLiteral("/sonoria.m3u8")));
+        QCOMPARE(library.deliver(u"sonoria"_s, file), Result::Added);
+        QVERIFY(QFileInfo::exists(m_music + u"/sonoria.m3u8"_s));
         QCOMPARE(readFile(playlist), expected);
     }
 
     void existingPlaylistIsExtendedAndItsEntriesRecognised() {
-        const QString playlist = m_music + QStringLiteral("/Road.m3u8");
-        const QString listedAbsolute = place(m_music, QStringLiteral("old/absolute.mp3"));
-        const QString listedAsUrl = place(m_outside, QStringLiteral("url song.mp3"));
+        const QString playlist = m_music + u"/Road.m3u8"_s;
+        const QString listedAbsolute = place(m_music, u"old/absolute.mp3"_s);
+        const QString listedAsUrl = place(m_outside, u"url song.mp3"_s);
         // Written by another program: CRLF line ends and no final line end.
         const QByteArray before = "#EXTM3U\r\n#EXTINF:10,Old\r\n" + listedAbsolute.toUtf8() +
                                   "\r\n" + QUrl::fromLocalFile(listedAsUrl).toEncoded();
         QVERIFY(writeFile(playlist, before));
-
         SXPlaylistFileLibrary library(m_music);
-        QCOMPARE(library.deliver(QStringLiteral("Road"), listedAbsolute),
-                 SXDeliveryResult::AlreadyListed);
-        QCOMPARE(library.deliver(QStringLiteral("Road"), listedAsUrl),
-                 SXDeliveryResult::AlreadyListed);
+        QCOMPARE(library.deliver(u"Road"_s, listedAbsolute), Result::AlreadyListed);
+        QCOMPARE(library.deliver(u"Road"_s, listedAsUrl), Result::AlreadyListed);
         QCOMPARE(readFile(playlist), before);
-
-        const QString fresh = place(m_music, QStringLiteral("new/fresh.mp3"));
-        QCOMPARE(library.deliver(QStringLiteral("Road"), fresh), SXDeliveryResult::Added);
+        QCOMPARE(library.deliver(u"Road"_s, place(m_music, u"new/fresh.mp3"_s)), Result::Added);
         QCOMPARE(readFile(playlist), before + "\n#EXTINF:2,Morning Tone\nnew/fresh.mp3\n");
     }
 
-    void fileOutsideTheMusicFolderIsListedAbsoluteAndLinked() {
-        const QString file = place(m_outside, QStringLiteral("tone.mp3"));
-        const QString twin =
-            place(m_outside + QStringLiteral("/other"), QStringLiteral("tone.mp3"));
-        const QString library = m_music + QStringLiteral("/Sonoria/Library");
-        QVERIFY(writeFile(library + QStringLiteral("/tone 2.mp3"), "not ours"));
-
-        SXPlaylistFileLibrary backend(m_music);
-        QCOMPARE(backend.deliver(QStringLiteral("Away"), file), SXDeliveryResult::Added);
-        QCOMPARE(backend.deliver(QStringLiteral("Away"), twin), SXDeliveryResult::Added);
-        QCOMPARE(backend.deliver(QStringLiteral("Away"), file), SXDeliveryResult::AlreadyListed);
-
-        const QList<QByteArray> lines =
-            readFile(m_music + QStringLiteral("/Away.m3u8")).split('\n');
+    // A file outside the music folder gets one link there (a taken name is skipped, the entry
+    // holding it untouched) and an absolute playlist entry. Without a playlist name (null or
+    // empty) only the link is made.
+    void fileOutsideTheMusicFolderIsLinkedAndListedAbsolute() {
+        const QString file = place(m_outside, u"tone.mp3"_s);
+        const QString twin = place(m_outside, u"other/tone.mp3"_s);
+        QVERIFY(writeFile(links() + u"/tone 2.mp3"_s, "not ours"));
+        SXPlaylistFileLibrary library(m_music);
+        QCOMPARE(library.deliver(QString(), file), Result::LibraryOnly);
+        QCOMPARE(library.deliver(u""_s, twin), Result::LibraryOnly);
+        QCOMPARE(entriesOf(m_music), QStringList{u"Sonoria"_s}); // no playlist
+        QCOMPARE(library.deliver(u"Away"_s, file), Result::Added);
+        QCOMPARE(library.deliver(u"Away"_s, twin), Result::Added);
+        QCOMPARE(library.deliver(u"Away"_s, file), Result::AlreadyListed);
+        const QList<QByteArray> lines = readFile(m_music + u"/Away.m3u8"_s).split('\n');
         QCOMPARE(lines.count(file.toUtf8()), 1);
         QCOMPARE(lines.count(twin.toUtf8()), 1);
-        // One link per file, a taken name skipped and the entry that held it untouched.
-        QCOMPARE(QFileInfo(library + QStringLiteral("/tone.mp3")).symLinkTarget(), file);
-        QCOMPARE(QFileInfo(library + QStringLiteral("/tone 3.mp3")).symLinkTarget(), twin);
-        QCOMPARE(readFile(library + QStringLiteral("/tone 2.mp3")), QByteArray("not ours"));
-        QCOMPARE(entriesOf(library).size(), 3);
+        QCOMPARE(QFileInfo(links() + u"/tone.mp3"_s).symLinkTarget(), file);
+        QCOMPARE(QFileInfo(links() + u"/tone 3.mp3"_s).symLinkTarget(), twin);
+        QCOMPARE(readFile(links() + u"/tone 2.mp3"_s), QByteArray("not ours"));
+        QCOMPARE(entriesOf(links()).size(), 3);
     }
 
-    void emptyOrNullNameDeliversToTheLibraryAlone() {
-        const QString file = place(m_outside, QStringLiteral("alone.mp3"));
+    // File and playlist names that a shell would read as quotes, commands, separators or
+    // options are listed and linked verbatim, by the library and by the shipped script, and the
+    // playlist stays inside the music folder.
+    void awkwardNamesAreTakenVerbatimAndRunNothing() {
+        const QStringList names{
+            u"it's \"quoted\".mp3"_s,      u"$(touch pwned).mp3"_s,   u"a; touch pwned; b.mp3"_s,
+            u"`touch pwned`.mp3"_s,        u"-rf leading dash.mp3"_s, u"Ünïcødé 日本 song.mp3"_s,
+            u"tab\tand  spaces &|>.mp3"_s,
+        };
+        const QString name = u"../Mix 'n' $(touch pwned); -x Ü"_s;
+        const QString scriptMusic = m_outside + u"/script music"_s;
         SXPlaylistFileLibrary library(m_music);
-        QCOMPARE(library.deliver(QString(), file), SXDeliveryResult::LibraryOnly);
-        QCOMPARE(library.deliver(QStringLiteral(""), file), SXDeliveryResult::LibraryOnly);
-        QVERIFY(QDir(m_music).entryList({QStringLiteral("*.m3u8")}, QDir::Files).isEmpty());
-        QCOMPARE(entriesOf(m_music + QStringLiteral("/Sonoria/Library")),
-                 QStringList{QStringLiteral("alone.mp3")});
-    }
-
-    void awkwardNamesAreListedVerbatimAndRunNothing() {
-        SXPlaylistFileLibrary library(m_music);
-        const QString name = QStringLiteral("Mix 'n' $(touch pwned); -x Ü");
         QStringList expected;
-        for (const QString& fileName : kAwkwardNames) {
-            const QString inside = place(m_music + QStringLiteral("/In"), fileName);
+        for (const QString& fileName : names) {
+            const QString inside = place(m_music + u"/In"_s, fileName);
             const QString outside = place(m_outside, fileName);
-            QCOMPARE(library.deliver(name, inside), SXDeliveryResult::Added);
-            QCOMPARE(library.deliver(name, outside), SXDeliveryResult::Added);
-            expected << QStringLiteral("In/") + fileName << outside;
+            QCOMPARE(library.deliver(name, inside), Result::Added);
+            QCOMPARE(library.deliver(name, outside), Result::Added);
+            expected << u"In/"_s + fileName << outside;
+            for (int round = 0; round < 2; ++round)
+                QCOMPARE(runScript(outside, scriptMusic), 0);
+            const QFileInfo link(scriptMusic + u"/Sonoria/Library/"_s + fileName);
+            QVERIFY2(link.isSymLink() && link.symLinkTarget() == outside, qPrintable(fileName));
         }
-        const QString playlist = m_music + QLatin1Char('/') + name + QStringLiteral(".m3u8");
+        const QString playlist = m_music + u"/.._Mix 'n' $(touch pwned); -x Ü.m3u8"_s;
         QCOMPARE(library.playlistPath(name), playlist);
         QStringList listed;
-        const QStringList lines = QString::fromUtf8(readFile(playlist)).split(QLatin1Char('\n'));
+        const QStringList lines = QString::fromUtf8(readFile(playlist)).split(u'\n');
         for (const QString& line : lines)
-            if (!line.isEmpty() && !line.startsWith(QLatin1Char('#')))
+            if (!line.isEmpty() && !line.startsWith(u'#'))
                 listed << line;
         QCOMPARE(listed, expected);
-        QCOMPARE(entriesOf(m_music + QStringLiteral("/Sonoria/Library")).size(),
-                 kAwkwardNames.size());
-        verifyNothingRan();
+        QCOMPARE(entriesOf(links()).size(), names.size());
+        QCOMPARE(entriesOf(scriptMusic + u"/Sonoria/Library"_s).size(), names.size());
+        // "touch pwned" would have left a file somewhere below the root.
+        QDirIterator it(m_root.path(), QDir::AllEntries | QDir::Hidden | QDir::System,
+                        QDirIterator::Subdirectories);
+        while (it.hasNext())
+            QVERIFY2(it.next().section(u'/', -1) != "pwned"_L1, qPrintable(it.filePath()));
     }
 
-    void playlistNamesStayInsideTheMusicFolder() {
-        const QString file = place(m_music, QStringLiteral("a.mp3"));
-        SXPlaylistFileLibrary library(m_music);
-        QCOMPARE(library.deliver(QStringLiteral("../escape/x"), file), SXDeliveryResult::Added);
-        QCOMPARE(QFileInfo(library.playlistPath(QStringLiteral("../escape/x"))).absolutePath(),
-                 m_music);
-        QVERIFY(QFileInfo::exists(m_music + QStringLiteral("/.._escape_x.m3u8")));
-        QVERIFY(!QFileInfo::exists(m_root.filePath(QStringLiteral("escape"))));
-    }
-
-    void concurrentDeliveriesLoseNoEntry() {
+    // Threads of this process and another process holding the folder's lock (a second instance,
+    // the command-line tool): deliveries wait for the lock and none loses another's entry.
+    void concurrentWritersLoseNoEntry() {
         constexpr int kThreads = 6;
         constexpr int kFilesEach = 8;
         QStringList files;
         for (int i = 0; i < kThreads * kFilesEach; ++i)
-            files << place(m_music, QStringLiteral("batch/%1.mp3").arg(i));
+            files << place(m_music, u"batch/%1.mp3"_s.arg(i));
+        const QString held = m_outside + u"/held"_s;
+        const QString verdict = m_outside + u"/verdict"_s;
+        QProcess holder;
+        holder.start(u"flock"_s, {m_music, u"sh"_s, u"-c"_s,
+                                  u"touch \"$1\"; sleep 1; if [ -e \"$3\" ]; then echo early; "
+                                  "else echo waited; fi > \"$2\""_s,
+                                  u"sh"_s, held, verdict, m_music + u"/Busy.m3u8"_s});
+        QVERIFY(holder.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(held), 10000);
         std::vector<std::thread> workers;
         for (int t = 0; t < kThreads; ++t) {
             workers.emplace_back([&, t] {
                 SXPlaylistFileLibrary library(m_music); // one per conversion, as in the app
                 for (int i = 0; i < kFilesEach; ++i)
-                    library.deliver(QStringLiteral("Busy"), files.at(t * kFilesEach + i));
+                    library.deliver(u"Busy"_s, files.at(t * kFilesEach + i));
             });
         }
         for (std::thread& worker : workers)
             worker.join();
-        const QList<QByteArray> lines =
-            readFile(m_music + QStringLiteral("/Busy.m3u8")).split('\n');
+        QVERIFY(holder.waitForFinished());
+        QCOMPARE(readFile(verdict), QByteArray("waited\n"));
+        const QList<QByteArray> lines = readFile(m_music + u"/Busy.m3u8"_s).split('\n');
         QCOMPARE(lines.count("#EXTM3U"), 1);
         for (int i = 0; i < files.size(); ++i)
-            QCOMPARE(lines.count(QStringLiteral("batch/%1.mp3").arg(i).toUtf8()), 1);
+            QCOMPARE(lines.count(u"batch/%1.mp3"_s.arg(i).toUtf8()), 1);
         QCOMPARE(QDir(m_music).entryList(QDir::Files | QDir::Hidden).size(), 1); // no leftovers
     }
 
-    // Another process (a second instance, the command-line tool) holding the folder's lock
-    // makes a delivery wait instead of writing underneath it.
-    void deliveryWaitsForAnotherProcessHoldingTheLock() {
-        const QString file = place(m_music, QStringLiteral("late.mp3"));
-        const QString held = m_outside + QStringLiteral("/held");
-        const QString verdict = m_outside + QStringLiteral("/verdict");
-        QProcess holder;
-        holder.start(QStringLiteral("flock"),
-                     {m_music, QStringLiteral("sh"), QStringLiteral("-c"),
-                      QStringLiteral("touch \"$1\"; sleep 1; "
-                                     "if [ -e \"$3\" ]; then echo early; else echo waited; fi > "
-                                     "\"$2\""),
-                      QStringLiteral("sh"), held, verdict, m_music + QStringLiteral("/Late.m3u8")});
-        QVERIFY(holder.waitForStarted());
-        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(held), 10000);
-        QCOMPARE(SXPlaylistFileLibrary(m_music).deliver(QStringLiteral("Late"), file),
-                 SXDeliveryResult::Added);
-        QVERIFY(holder.waitForFinished());
-        QCOMPARE(readFile(verdict), QByteArray("waited\n"));
-    }
-
     void unusableMusicFolderOrMissingFileIsLoggedOnly() {
-        const QString file = place(m_outside, QStringLiteral("x.mp3"));
-        QVERIFY(writeFile(m_outside + QStringLiteral("/plain"), "a file, not a folder"));
+        QVERIFY(writeFile(m_outside + u"/plain"_s, "a file, not a folder"));
         LogCapture log;
-        SXPlaylistFileLibrary blocked(m_outside + QStringLiteral("/plain/Music"));
-        QCOMPARE(blocked.deliver(QStringLiteral("P"), file), SXDeliveryResult::LibraryUnreachable);
-        QVERIFY(log.contains(QStringLiteral("could not find iTunes library")));
-
+        SXPlaylistFileLibrary blocked(m_outside + u"/plain/Music"_s);
+        QCOMPARE(blocked.deliver(u"P"_s, place(m_outside, u"x.mp3"_s)), Result::LibraryUnreachable);
+        QVERIFY(log.contains(u"could not find iTunes library"_s));
         SXPlaylistFileLibrary library(m_music);
-        QCOMPARE(library.deliver(QStringLiteral("P"), m_outside + QStringLiteral("/gone.mp3")),
-                 SXDeliveryResult::Failed);
-        QVERIFY(!QFileInfo::exists(library.playlistPath(QStringLiteral("P"))));
+        QCOMPARE(library.deliver(u"P"_s, m_outside + u"/gone.mp3"_s), Result::Failed);
+        QVERIFY(!QFileInfo::exists(library.playlistPath(u"P"_s)));
     }
 
-    void scriptLinksOutsideFilesOnceWithoutRunningNames() {
-        for (const QString& fileName : kAwkwardNames) {
-            const QString file = place(m_outside, fileName);
-            QCOMPARE(runScript(file, m_music), 0);
-            QCOMPARE(runScript(file, m_music), 0);
-            const QFileInfo link(m_music + QStringLiteral("/Sonoria/Library/") + fileName);
-            QVERIFY2(link.isSymLink() && link.symLinkTarget() == file, qPrintable(fileName));
-        }
-        QCOMPARE(entriesOf(m_music + QStringLiteral("/Sonoria/Library")).size(),
-                 kAwkwardNames.size());
-        verifyNothingRan();
-    }
-
-    void scriptKeepsExistingEntriesAndMusicFolderFiles() {
-        const QString library = m_music + QStringLiteral("/Sonoria/Library");
-        QVERIFY(writeFile(library + QStringLiteral("/song.mp3"), "keep me"));
-        const QString file = place(m_outside, QStringLiteral("song.mp3"));
+    // The script keeps an entry in its way and links nothing for a file below the music folder
+    // or a missing one. Without a music folder it reads the desktop's user-dirs.dirs.
+    void scriptKeepsEntriesAndFollowsUserDirs() {
+        QVERIFY(writeFile(links() + u"/song.mp3"_s, "keep me"));
+        const QString file = place(m_outside, u"song.mp3"_s);
         QCOMPARE(runScript(file, m_music), 0);
-        QCOMPARE(readFile(library + QStringLiteral("/song.mp3")), QByteArray("keep me"));
-        QCOMPARE(QFileInfo(library + QStringLiteral("/song 2.mp3")).symLinkTarget(), file);
+        QCOMPARE(readFile(links() + u"/song.mp3"_s), QByteArray("keep me"));
+        QCOMPARE(QFileInfo(links() + u"/song 2.mp3"_s).symLinkTarget(), file);
+        QCOMPARE(runScript(place(m_music, u"Sonoria/MP3/inside.mp3"_s), m_music), 0);
+        QVERIFY(runScript(m_outside + u"/missing.mp3"_s, m_music) != 0);
+        QCOMPARE(entriesOf(links()).size(), 2);
 
-        const QString inside = place(m_music, QStringLiteral("Sonoria/MP3/inside.mp3"));
-        QCOMPARE(runScript(inside, m_music), 0);
-        QCOMPARE(entriesOf(library).size(), 2);
-
-        QVERIFY(runScript(m_outside + QStringLiteral("/missing.mp3"), m_music) != 0);
-        QCOMPARE(entriesOf(library).size(), 2);
-    }
-
-    void scriptFollowsUserDirsWhenNotTold() {
         const QByteArray savedHome = qgetenv("HOME");
-        const QString home = m_root.filePath(QStringLiteral("home"));
+        const QString home = m_root.filePath(u"home"_s);
         QVERIFY(QDir().mkpath(home));
         qputenv("HOME", home.toUtf8());
-        const QString file = place(m_outside, QStringLiteral("dutch.mp3"));
-        pointUserDirsAt("$HOME/Muziek");
+        const QString dirs = SonoriaTest::configHome() + u"/user-dirs.dirs"_s;
+        QVERIFY(writeFile(dirs, "# by the test\nXDG_MUSIC_DIR=\"$HOME/Muziek\"\n"));
         const int relative = runScript(file, QString());
-        pointUserDirsAt("$HOME/"); // the desktop's way of saying "no music folder"
+        QVERIFY(writeFile(dirs, "XDG_MUSIC_DIR=\"$HOME/\"\n")); // the desktop's "no music folder"
         const int unset = runScript(file, QString());
         qputenv("HOME", savedHome);
         QCOMPARE(relative, 0);
         QCOMPARE(unset, 0);
-        QCOMPARE(
-            QFileInfo(home + QStringLiteral("/Muziek/Sonoria/Library/dutch.mp3")).symLinkTarget(),
-            file);
-        QCOMPARE(
-            QFileInfo(home + QStringLiteral("/Music/Sonoria/Library/dutch.mp3")).symLinkTarget(),
-            file);
+        for (const QString& music : {u"Muziek"_s, u"Music"_s})
+            QCOMPARE(
+                QFileInfo(home + u'/' + music + u"/Sonoria/Library/song.mp3"_s).symLinkTarget(),
+                file);
     }
 };
 

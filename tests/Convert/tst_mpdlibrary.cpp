@@ -22,6 +22,9 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
+using namespace Qt::StringLiterals;
+using Result = SXDeliveryResult;
+
 namespace {
 using Connection = std::unique_ptr<mpd_connection, decltype(&mpd_connection_free)>;
 
@@ -37,6 +40,12 @@ unsigned freePort() {
     ::close(fd);
     return ntohs(address.sin_port);
 }
+
+void useMpdAt(unsigned port) {
+    SXSettings::setValue(SXSettingsKey::LibraryBackend, u"mpd"_s);
+    SXSettings::setValue(SXSettingsKey::MpdHost, u"127.0.0.1"_s);
+    SXSettings::setValue(SXSettingsKey::MpdPort, int(port));
+}
 } // namespace
 
 class TestMpdLibrary : public QObject {
@@ -44,26 +53,23 @@ class TestMpdLibrary : public QObject {
 
     QTemporaryDir m_root;
     QString m_music;
-    QString m_socket;
     unsigned m_port = 0;
     QProcess m_mpd;
 
     Connection connect() const {
         return Connection(mpd_connection_new("127.0.0.1", m_port, 3000), &mpd_connection_free);
     }
-
     SXMpdLibrary::Server server() const {
         SXMpdLibrary::Server server;
-        server.host = QStringLiteral("127.0.0.1");
+        server.host = u"127.0.0.1"_s;
         server.port = m_port;
         server.musicDirectory = m_music;
         return server;
     }
-
     QString tone(const QString& relative) const {
-        const QString path = m_music + QLatin1Char('/') + relative;
+        const QString path = m_music + u'/' + relative;
         QDir().mkpath(QFileInfo(path).absolutePath());
-        return QFile::copy(m_root.filePath(QStringLiteral("tone.mp3")), path) ? path : QString();
+        return QFile::copy(m_root.filePath(u"tone.mp3"_s), path) ? path : QString();
     }
 
     // Values named `key` in MPD's answer to what `send` asks, over a connection of the test's
@@ -77,7 +83,7 @@ class TestMpdLibrary : public QObject {
                 mpd_return_pair(c.get(), pair);
             }
         }
-        return mpd_response_finish(c.get()) ? values : QStringList{QStringLiteral("<missing>")};
+        return mpd_response_finish(c.get()) ? values : QStringList{u"<missing>"_s};
     }
     QStringList storedPlaylist(const QString& name) const {
         const QByteArray utf8 = name.toUtf8();
@@ -91,38 +97,32 @@ class TestMpdLibrary : public QObject {
                    "file") == QStringList{uri};
     }
 
-    bool writeConfig(const QString& path) {
-        return SonoriaTest::writeFile(
-            path, QStringLiteral("music_directory \"%1\"\nplaylist_directory \"%2\"\n"
-                                 "db_file \"%3\"\nbind_to_address \"127.0.0.1\"\n"
-                                 "bind_to_address \"%4\"\nport \"%5\"\nauto_update \"no\"\n"
-                                 "zeroconf_enabled \"no\"\naudio_output {\n type \"null\"\n"
-                                 " name \"null\"\n}\n")
-                      .arg(m_music, m_root.filePath(QStringLiteral("playlists")),
-                           m_root.filePath(QStringLiteral("database")), m_socket)
-                      .arg(m_port)
-                      .toUtf8());
-    }
-
 private Q_SLOTS:
     void initTestCase() {
-        const QString mpd = QStandardPaths::findExecutable(QStringLiteral("mpd"));
+        const QString mpd = QStandardPaths::findExecutable(u"mpd"_s);
         if (mpd.isEmpty())
             QSKIP("mpd is not installed");
         QVERIFY(m_root.isValid());
         qunsetenv("MPD_HOST");
         qunsetenv("MPD_PORT");
-        m_music = m_root.filePath(QStringLiteral("music"));
-        m_socket = m_root.filePath(QStringLiteral("socket"));
+        m_music = m_root.filePath(u"music"_s);
         QVERIFY(QDir().mkpath(m_music));
-        QVERIFY(QDir().mkpath(m_root.filePath(QStringLiteral("playlists"))));
-        QVERIFY(SonoriaTest::makeTone(m_root.filePath(QStringLiteral("tone.mp3")), 1.0));
-
+        QVERIFY(QDir().mkpath(m_root.filePath(u"playlists"_s)));
+        QVERIFY(SonoriaTest::makeTone(m_root.filePath(u"tone.mp3"_s), 1.0));
         m_port = freePort();
-        const QString config = m_root.filePath(QStringLiteral("mpd.conf"));
-        QVERIFY(writeConfig(config));
+        const QString config = m_root.filePath(u"mpd.conf"_s);
+        QVERIFY(SonoriaTest::writeFile(
+            config, QStringLiteral("music_directory \"%1\"\nplaylist_directory \"%2\"\n"
+                                   "db_file \"%3\"\nbind_to_address \"127.0.0.1\"\n"
+                                   "bind_to_address \"%4\"\nport \"%5\"\nauto_update \"no\"\n"
+                                   "zeroconf_enabled \"no\"\naudio_output {\n type \"null\"\n"
+                                   " name \"null\"\n}\n")
+                        .arg(m_music, m_root.filePath(u"playlists"_s),
+                             m_root.filePath(u"database"_s), m_root.filePath(u"socket"_s))
+                        .arg(m_port)
+                        .toUtf8()));
         m_mpd.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        m_mpd.start(mpd, {QStringLiteral("--no-daemon"), QStringLiteral("--stderr"), config});
+        m_mpd.start(mpd, {u"--no-daemon"_s, u"--stderr"_s, config});
         QVERIFY(m_mpd.waitForStarted());
         const QDeadlineTimer deadline(15000);
         while (!deadline.hasExpired() && m_mpd.state() == QProcess::Running) {
@@ -144,113 +144,81 @@ private Q_SLOTS:
         }
     }
 
-    void namedPlaylistGetsTheFileOnce() {
-        const QString first = tone(QStringLiteral("Sonoria/MP3/tone.mp3"));
-        const QString awkward = tone(QStringLiteral("Sonoria/MP3/it's $(touch pwned); -x Ü.mp3"));
+    // Over the local socket MPD tells its music folder itself; stored playlist names are
+    // case-sensitive.
+    void deliversOnceToTheNamedPlaylistOrOnlyIndexes() {
+        const QString first = tone(u"Sonoria/MP3/tone.mp3"_s);
+        const QString awkward = tone(u"Sonoria/MP3/it's $(touch pwned); -x Ü.mp3"_s);
         const SXMpdLibrary library(server());
-        QCOMPARE(library.deliver(QStringLiteral("Sonoria"), first), SXDeliveryResult::Added);
-        QCOMPARE(library.deliver(QStringLiteral("Sonoria"), first),
-                 SXDeliveryResult::AlreadyListed);
-        QCOMPARE(library.deliver(QStringLiteral("Sonoria"), awkward), SXDeliveryResult::Added);
-        QCOMPARE(storedPlaylist(QStringLiteral("Sonoria")),
-                 (QStringList{QStringLiteral("Sonoria/MP3/tone.mp3"),
-                              QStringLiteral("Sonoria/MP3/it's $(touch pwned); -x Ü.mp3")}));
-        // Stored playlist names are case-sensitive: a second playlist, the first unchanged.
-        QCOMPARE(library.deliver(QStringLiteral("sonoria"), first), SXDeliveryResult::Added);
-        QCOMPARE(storedPlaylist(QStringLiteral("sonoria")),
-                 QStringList{QStringLiteral("Sonoria/MP3/tone.mp3")});
-        QCOMPARE(storedPlaylist(QStringLiteral("Sonoria")).size(), 2);
-    }
+        QCOMPARE(library.deliver(u"Sonoria"_s, first), Result::Added);
+        QCOMPARE(library.deliver(u"Sonoria"_s, first), Result::AlreadyListed);
+        SXMpdLibrary::Server local;
+        local.host = m_root.filePath(u"socket"_s);
+        QCOMPARE(SXMpdLibrary(local).deliver(u"Sonoria"_s, awkward), Result::Added);
+        QCOMPARE(storedPlaylist(u"Sonoria"_s),
+                 (QStringList{u"Sonoria/MP3/tone.mp3"_s,
+                              u"Sonoria/MP3/it's $(touch pwned); -x Ü.mp3"_s}));
+        QCOMPARE(library.deliver(u"sonoria"_s, first), Result::Added);
+        QCOMPARE(storedPlaylist(u"sonoria"_s), QStringList{u"Sonoria/MP3/tone.mp3"_s});
+        QCOMPARE(storedPlaylist(u"Sonoria"_s).size(), 2);
 
-    void emptyNameOnlyIndexes() {
-        const QString file = tone(QStringLiteral("solo/alone.mp3"));
-        const QStringList before = storedPlaylistNames();
-        QVERIFY(!inDatabase(QStringLiteral("solo/alone.mp3")));
-        const SXMpdLibrary library(server());
-        QCOMPARE(library.deliver(QString(), file), SXDeliveryResult::LibraryOnly);
-        QVERIFY(inDatabase(QStringLiteral("solo/alone.mp3")));
-        QCOMPARE(library.deliver(QStringLiteral(""), file), SXDeliveryResult::LibraryOnly);
-        QCOMPARE(storedPlaylistNames(), before);
+        // Without a name the file is only indexed.
+        const QString single = tone(u"solo/alone.mp3"_s);
+        const QStringList playlists = storedPlaylistNames();
+        QVERIFY(!inDatabase(u"solo/alone.mp3"_s));
+        QCOMPARE(library.deliver(QString(), single), Result::LibraryOnly);
+        QVERIFY(inDatabase(u"solo/alone.mp3"_s));
+        QCOMPARE(library.deliver(u""_s, single), Result::LibraryOnly);
+        QCOMPARE(storedPlaylistNames(), playlists);
     }
 
     void filesMpdCannotTakeAreRefusedWithAReason() {
         LogCapture log;
         const SXMpdLibrary library(server());
-        const QString outside = m_root.filePath(QStringLiteral("tone.mp3"));
-        QCOMPARE(library.deliver(QStringLiteral("Refused"), outside), SXDeliveryResult::Failed);
-        QVERIFY(log.contains(QStringLiteral("MPD cannot add %1: it is outside its music folder %2")
-                                 .arg(outside, m_music)));
-
-        const QString notAudio = m_music + QStringLiteral("/notes.mp3");
+        const QString outside = m_root.filePath(u"tone.mp3"_s);
+        QCOMPARE(library.deliver(u"Refused"_s, outside), Result::Failed);
+        QVERIFY(log.contains(
+            u"MPD cannot add %1: it is outside its music folder %2"_s.arg(outside, m_music)));
+        const QString notAudio = m_music + u"/notes.mp3"_s;
         QVERIFY(SonoriaTest::writeFile(notAudio, "just text\n"));
-        QCOMPARE(library.deliver(QStringLiteral("Refused"), notAudio), SXDeliveryResult::Failed);
-        QVERIFY2(log.contains(QStringLiteral("MPD did not index notes.mp3")),
-                 qPrintable(log.lines().join(QLatin1Char('\n'))));
-        QCOMPARE(storedPlaylist(QStringLiteral("Refused")),
-                 QStringList{QStringLiteral("<missing>")});
-
+        QCOMPARE(library.deliver(u"Refused"_s, notAudio), Result::Failed);
+        QVERIFY(log.contains(u"MPD did not index notes.mp3"_s));
+        QCOMPARE(storedPlaylist(u"Refused"_s), QStringList{u"<missing>"_s});
         // Over TCP MPD keeps its music folder to itself; without the setting nothing can work.
         SXMpdLibrary::Server unnamed = server();
         unnamed.musicDirectory.clear();
-        QCOMPARE(SXMpdLibrary(unnamed).deliver(QStringLiteral("Refused"), tone("x/y.mp3")),
-                 SXDeliveryResult::Failed);
-    }
-
-    void localSocketRevealsTheMusicFolder() {
-        SXMpdLibrary::Server local;
-        local.host = m_socket;
-        const QString file = tone(QStringLiteral("local/socket.mp3"));
-        QCOMPARE(SXMpdLibrary(local).deliver(QStringLiteral("Local"), file),
-                 SXDeliveryResult::Added);
-        QCOMPARE(storedPlaylist(QStringLiteral("Local")),
-                 QStringList{QStringLiteral("local/socket.mp3")});
+        QCOMPARE(SXMpdLibrary(unnamed).deliver(u"Refused"_s, tone("x/y.mp3")), Result::Failed);
     }
 
     void settingsAndEnvironmentChooseTheServer() {
-        SXSettings::setValue(SXSettingsKey::LibraryBackend, QStringLiteral("mpd"));
-        SXSettings::setValue(SXSettingsKey::MpdHost, QStringLiteral("127.0.0.1"));
-        SXSettings::setValue(SXSettingsKey::MpdPort, m_port);
+        useMpdAt(m_port);
         SXSettings::setValue(SXSettingsKey::MpdMusicDirectory, m_music);
-        const QString file = tone(QStringLiteral("settings/chosen.mp3"));
-        ScriptBridgeHelper::syncItunesLibrary(QStringLiteral("FromSettings"), file);
-        QCOMPARE(storedPlaylist(QStringLiteral("FromSettings")),
-                 QStringList{QStringLiteral("settings/chosen.mp3")});
+        const QString file = tone(u"settings/chosen.mp3"_s);
+        ScriptBridgeHelper::syncItunesLibrary(u"FromSettings"_s, file);
+        QCOMPARE(storedPlaylist(u"FromSettings"_s), QStringList{u"settings/chosen.mp3"_s});
 
         // The environment wins over the settings, as for every MPD client.
         SXSettings::setValue(SXSettingsKey::MpdPort, int(freePort()));
         qputenv("MPD_HOST", "127.0.0.1");
         qputenv("MPD_PORT", QByteArray::number(m_port));
-        const SXMpdLibrary::Server fromEnvironment = SXMpdLibrary::serverFromSettings();
-        ScriptBridgeHelper::syncItunesLibrary(QStringLiteral("FromEnvironment"), file);
+        ScriptBridgeHelper::syncItunesLibrary(u"FromEnvironment"_s, file);
         qunsetenv("MPD_HOST");
         qunsetenv("MPD_PORT");
-        QCOMPARE(fromEnvironment.musicDirectory, m_music);
-        QCOMPARE(storedPlaylist(QStringLiteral("FromEnvironment")),
-                 QStringList{QStringLiteral("settings/chosen.mp3")});
-
-        // Nothing set at all: the well-known default.
-        for (const QString& key : {SXSettingsKey::MpdHost, SXSettingsKey::MpdPort})
-            SXSettings::removeKey(key);
-        const SXMpdLibrary::Server defaults = SXMpdLibrary::serverFromSettings();
-        QCOMPARE(defaults.host, QStringLiteral("localhost"));
-        QCOMPARE(defaults.port, 6600u);
+        QCOMPARE(storedPlaylist(u"FromEnvironment"_s), QStringList{u"settings/chosen.mp3"_s});
     }
 
+    // Directly and through the settings, as a conversion delivers.
     void unreachableServerIsLoggedOnly() {
         LogCapture log;
         SXMpdLibrary::Server nobody = server();
         nobody.port = freePort();
-        const QString file = tone(QStringLiteral("lost/never.mp3"));
-        QCOMPARE(SXMpdLibrary(nobody).deliver(QStringLiteral("Lost"), file),
-                 SXDeliveryResult::LibraryUnreachable);
-        QCOMPARE(log.count(QStringLiteral("could not find iTunes library")), 1);
-
-        SXSettings::setValue(SXSettingsKey::LibraryBackend, QStringLiteral("mpd"));
-        SXSettings::setValue(SXSettingsKey::MpdHost, QStringLiteral("127.0.0.1"));
-        SXSettings::setValue(SXSettingsKey::MpdPort, int(nobody.port));
-        ScriptBridgeHelper::syncItunesLibrary(QStringLiteral("Lost"), file);
-        QCOMPARE(log.count(QStringLiteral("could not find iTunes library")), 2);
-        QVERIFY(!storedPlaylistNames().contains(QStringLiteral("Lost")));
+        const QString file = tone(u"lost/never.mp3"_s);
+        QCOMPARE(SXMpdLibrary(nobody).deliver(u"Lost"_s, file), Result::LibraryUnreachable);
+        QCOMPARE(log.count(u"could not find iTunes library"_s), 1);
+        useMpdAt(nobody.port);
+        ScriptBridgeHelper::syncItunesLibrary(u"Lost"_s, file);
+        QCOMPARE(log.count(u"could not find iTunes library"_s), 2);
+        QVERIFY(!storedPlaylistNames().contains(u"Lost"_s));
     }
 };
 

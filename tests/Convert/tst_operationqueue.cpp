@@ -1,133 +1,98 @@
 #include "Convert/SXOperationQueue.h"
 #include "support/TestSupport.h"
 
-#include <QMutex>
 #include <QSemaphore>
 #include <QSignalSpy>
 #include <atomic>
 
 namespace {
-// Records that it ran and, when asked, holds its worker until the test releases it.
+// What the operations of one test share: a gate that holds them, and how many run at once.
+struct Gate {
+    QSemaphore open;
+    std::atomic<int> running{0};
+    std::atomic<int> peak{0};
+};
+
+// Records that it ran and, when given a gate, holds its worker until the test opens it.
 class GateOperation : public SXOperation {
 public:
-    explicit GateOperation(QSemaphore* gate = nullptr, std::atomic<int>* running = nullptr,
-                           std::atomic<int>* peak = nullptr)
-        : m_gate(gate)
-        , m_running(running)
-        , m_peak(peak) {}
+    explicit GateOperation(Gate* gate = nullptr)
+        : m_gate(gate) {}
     void main() override {
         ran = true;
-        if (m_running) {
-            const int now = ++*m_running;
-            int seen = m_peak->load();
-            while (now > seen && !m_peak->compare_exchange_weak(seen, now)) {
-            }
-        }
         entered.release();
-        if (m_gate)
-            m_gate->acquire();
-        if (m_running)
-            --*m_running;
+        if (!m_gate)
+            return;
+        const int now = ++m_gate->running;
+        for (int seen = m_gate->peak; now > seen && !m_gate->peak.compare_exchange_weak(seen, now);)
+            ;
+        m_gate->open.acquire();
+        --m_gate->running;
     }
     std::atomic<bool> ran{false};
     QSemaphore entered;
 
 private:
-    QSemaphore* m_gate;
-    std::atomic<int>* m_running;
-    std::atomic<int>* m_peak;
+    Gate* m_gate;
 };
+using GatePtr = std::shared_ptr<GateOperation>;
 } // namespace
 
 class OperationQueueTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void respectsConcurrencyLimit();
-    void cancelledWhileWaitingNeverRuns();
-    void releasesOperationsAfterMain();
+    // Two run at once, the others wait in the order added. A waiting operation that is
+    // cancelled leaves the list at once and never runs; cancelling everything leaves the
+    // running one listed until it ends. Once done, the queue lets go of every operation.
+    void runsInOrderWithinTheLimit() {
+        SXOperationQueue queue;
+        queue.setMaxConcurrentOperationCount(2);
+        QSignalSpy finished(&queue, &SXOperationQueue::operationFinished);
+        Gate gate;
+        QList<GatePtr> ops;
+        QList<SXOperationPtr> listed;
+        for (int i = 0; i < 5; ++i) {
+            ops.append(std::make_shared<GateOperation>(&gate));
+            listed.append(ops.last());
+            queue.addOperation(ops.last());
+        }
+        QVERIFY(ops[0]->entered.tryAcquire(1, 10000));
+        QVERIFY(ops[1]->entered.tryAcquire(1, 10000));
+        QVERIFY(ops[0]->isExecuting());
+        QCOMPARE(queue.operations(), listed);
+        ops[2]->cancel();
+        QVERIFY(ops[2]->isCancelled());
+        listed.removeAt(2);
+        QCOMPARE(queue.operations(), listed);
+        gate.open.release(4); // one each for those that run: a spare would let the next pass
+        queue.waitUntilAllOperationsAreFinished();
+        QCOMPARE(gate.peak.load(), 2);
+        for (int i : {0, 1, 3, 4})
+            QVERIFY(ops[i]->ran && ops[i]->isFinished());
+        QVERIFY(!ops[2]->ran);
+        QCOMPARE(queue.operationCount(), 0);
+        QTRY_COMPARE(finished.count(), 4);
+
+        queue.setMaxConcurrentOperationCount(1);
+        const GatePtr blocker = std::make_shared<GateOperation>(&gate);
+        const GatePtr waiting = std::make_shared<GateOperation>();
+        queue.addOperation(blocker);
+        queue.addOperation(waiting);
+        QVERIFY(blocker->entered.tryAcquire(1, 10000));
+        queue.cancelAllOperations();
+        QCOMPARE(queue.operations(), QList<SXOperationPtr>{blocker});
+        gate.open.release();
+        queue.waitUntilAllOperationsAreFinished();
+        QVERIFY(!waiting->ran);
+        QCOMPARE(queue.operationCount(), 0);
+
+        std::weak_ptr<GateOperation> watched = ops.first();
+        ops.clear();
+        listed.clear();
+        finished.clear(); // the spy keeps the operations it saw
+        QTRY_VERIFY(watched.expired());
+    }
 };
-
-void OperationQueueTest::respectsConcurrencyLimit() {
-    SXOperationQueue queue;
-    queue.setMaxConcurrentOperationCount(2);
-    QCOMPARE(queue.maxConcurrentOperationCount(), 2);
-    QSemaphore gate;
-    std::atomic<int> running{0};
-    std::atomic<int> peak{0};
-    QList<std::shared_ptr<GateOperation>> ops;
-    for (int i = 0; i < 5; ++i) {
-        ops.append(std::make_shared<GateOperation>(&gate, &running, &peak));
-        queue.addOperation(ops.last());
-    }
-    QVERIFY(ops[0]->entered.tryAcquire(1, 10000));
-    QVERIFY(ops[1]->entered.tryAcquire(1, 10000));
-    // Two hold their threads: the others wait, in the order added.
-    QCOMPARE(queue.operationCount(), 5);
-    const auto listed = queue.operations();
-    for (int i = 0; i < 5; ++i)
-        QCOMPARE(listed[i], std::static_pointer_cast<SXOperation>(ops[i]));
-    QVERIFY(!ops[2]->ran);
-    gate.release(5);
-    queue.waitUntilAllOperationsAreFinished();
-    QCOMPARE(peak.load(), 2);
-    for (const auto& op : ops)
-        QVERIFY(op->ran && op->isFinished());
-    QCOMPARE(queue.operationCount(), 0);
-}
-
-void OperationQueueTest::cancelledWhileWaitingNeverRuns() {
-    SXOperationQueue queue;
-    queue.setMaxConcurrentOperationCount(1);
-    QSignalSpy finished(&queue, &SXOperationQueue::operationFinished);
-    QSemaphore gate;
-    auto busy = std::make_shared<GateOperation>(&gate);
-    auto waiting = std::make_shared<GateOperation>();
-    auto later = std::make_shared<GateOperation>();
-    queue.addOperation(busy);
-    queue.addOperation(waiting);
-    queue.addOperation(later);
-    QVERIFY(busy->entered.tryAcquire(1, 10000));
-    QVERIFY(busy->isExecuting());
-
-    waiting->cancel();
-    QVERIFY(waiting->isCancelled());
-    // It leaves the list at once, though its turn has not come yet.
-    QCOMPARE(queue.operationCount(), 2);
-    QVERIFY(!queue.operations().contains(waiting));
-
-    gate.release();
-    queue.waitUntilAllOperationsAreFinished();
-    QVERIFY(!waiting->ran);
-    QVERIFY(later->ran);
-    QTRY_COMPARE(finished.count(), 2);
-
-    // Cancelling everything before anything ran: nothing runs at all.
-    auto blocker = std::make_shared<GateOperation>(&gate);
-    auto a = std::make_shared<GateOperation>();
-    auto b = std::make_shared<GateOperation>();
-    queue.addOperation(blocker);
-    queue.addOperation(a);
-    queue.addOperation(b);
-    QVERIFY(blocker->entered.tryAcquire(1, 10000));
-    queue.cancelAllOperations();
-    QCOMPARE(queue.operationCount(), 1); // the running one is still there
-    gate.release();
-    queue.waitUntilAllOperationsAreFinished();
-    QVERIFY(!a->ran && !b->ran);
-    QCOMPARE(queue.operationCount(), 0);
-}
-
-void OperationQueueTest::releasesOperationsAfterMain() {
-    std::weak_ptr<GateOperation> watched;
-    SXOperationQueue queue;
-    {
-        auto op = std::make_shared<GateOperation>();
-        watched = op;
-        queue.addOperation(op);
-    }
-    queue.waitUntilAllOperationsAreFinished();
-    QTRY_VERIFY(watched.expired());
-}
 
 SONORIA_TEST_MAIN(OperationQueueTest)
 #include "tst_operationqueue.moc"
