@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSettings>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -18,18 +17,6 @@ static void touch(const QString& path) {
 class GlobalFunTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void guidIsCreatedOnceAndStored() {
-        SXSettings::removeKey(SXSettingsKey::Guid);
-        const QString first = GlobalFun::getGUID();
-        QCOMPARE(first.size(), 36);
-        QCOMPARE(GlobalFun::getGUID(), first);
-        // Written to disk at once: a fresh reader of the settings file sees it.
-        QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat).value("guid").toString(),
-                 first);
-        SXSettings::setValue(SXSettingsKey::Guid, "from-an-earlier-run");
-        QCOMPARE(GlobalFun::getGUID(), QStringLiteral("from-an-earlier-run"));
-    }
-
     void versions() {
         QCOMPARE(GlobalFun::normalizedVersion("3"), QStringLiteral("3.0.0"));
         QCOMPARE(GlobalFun::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
@@ -86,14 +73,15 @@ private Q_SLOTS:
 
     void clockStringsAreRead() {
         // Reading: each piece from its start, strtod-like, at most three pieces.
-        QCOMPARE(GlobalFun::getSecondsByTimeString("00:01:23.45"), 83.45);
-        QCOMPARE(GlobalFun::getSecondsByTimeString("abc"), 0.0);
-        QCOMPARE(GlobalFun::getSecondsByTimeString(""), 0.0);
-        QCOMPARE(GlobalFun::getSecondsByTimeString("2"), 7200.0);
-        QCOMPARE(GlobalFun::getSecondsByTimeString("00:00:05:99"), 5.0);
-        QCOMPARE(GlobalFun::getSecondsByTimeString("1h:2m:3.5s"), 3723.5);
-        QCOMPARE(GlobalFun::getSecondsByTimeString(" +1: -1:.5"), 3540.5);
-        QCOMPARE(GlobalFun::getSecondsByTimeString("inf:nan:1"), 1.0);
+        for (const auto& [text, seconds] : {std::pair{"00:01:23.45", 83.45},
+                                            {"abc", 0.0},
+                                            {"", 0.0},
+                                            {"2", 7200.0},
+                                            {"00:00:05:99", 5.0},
+                                            {"1h:2m:3.5s", 3723.5},
+                                            {" +1: -1:.5", 3540.5},
+                                            {"inf:nan:1", 1.0}})
+            QVERIFY2(GlobalFun::getSecondsByTimeString(text) == seconds, text);
     }
 
     void estimateWording_data() {
@@ -176,15 +164,13 @@ private Q_SLOTS:
 
     void supportedFormatsFollowExperimentalSwitch() {
         const QStringList all = GlobalFun::getSupportedFmts();
-        QCOMPARE(all.size(), 31);
-        QCOMPARE(all.mid(9, 3), QStringList({"rmvb", "vob", "m4v"}));
-        QCOMPARE(all.mid(27), QStringList({"amr", "m4r", "mp2", "dsd"}));
 
         bool experimental = false;
         GlobalFun::setExperimentalSwitch([&experimental] { return experimental; });
         QStringList reduced = all;
         for (const char* gated : {"vob", "m4v", "m4r"})
             reduced.removeAll(gated);
+        QCOMPARE(reduced.size(), all.size() - 3);
         QCOMPARE(GlobalFun::getSupportedFmts(), reduced);
         experimental = true;
         QCOMPARE(GlobalFun::getSupportedFmts(), all);

@@ -9,31 +9,26 @@
 ProbeReference ProbeReference::read(const QString& path) {
     ProbeReference info;
     QString output;
-    if (SonoriaTest::run(QStringLiteral("ffprobe"),
-                         {QStringLiteral("-v"), QStringLiteral("error"),
-                          QStringLiteral("-show_streams"), QStringLiteral("-show_format"),
-                          QStringLiteral("-of"), QStringLiteral("json"), path},
+    if (SonoriaTest::run("ffprobe",
+                         {"-v", "error", "-show_streams", "-show_format", "-of", "json", path},
                          &output) != 0)
         return info;
     const QJsonObject root = QJsonDocument::fromJson(output.toUtf8()).object();
-    const QJsonObject format = root.value(QStringLiteral("format")).toObject();
-    const auto number = [](const QJsonObject& object, const char* key) {
-        return object.value(QLatin1String(key)).toString().toDouble();
+    const QJsonObject format = root.value("format").toObject();
+    // The stream's value, else the container's.
+    const auto number = [&format](const QJsonObject& stream, QLatin1String key) {
+        const double value = stream.value(key).toString().toDouble();
+        return value > 0 ? value : format.value(key).toString().toDouble();
     };
-    const QJsonArray streams = root.value(QStringLiteral("streams")).toArray();
-    for (const QJsonValue& value : streams) {
+    for (const QJsonValue& value : root.value("streams").toArray()) {
         const QJsonObject stream = value.toObject();
-        if (stream.value(QStringLiteral("codec_type")).toString() != QLatin1String("audio"))
+        if (stream.value("codec_type").toString() != QLatin1String("audio"))
             continue;
-        info.bitRate = number(stream, "bit_rate");
-        if (info.bitRate <= 0)
-            info.bitRate = number(format, "bit_rate");
-        info.duration = number(stream, "duration");
-        if (info.duration <= 0)
-            info.duration = number(format, "duration");
-        info.sampleRate = number(stream, "sample_rate");
-        info.channels = stream.value(QStringLiteral("channels")).toInt();
-        info.codecName = stream.value(QStringLiteral("codec_name")).toString();
+        info.bitRate = number(stream, QLatin1String("bit_rate"));
+        info.duration = number(stream, QLatin1String("duration"));
+        info.sampleRate = stream.value("sample_rate").toString().toDouble();
+        info.channels = stream.value("channels").toInt();
+        info.codecName = stream.value("codec_name").toString();
         info.ok = true;
         break;
     }

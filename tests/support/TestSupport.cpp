@@ -42,11 +42,9 @@ int run(const QString& program, const QStringList& arguments, QString* output, i
 }
 
 bool makeMedia(const QString& path, const QString& source, const QStringList& extra) {
-    QStringList args{
-        QStringLiteral("-nostdin"), QStringLiteral("-hide_banner"), QStringLiteral("-loglevel"),
-        QStringLiteral("error"),    QStringLiteral("-y"),           QStringLiteral("-f"),
-        QStringLiteral("lavfi"),    QStringLiteral("-i"),           source};
-    args << extra << path;
+    const QStringList args = QStringList{"-nostdin", "-hide_banner", "-loglevel", "error", "-y",
+                                         "-f",       "lavfi",        "-i",        source} +
+                             extra + QStringList{path};
     QString output;
     const int code = run(QStringLiteral("ffmpeg"), args, &output);
     if (code != 0)
@@ -62,15 +60,11 @@ bool makeTone(const QString& path, double seconds, const QStringList& extra) {
 
 QString writeScript(const QString& dir, const QString& name, const QString& body) {
     const QString path = dir + QLatin1Char('/') + name;
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return {};
-    file.write("#!/bin/sh\n");
-    file.write(body.toUtf8());
-    file.close();
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadGroup |
-                        QFile::ExeGroup);
-    return path;
+    const bool written =
+        writeFile(path, "#!/bin/sh\n" + body.toUtf8()) &&
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                        QFile::ReadGroup | QFile::ExeGroup);
+    return written ? path : QString();
 }
 
 bool writeFile(const QString& path, const QByteArray& bytes) {
@@ -87,11 +81,9 @@ QByteArray readFile(const QString& path) {
 
 QByteArray fileHash(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return {};
     QCryptographicHash hash(QCryptographicHash::Sha256);
-    hash.addData(&file);
-    return hash.result().toHex();
+    return file.open(QIODevice::ReadOnly) && hash.addData(&file) ? hash.result().toHex()
+                                                                 : QByteArray();
 }
 
 } // namespace SonoriaTest

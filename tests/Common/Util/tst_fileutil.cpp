@@ -1,4 +1,5 @@
 #include "Common/Util/FileHelper.h"
+#include "Common/Util/SXFileLocalManager.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -6,18 +7,25 @@
 #include <QFileInfo>
 #include <QTemporaryDir>
 
-class FileHelperTest : public QObject {
+#include <unistd.h>
+
+// The file helpers and the user's standard folders, on real temporary folders.
+class FileUtilTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void fileOperationsNeverReplaceAnything();
     void freeSpaceAndFullThreshold();
     void findFileGivesNameOrFirstLevelFolder();
+    void userDirsAreParsed_data();
+    void userDirsAreParsed();
+    void foldersComeFromUserDatabaseNotEnvironment();
+    void upperOutputFolderIsCreatedOnce();
 };
 
 using SonoriaTest::readFile;
 using SonoriaTest::writeFile;
 
-void FileHelperTest::fileOperationsNeverReplaceAnything() {
+void FileUtilTest::fileOperationsNeverReplaceAnything() {
     QTemporaryDir dir;
     const auto at = [&dir](const char* name) { return dir.filePath(name); };
     QVERIFY(writeFile(at("a.txt"), "a"));
@@ -54,7 +62,7 @@ void FileHelperTest::fileOperationsNeverReplaceAnything() {
     QVERIFY(!FileHelper::deleteFileWithPath(at("a.txt")));
 }
 
-void FileHelperTest::freeSpaceAndFullThreshold() {
+void FileUtilTest::freeSpaceAndFullThreshold() {
     QVERIFY(!FileHelper::isDiskFullForFreeBytes(587202560ULL));
     QVERIFY(FileHelper::isDiskFullForFreeBytes(587202559ULL));
 
@@ -75,7 +83,7 @@ void FileHelperTest::freeSpaceAndFullThreshold() {
     QCOMPARE(FileHelper::getAppPath(), QCoreApplication::applicationDirPath());
 }
 
-void FileHelperTest::findFileGivesNameOrFirstLevelFolder() {
+void FileUtilTest::findFileGivesNameOrFirstLevelFolder() {
     QTemporaryDir dir;
     QVERIFY(writeFile(dir.filePath("top.txt"), {}) &&
             writeFile(dir.filePath("a/b/c/deep.txt"), {}));
@@ -88,5 +96,73 @@ void FileHelperTest::findFileGivesNameOrFirstLevelFolder() {
     QVERIFY(FileHelper::findFile(dir.path(), "nowhere.txt").isNull());
 }
 
-SONORIA_TEST_MAIN(FileHelperTest)
-#include "tst_filehelper.moc"
+void FileUtilTest::userDirsAreParsed_data() {
+    QTest::addColumn<QString>("config");
+    QTest::addColumn<QString>("expected");
+    const QString header = QStringLiteral("# This file is written by xdg-user-dirs-update\n"
+                                          "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n");
+    const auto row = [](const char* name, const QString& config, const char* expected) {
+        QTest::newRow(name) << config << QString::fromUtf8(expected);
+    };
+    row("relative to home", header + "XDG_MUSIC_DIR=\"$HOME/Musik\"\n", "/home/anna/Musik");
+    row("absolute, cleaned", "XDG_MUSIC_DIR=\"/srv/media//music/\"", "/srv/media/music");
+    row("unquoted with blanks", "  XDG_MUSIC_DIR = $HOME/Audio  ", "/home/anna/Audio");
+    row("last assignment wins", "XDG_MUSIC_DIR=\"$HOME/Old\"\nXDG_MUSIC_DIR=\"$HOME/New\"",
+        "/home/anna/New");
+    row("home itself means not set", "XDG_MUSIC_DIR=\"$HOME/\"", "");
+    row("commented out", header + "#XDG_MUSIC_DIR=\"$HOME/Musik\"", "");
+    row("other key with same prefix", "XDG_MUSIC_DIRS=\"$HOME/Musik\"", "");
+    row("relative path ignored", "XDG_MUSIC_DIR=\"Musik\"", "");
+}
+
+void FileUtilTest::userDirsAreParsed() {
+    QFETCH(QString, config);
+    QFETCH(QString, expected);
+    QCOMPARE(SXFileLocalManager::userDirectoryFromConfig(config, "XDG_MUSIC_DIR", "/home/anna"),
+             expected);
+}
+
+void FileUtilTest::foldersComeFromUserDatabaseNotEnvironment() {
+    QString passwd;
+    QCOMPARE(SonoriaTest::run("getent", {"passwd", QString::number(::getuid())}, &passwd), 0);
+    const QString home = passwd.trimmed().split(':').value(5);
+    QVERIFY(!home.isEmpty());
+
+    const QString music = SXFileLocalManager::musicDirectory();
+    const QString movies = SXFileLocalManager::moviesDirectory();
+    const QByteArray savedHome = qgetenv("HOME");
+    qputenv("HOME", "/nonexistent/elsewhere");
+    const QString realHome = SXFileLocalManager::realHomeDirectory();
+    const QString output = SXFileLocalManager::getDefaultOutputDir("AAC");
+    const QString converted = SXFileLocalManager::convertedAudioDirectory();
+    const QString musicWithOtherHome = SXFileLocalManager::musicDirectory();
+    qputenv("HOME", savedHome);
+
+    QCOMPARE(realHome, QDir::cleanPath(home));
+    QCOMPARE(musicWithOtherHome, music);
+    QCOMPARE(output, music + "/Sonoria/AAC");
+    QCOMPARE(converted, movies + "/Sonoria/Audio Converted");
+}
+
+void FileUtilTest::upperOutputFolderIsCreatedOnce() {
+    // This touches the real home on purpose: the folder must appear there. Whatever the test
+    // creates it removes again.
+    const QString music = SXFileLocalManager::musicDirectory();
+    const QString expected = music + "/Sonoria";
+    const bool musicExisted = QFileInfo::exists(music);
+    const bool existed = QFileInfo::exists(expected);
+
+    QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
+    QVERIFY(QFileInfo(expected).isDir());
+    const QDateTime modified = QFileInfo(expected).lastModified();
+    QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
+    QCOMPARE(QFileInfo(expected).lastModified(), modified);
+
+    if (!existed)
+        QVERIFY(QDir().rmdir(expected));
+    if (!musicExisted)
+        QVERIFY(QDir().rmdir(music));
+}
+
+SONORIA_TEST_MAIN(FileUtilTest)
+#include "tst_fileutil.moc"
