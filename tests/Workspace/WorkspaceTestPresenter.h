@@ -30,8 +30,7 @@ public:
     void beep() override { ++beeps; }
     void openFolder(const QString& path) override { openedFolders.append(path); }
 
-    QList<SXAlert> alerts;
-    QList<SXAlert> sheets;
+    QList<SXAlert> alerts, sheets;
     int alertAnswer = 0;
     QList<SXOutputFolderRequest> folderRequests;
     std::optional<SXOutputFolderChoice> folderAnswer;
@@ -56,9 +55,15 @@ inline SXMusicInfoPtr makeWorkspaceItem(const QString& path, const QString& type
     return item;
 }
 
-inline QStringList itemPaths(const SXMusicInfoList& items) {
-    QStringList paths;
+// An alert's texts and then its buttons, for one comparison.
+inline QStringList alertTexts(const SXAlert& alert) {
+    return QStringList{alert.messageText, alert.informativeText} + alert.buttons;
+}
+
+// The items' file names, in list order.
+inline QStringList fileNames(const SXMusicInfoList& items) {
+    QStringList names;
     for (const SXMusicInfoPtr& item : items)
-        paths.append(item->strFilePath());
-    return paths;
+        names.append(QFileInfo(item->strFilePath()).fileName());
+    return names;
 }
