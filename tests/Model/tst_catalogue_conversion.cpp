@@ -35,17 +35,12 @@ Conversion conversionCommand(const SXFormatSetting& format, const QString& sourc
                                                                   : 1;
     if (kbps > 192.0)
         channels = 2;
-    Conversion conversion;
-    conversion.arguments = QStringList{"ffmpeg",  "-i",
-                                       source,    "-vn",
-                                       "-acodec", format.decodecName(),
-                                       "-ar",     QString::asprintf("%0.2f", rate),
-                                       "-b:a",    QString::asprintf("%0.2fk", kbps),
-                                       "-ac",     QString::number(channels),
-                                       "-y",      outFile};
-    conversion.expectedChannels = channels;
-    conversion.expectedRate = rate;
-    return conversion;
+    const QStringList arguments{"ffmpeg", "-i", source, "-vn", "-acodec", format.decodecName()};
+    return {QString(),
+            arguments + QStringList{"-ar", QString::asprintf("%0.2f", rate), "-b:a",
+                                    QString::asprintf("%0.2fk", kbps), "-ac",
+                                    QString::number(channels), "-y", outFile},
+            channels, rate};
 }
 
 // One container setting per offered choice: the defaults, then each list varied on its own.

@@ -42,43 +42,6 @@ SXMusicInfoPtr item(const QString& path, const QString& type = QStringLiteral("M
 class TestRecords : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    // Identity is path and container; a copy shares nothing, and a record copy carries every
-    // field, the unarchived ones included.
-    void identityAndCopies() {
-        const auto original = item(QStringLiteral("/x/1.mp3"));
-        QCOMPARE(original->dConvertProgress(), -1.0);
-        QVERIFY(
-            !original->isEqualToMusic(*item(QStringLiteral("/x/1.mp3"), QStringLiteral("AAC"))));
-        QVERIFY(!original->isEqualToMusic(*item(QStringLiteral("/x/2.mp3"))));
-        original->setDConvertProgress(55);
-        original->setBIsSendingToiTunes(true);
-        original->setStriTunesPlaylistName(QStringLiteral("Road"));
-        const auto copy = original->copy();
-        QVERIFY(original->isEqualToMusic(*copy) && copy->mediaInfo() != original->mediaInfo());
-        QVERIFY(copy->dConvertProgress() == 55.0 && copy->bIsSendingToiTunes() &&
-                copy->striTunesPlaylistName() == QStringLiteral("Road"));
-        copy->mediaInfo()->setEumCvtState(CvtStateConverting);
-        copy->setStrMusicType(QStringLiteral("AAC"));
-        QCOMPARE(original->mediaInfo()->eumCvtState(), int(CvtStateFailed));
-        QCOMPARE(original->getStrMusicType(), QStringLiteral("MP3"));
-
-        const LSMediaPtr mediaCopy = original->mediaInfo()->copy();
-        QVERIFY(mediaCopy->dProgress() == 42.0 && mediaCopy->strDescription() == "note" &&
-                mediaCopy->strAudioCodecName() == "flac" && mediaCopy->duration() == 183.5 &&
-                mediaCopy->bSampeQuality());
-    }
-
-    void descriptionsForLogs() {
-        const auto a = item(QStringLiteral("/x/1.mp3"));
-        a->setStrMusicName(QStringLiteral("One"));
-        QVERIFY(a->description().startsWith(QStringLiteral("P = 0x")));
-        QVERIFY(a->description().endsWith(QStringLiteral(
-            ", path = /music/a song.flac, name = One, sample = 44100.000000, birat = "
-            "912000.000000,             channel = 2, inFormateType = MP3")));
-        QVERIFY(a->mediaInfo()->description().startsWith(QStringLiteral("id:0x")));
-        QVERIFY(a->mediaInfo()->description().endsWith(", filePath = /music/a song.flac"));
-    }
-
     // The record's own keys follow the probed ones; progress and notes are not archived.
     void archiveKeepsStateAndDropsProgress() {
         SXCoder coder;
@@ -97,19 +60,10 @@ private Q_SLOTS:
         QCOMPARE(back->eumCvtState(), int(CvtStateFailed));
         QVERIFY(back->dProgress() == 0 && back->dLeftTime() == 0 &&
                 back->strDescription().isEmpty() && !back->bSampeQuality());
-
-        // A coder without keys takes and gives nothing.
-        SXCoder keyless(false);
-        item(QStringLiteral("/x/1.mp3"))->encodeWithCoder(keyless);
-        probedRecord()->encodeWithCoder(keyless);
-        QVERIFY(keyless.keys().isEmpty());
-        LSMedia untouched;
-        untouched.initWithCoder(SXCoder(false));
-        QVERIFY(untouched.filePath().isEmpty() && untouched.eumCvtState() == CvtStateReady);
-        const auto decoded = SXMusicInfo::decodeWithCoder(SXCoder(false));
-        QVERIFY(decoded->strFilePath().isEmpty() && !decoded->mediaInfo());
     }
 
+    // Items travel as one archive for drag and drop; a copy made for a drop shares no record and
+    // keeps the unarchived fields too.
     void itemsTravelAsOneArchive() {
         const auto first = item(QStringLiteral("/x/é \"1\".mp3"));
         first->setDConvertProgress(-4);
@@ -127,6 +81,11 @@ private Q_SLOTS:
                 back[0]->striTunesPlaylistName() == "Mix" && back[0]->bIsSendingToiTunes());
         QCOMPARE(back[0]->mediaInfo()->eumCvtState(), int(CvtStateFailed));
         QVERIFY(back[1]->isEqualToMusic(*second) && !back[1]->mediaInfo());
+
+        const auto copy = first->copy();
+        QVERIFY(copy->isEqualToMusic(*first) && copy->mediaInfo() != first->mediaInfo());
+        QVERIFY(!first->isEqualToMusic(*item(first->strFilePath(), QStringLiteral("AAC"))));
+        QVERIFY(copy->mediaInfo()->dProgress() == 42 && copy->dConvertProgress() == -4);
 
         for (const QByteArray& junk : {QByteArray(), QByteArray("not an archive"),
                                        SXMusicInfo::archiveItems({first}).left(20)}) {

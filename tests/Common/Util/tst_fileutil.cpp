@@ -29,37 +29,32 @@ void FileUtilTest::fileOperationsNeverReplaceAnything() {
     QTemporaryDir dir;
     const auto at = [&dir](const char* name) { return dir.filePath(name); };
     QVERIFY(writeFile(at("a.txt"), "a"));
-    QVERIFY(!FileHelper::createFileWithPath(at("a.txt")));
-    QVERIFY(FileHelper::createFileWithPath(at("b.txt")));
-    QCOMPARE(FileHelper::getFileSizeWithPath(at("a.txt")), 1ULL);
-    QCOMPARE(FileHelper::getFileSizeWithPath(at("missing")), 0ULL);
-    QVERIFY(!FileHelper::copyFile(at("a.txt"), at("b.txt")));
-    QVERIFY(!FileHelper::moveFile(at("a.txt"), at("b.txt")));
+    QVERIFY(!FileHelper::createFileWithPath(at("a.txt")) &&
+            FileHelper::createFileWithPath(at("b.txt")));
+    QVERIFY(FileHelper::getFileSizeWithPath(at("a.txt")) == 1 &&
+            FileHelper::getFileSizeWithPath(at("missing")) == 0);
+    QVERIFY(!FileHelper::copyFile(at("a.txt"), at("b.txt")) &&
+            !FileHelper::moveFile(at("a.txt"), at("b.txt")));
     FileHelper::checkAndCreateFileAtPath(at("a.txt"), false);
-    QCOMPARE(readFile(at("a.txt")), QByteArray("a"));
-    QVERIFY(QFileInfo(at("b.txt")).isFile());
-    QCOMPARE(readFile(at("b.txt")), QByteArray());
-
+    QVERIFY(readFile(at("a.txt")) == "a" && QFileInfo(at("b.txt")).isFile() &&
+            readFile(at("b.txt")).isEmpty());
     FileHelper::checkAndCreateFileAtPath(at("made/here"), true);
     QVERIFY(QFileInfo(at("made/here")).isDir());
     QVERIFY(!FileHelper::createDirectoryWithPath(at("a.txt/sub")));
 
     // Folders are copied and moved whole; links inside stay links.
-    QVERIFY(writeFile(at("made/here/f.txt"), "f"));
-    QVERIFY(QFile::link("here/f.txt", at("made/rel")));
-    QVERIFY(FileHelper::copyFile(at("made"), at("copy")));
-    QVERIFY(!FileHelper::copyFile(at("made"), at("copy")));
+    QVERIFY(writeFile(at("made/here/f.txt"), "f") && QFile::link("here/f.txt", at("made/rel")));
+    QVERIFY(FileHelper::copyFile(at("made"), at("copy")) &&
+            !FileHelper::copyFile(at("made"), at("copy")));
     QVERIFY(FileHelper::moveFile(at("copy"), at("moved")));
-    QVERIFY(QFileInfo(at("moved/rel")).isSymLink());
-    QCOMPARE(readFile(at("moved/rel")), QByteArray("f"));
+    QVERIFY(QFileInfo(at("moved/rel")).isSymLink() && readFile(at("moved/rel")) == "f");
 
     // Deleting a link removes only the link; deleting a folder takes its contents along.
     QVERIFY(QFile::link(at("made"), at("moved/outside")));
     QVERIFY(FileHelper::deleteDirectoryWithPath(at("moved")));
-    QVERIFY(!FileHelper::fileExistsWithPath(at("moved")));
-    QCOMPARE(readFile(at("made/here/f.txt")), QByteArray("f"));
-    QVERIFY(FileHelper::deleteFileWithPath(at("a.txt")));
-    QVERIFY(!FileHelper::deleteFileWithPath(at("a.txt")));
+    QVERIFY(!FileHelper::fileExistsWithPath(at("moved")) && readFile(at("made/here/f.txt")) == "f");
+    QVERIFY(FileHelper::deleteFileWithPath(at("a.txt")) &&
+            !FileHelper::deleteFileWithPath(at("a.txt")));
 }
 
 void FileUtilTest::freeSpaceAndFullThreshold() {
@@ -80,7 +75,6 @@ void FileUtilTest::freeSpaceAndFullThreshold() {
     QCOMPARE(FileHelper::getLangConfigPath(), data.path() + "/Caches/lang/lang.dat");
     QVERIFY(QFileInfo(data.path() + "/Caches/lang").isDir());
     qunsetenv("XDG_DATA_HOME");
-    QCOMPARE(FileHelper::getAppPath(), QCoreApplication::applicationDirPath());
 }
 
 void FileUtilTest::findFileGivesNameOrFirstLevelFolder() {
