@@ -32,12 +32,7 @@ QString artworkText(const SXMusicInfo& item) {
 
 int CliInfo::printInfo(const QString& path) {
     const QString absolute = QDir::cleanPath(QDir::current().absoluteFilePath(path));
-    auto media = std::make_shared<LSMedia>();
-    media->setFilePath(absolute);
-    media->setStrOutFileName(QFileInfo(absolute).completeBaseName());
-    auto item = std::make_shared<SXMusicInfo>();
-    item->setStrFilePath(absolute);
-    item->setMediaInfo(media);
+    const SXMusicInfoPtr item = SXMusicInfo::newForSource(absolute, QString());
 
     SingleLoad verdict;
     const LSMediaLoaderPtr loader = LSMediaLoader::create();

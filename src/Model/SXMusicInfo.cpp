@@ -3,6 +3,8 @@
 #include "Media/Framework/MTEAudioFile.h"
 #include "Shared/SXLocked.h"
 
+#include <QFileInfo>
+
 namespace {
 const QString kArrayKey = QStringLiteral("items");
 } // namespace
@@ -42,6 +44,18 @@ std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
 }
 void SXMusicInfo::setMetHandler(const std::shared_ptr<MTEAudioFile>& h) {
     sxLockedSet(m_lock, m_metHandler, h);
+}
+
+std::shared_ptr<SXMusicInfo> SXMusicInfo::newForSource(const QString& path,
+                                                       const QString& musicType) {
+    auto media = std::make_shared<LSMedia>();
+    media->setFilePath(path);
+    media->setStrOutFileName(QFileInfo(path).completeBaseName());
+    auto item = std::make_shared<SXMusicInfo>();
+    item->setStrMusicType(musicType);
+    item->setMediaInfo(media);
+    item->setStrFilePath(path);
+    return item;
 }
 
 bool SXMusicInfo::isEqualToMusic(const SXMusicInfo& other) const {

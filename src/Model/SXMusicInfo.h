@@ -43,6 +43,10 @@ public:
     std::shared_ptr<MTEAudioFile> metHandler() const;
     void setMetHandler(const std::shared_ptr<MTEAudioFile>& handle);
 
+    // A new item for a source file added to container `musicType`: its media record knows the
+    // path, and the output is named after the file without its extension.
+    static std::shared_ptr<SXMusicInfo> newForSource(const QString& path, const QString& musicType);
+
     // Same path and same container.
     bool isEqualToMusic(const SXMusicInfo& other) const;
 

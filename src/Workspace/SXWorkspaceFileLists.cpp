@@ -51,16 +51,8 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     const QString container = getSelectedMusicFormat();
     _loadingFileArray.clear();
     _loadingFileArray.reserve(10);
-    for (const QString& path : candidates) {
-        auto media = std::make_shared<LSMedia>();
-        media->setFilePath(path);
-        media->setStrOutFileName(QFileInfo(path).completeBaseName());
-        auto item = std::make_shared<SXMusicInfo>();
-        item->setStrMusicType(container);
-        item->setMediaInfo(media);
-        item->setStrFilePath(path);
-        _loadingFileArray.append(item);
-    }
+    for (const QString& path : candidates)
+        _loadingFileArray.append(SXMusicInfo::newForSource(path, container));
     // Keep our own reference: an empty batch completes inside this call.
     const LSMediaLoaderPtr loader = m_mediaLoader;
     loader->loadMediasWithMediaArray(_loadingFileArray);

@@ -46,19 +46,14 @@ inline SXMusicInfoPtr makeItem(const QString& source, double duration,
                                const QString& format = u"MP3"_s,
                                const QString& codec = u"libmp3lame"_s,
                                const QString& ext = u"mp3"_s) {
-    auto media = std::make_shared<LSMedia>();
-    media->setFilePath(source);
+    const SXMusicInfoPtr item = SXMusicInfo::newForSource(source, format);
+    const LSMediaPtr media = item->mediaInfo();
     media->setDuration(duration);
     media->setDAOBitrate(128.0);
     media->setDAOSamplerate(44100.0);
     media->setIAOChanels(2);
     media->setVOACodecName(codec);
     media->setStrOutFileExt(ext);
-    media->setStrOutFileName(QFileInfo(source).completeBaseName());
-    auto item = std::make_shared<SXMusicInfo>();
-    item->setStrFilePath(source);
-    item->setStrMusicType(format);
-    item->setMediaInfo(media);
     return item;
 }
 

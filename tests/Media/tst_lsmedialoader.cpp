@@ -60,16 +60,8 @@ private:
 // Items as the workspace makes them for added paths.
 SXMusicInfoList makeItems(const QStringList& paths) {
     SXMusicInfoList items;
-    for (const QString& path : paths) {
-        auto media = std::make_shared<LSMedia>();
-        media->setFilePath(path);
-        media->setStrOutFileName(QFileInfo(path).completeBaseName());
-        auto item = std::make_shared<SXMusicInfo>();
-        item->setStrMusicType(QStringLiteral("MP3"));
-        item->setMediaInfo(media);
-        item->setStrFilePath(path);
-        items << item;
-    }
+    for (const QString& path : paths)
+        items << SXMusicInfo::newForSource(path, QStringLiteral("MP3"));
     return items;
 }
 

@@ -43,15 +43,9 @@ public:
 // An item of container `type` for `path`, with a media record unless told otherwise.
 inline SXMusicInfoPtr makeWorkspaceItem(const QString& path, const QString& type,
                                         bool withMedia = true) {
-    auto item = std::make_shared<SXMusicInfo>();
-    item->setStrFilePath(path);
-    item->setStrMusicType(type);
-    if (withMedia) {
-        auto media = std::make_shared<LSMedia>();
-        media->setFilePath(path);
-        media->setStrOutFileName(QFileInfo(path).completeBaseName());
-        item->setMediaInfo(media);
-    }
+    const SXMusicInfoPtr item = SXMusicInfo::newForSource(path, type);
+    if (!withMedia)
+        item->setMediaInfo(nullptr);
     return item;
 }
 
