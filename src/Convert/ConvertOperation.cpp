@@ -4,7 +4,7 @@
 #include "Convert/SXLibraryScript.h"
 #include "Convert/ScriptBridgeHelper.h"
 #include "Convert/TaskWrapper.h"
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/MTEAudioFileMgr.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"

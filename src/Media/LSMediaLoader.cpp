@@ -1,7 +1,7 @@
 #include "Media/LSMediaLoader.h"
 
-#include "Media/Framework/HVMediaInfo.h"
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/HVMediaInfo.h"
+#include "Framework/MTEAudioFileMgr.h"
 #include "Shared/SXLog.h"
 
 #include <QDateTime>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Framework/HVMediaInfoItem.h"
+#include "Framework/HVMediaInfoItem.h"
 
 #include <memory>
 

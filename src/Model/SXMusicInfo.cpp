@@ -1,6 +1,6 @@
 #include "SXMusicInfo.h"
 
-#include "Media/Framework/MTEAudioFile.h"
+#include "Framework/MTEAudioFile.h"
 #include "Shared/SXLocked.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Framework/MTEAudioFile.h"
+#include "Framework/MTEAudioFile.h"
 #include "Model/SXMusicInfo.h"
 
 #include <QList>

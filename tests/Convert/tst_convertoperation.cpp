@@ -1,6 +1,6 @@
 #include "ConvertTestSupport.h"
 
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/MTEAudioFileMgr.h"
 #include "Shared/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTEAudioFile.h"
+#include "Framework/MTEAudioFile.h"
 #include "Media/LSMediaLoader.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"

@@ -1,6 +1,6 @@
 #include "support/TestSupport.h"
 
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/MTEAudioFileMgr.h"
 #include "Workspace/SXFileInfoText.h"
 
 #include "WorkspaceTestPresenter.h"

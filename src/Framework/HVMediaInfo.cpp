@@ -1,4 +1,4 @@
-#include "Media/Framework/HVMediaInfo.h"
+#include "Framework/HVMediaInfo.h"
 
 #include <QByteArray>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Framework/MTETagFamily.h"
+#include "Framework/MTETagFamily.h"
 
 namespace TagLib::ID3v2 {
 class Tag;

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyMP4.h"
+#include "Framework/MTETagFamilyMP4.h"
 
 #include <taglib/mp4coverart.h>
 #include <taglib/mp4file.h>

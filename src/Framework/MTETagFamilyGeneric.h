@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/Framework/MTETagFamily.h"
+#include "Framework/MTETagFamily.h"
 
 // Read-only view through TagLib's property map, for kinds whose tags this program does not
 // write (tracker modules and any kind TagLib adds later). Pictures are not offered.

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyID3v2.h"
+#include "Framework/MTETagFamilyID3v2.h"
 
 #include <taglib/aifffile.h>
 #include <taglib/attachedpictureframe.h>

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamily.h"
+#include "Framework/MTETagFamily.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Media/Framework/MTEAudioFile.h"
-#include "Media/Framework/MTETagField.h"
+#include "Framework/MTEAudioFile.h"
+#include "Framework/MTETagField.h"
 
 #include <QMap>
 #include <QString>

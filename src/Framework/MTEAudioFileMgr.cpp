@@ -1,4 +1,4 @@
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/MTEAudioFileMgr.h"
 
 std::shared_ptr<MTEAudioFile> MTEAudioFileMgr::createAudioFileWithPath(const QString& path,
                                                                        bool dumpImmediately) {

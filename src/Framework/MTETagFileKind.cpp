@@ -1,12 +1,12 @@
-#include "Media/Framework/MTETagFileKind.h"
+#include "Framework/MTETagFileKind.h"
 
-#include "Media/Framework/MTEAudioFile.h"
-#include "Media/Framework/MTETagFamilyAPE.h"
-#include "Media/Framework/MTETagFamilyASF.h"
-#include "Media/Framework/MTETagFamilyGeneric.h"
-#include "Media/Framework/MTETagFamilyID3v2.h"
-#include "Media/Framework/MTETagFamilyMP4.h"
-#include "Media/Framework/MTETagFamilyXiph.h"
+#include "Framework/MTEAudioFile.h"
+#include "Framework/MTETagFamilyAPE.h"
+#include "Framework/MTETagFamilyASF.h"
+#include "Framework/MTETagFamilyGeneric.h"
+#include "Framework/MTETagFamilyID3v2.h"
+#include "Framework/MTETagFamilyMP4.h"
+#include "Framework/MTETagFamilyXiph.h"
 
 #include <QFile>
 #include <QFileInfo>

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTEAudioFileMgr.h"
+#include "Framework/MTEAudioFileMgr.h"
 #include "support/TestSupport.h"
 
 #include <QFile>

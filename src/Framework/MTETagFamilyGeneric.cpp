@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyGeneric.h"
+#include "Framework/MTETagFamilyGeneric.h"
 
 #include <taglib/tfile.h>
 #include <taglib/tpropertymap.h>

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyAPE.h"
+#include "Framework/MTETagFamilyAPE.h"
 
 #include <taglib/apefile.h>
 #include <taglib/apefooter.h>

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyASF.h"
+#include "Framework/MTETagFamilyASF.h"
 
 #include <taglib/asfattribute.h>
 #include <taglib/asffile.h>

@@ -1,4 +1,4 @@
-#include "Media/Framework/HVMediaInfo.h"
+#include "Framework/HVMediaInfo.h"
 #include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 

@@ -1,4 +1,4 @@
-#include "Media/Framework/MTETagFamilyXiph.h"
+#include "Framework/MTETagFamilyXiph.h"
 
 #include <taglib/flacfile.h>
 #include <taglib/flacpicture.h>

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Media/Framework/MTETagFamily.h"
+#include "Framework/MTETagFamily.h"
 
-namespace TagLib::Ogg {
-class XiphComment;
+namespace TagLib::MP4 {
+class Tag;
 }
 
-// Vorbis comments of Ogg Vorbis, Opus, Speex, Ogg FLAC and FLAC files. Pictures go into FLAC's
-// own picture blocks for FLAC files and into METADATA_BLOCK_PICTURE comments for Ogg files.
-class MTETagFamilyXiph : public MTETagFamily {
+// MP4/M4A atoms. Fields without an atom of their own (publisher) live in free-form
+// "----:com.apple.iTunes:" items, the only custom keys MP4 accepts.
+class MTETagFamilyMP4 : public MTETagFamily {
 public:
     QString name() const override;
     const MTEKeyTable& keyTable() const override;
@@ -22,5 +22,5 @@ protected:
     void writeArtwork(TagLib::File& file, const MTEArtworkList& images) const override;
 
 private:
-    static TagLib::Ogg::XiphComment* commentOf(TagLib::File& file);
+    static TagLib::MP4::Tag* tagOf(TagLib::File& file);
 };

@@ -1,14 +1,14 @@
 #pragma once
 
-#include "Media/Framework/MTETagFamily.h"
+#include "Framework/MTETagFamily.h"
 
-namespace TagLib::ASF {
+namespace TagLib::APE {
 class Tag;
 }
 
-// ASF (WMA) attributes. Title, author, copyright and description live in the content
-// description object rather than in attributes, so they go through TagLib's own accessors.
-class MTETagFamilyASF : public MTETagFamily {
+// APE tags of Monkey's Audio, WavPack and Musepack files. Pictures are binary items holding a
+// file name, a zero byte and the picture's bytes.
+class MTETagFamilyAPE : public MTETagFamily {
 public:
     QString name() const override;
     const MTEKeyTable& keyTable() const override;
@@ -22,5 +22,5 @@ protected:
     void writeArtwork(TagLib::File& file, const MTEArtworkList& images) const override;
 
 private:
-    static TagLib::ASF::Tag* tagOf(TagLib::File& file);
+    static TagLib::APE::Tag* tagOf(TagLib::File& file, bool create);
 };

@@ -1,7 +1,7 @@
-#include "Media/Framework/MTEAudioFile.h"
+#include "Framework/MTEAudioFile.h"
 
-#include "Media/Framework/MTETagFamily.h"
-#include "Media/Framework/MTETagFileKind.h"
+#include "Framework/MTETagFamily.h"
+#include "Framework/MTETagFileKind.h"
 
 #include <QFileInfo>
 #include <QMutex>
