@@ -139,31 +139,8 @@ void CliRun::startConversion() {
                 &CliRun::totalProgressChanged);
         m_bar.start();
     }
+    connect(m_workspace.get(), &SXWorkspaceScheduler::itemFinished, this, &CliRun::report);
     m_workspace->doRealConverterTask(m_outputFolder);
-
-    SXOperationQueue* queue = m_workspace->queueConvertTask();
-    if (!queue)
-        return;
-    // The operation knows the output name it picked; keep it so every finished file can be
-    // named, also one whose end was reported before we listened.
-    for (const SXOperationPtr& operation : queue->operations()) {
-        auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
-        if (convert && convert->musicToConvert())
-            m_operations.insert(convert->musicToConvert().get(), convert);
-    }
-    connect(
-        queue, &SXOperationQueue::operationFinished, this,
-        [this](SXOperationPtr operation) {
-            auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
-            QMetaObject::invokeMethod(
-                this, [this, convert] { operationFinished(convert); }, Qt::QueuedConnection);
-        },
-        Qt::DirectConnection);
-}
-
-void CliRun::operationFinished(const ConvertOperationPtr& operation) {
-    if (operation)
-        report(operation->musicToConvert(), operation->strOutFilePath());
 }
 
 void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
@@ -197,8 +174,8 @@ void CliRun::totalProgressChanged(double percent) {
 void CliRun::runFinished(const QString& summary) {
     bool allConverted = m_loadFailures == 0;
     for (const SXMusicInfoPtr& item : items()) {
-        const ConvertOperationPtr operation = m_operations.value(item.get());
-        report(item, operation ? operation->strOutFilePath() : QString());
+        // An item whose end was never announced (cancelled while it waited) is named here.
+        report(item, QString());
         const LSMediaPtr media = item->mediaInfo();
         if (!media || media->eumCvtState() != CvtStateFinished)
             allConverted = false;
@@ -237,27 +214,28 @@ void CliRun::finish(int status) {
 
 // --- Presenter ---
 
-int CliRun::runModalAlert(const SXAlert& alert) {
+void CliRun::runModalAlert(const SXAlert& alert, Answer<int> chosenButton) {
     // The end of a run is reported through runFinished, which carries the same summary text;
     // every other alert (the load failures) goes to standard error.
-    if (m_phase == Phase::Converting)
-        return 0;
-    QString text = alert.messageText + QLatin1Char('\n') + alert.informativeText;
-    if (!text.endsWith(QLatin1Char('\n')))
-        text += QLatin1Char('\n');
-    CliOutput::write(stderr, text);
-    return 0;
+    if (m_phase != Phase::Converting) {
+        QString text = alert.messageText + QLatin1Char('\n') + alert.informativeText;
+        if (!text.endsWith(QLatin1Char('\n')))
+            text += QLatin1Char('\n');
+        CliOutput::write(stderr, text);
+    }
+    chosenButton(0);
 }
 
 void CliRun::showSheetAlert(const SXAlert& alert) {
     CliOutput::line(stderr, alert.messageText);
 }
 
-std::optional<SXOutputFolderChoice> CliRun::chooseOutputFolder(const SXOutputFolderRequest&) {
+void CliRun::chooseOutputFolder(const SXOutputFolderRequest&,
+                                Answer<std::optional<SXOutputFolderChoice>> chosen) {
     // The run is started with its folder from the command line; nothing here asks for one.
-    return std::nullopt;
+    chosen(std::nullopt);
 }
 
-SXFormatSettingPtr CliRun::chooseNewFormat(const QList<SXFormatSettingPtr>&) {
-    return nullptr;
+void CliRun::chooseNewFormat(const QList<SXFormatSettingPtr>&, Answer<SXFormatSettingPtr> chosen) {
+    chosen(nullptr);
 }

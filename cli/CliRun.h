@@ -28,11 +28,12 @@ public:
     void interrupt(int signalNumber);
 
     // SXWorkspacePresenter
-    int runModalAlert(const SXAlert& alert) override;
+    void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) override;
     void showSheetAlert(const SXAlert& alert) override;
-    std::optional<SXOutputFolderChoice>
-    chooseOutputFolder(const SXOutputFolderRequest& request) override;
-    SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) override;
+    void chooseOutputFolder(const SXOutputFolderRequest& request,
+                            Answer<std::optional<SXOutputFolderChoice>> chosen) override;
+    void chooseNewFormat(const QList<SXFormatSettingPtr>& formats,
+                         Answer<SXFormatSettingPtr> chosen) override;
     void beep() override {}
     void openFolder(const QString&) override {}
 
@@ -44,7 +45,6 @@ private:
     void loadFinished(int failedCount);
     void printDryRun();
     void startConversion();
-    void operationFinished(const ConvertOperationPtr& operation);
     void report(const SXMusicInfoPtr& item, const QString& outputFile);
     void totalProgressChanged(double percent);
     void runFinished(const QString& summary);
@@ -61,7 +61,6 @@ private:
     int m_interruptSignal = 0;
     bool m_terminal = false;
     CliProgressBar m_bar;
-    QHash<const SXMusicInfo*, ConvertOperationPtr> m_operations;
     QSet<const SXMusicInfo*> m_reported;
     int m_done = 0;
     int m_failed = 0;

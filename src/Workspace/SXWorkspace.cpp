@@ -1,13 +1,17 @@
 #include "Workspace/SXWorkspace.h"
 
 #include "Model/SXDataEngine.h"
+#include "Shared/SXThreadAffinity.h"
 #include "Workspace/SXWorkspaceNotifier.h"
+
+#include <QPointer>
 
 SXWorkspace::SXWorkspace(QObject* parent)
     : SXWorkspaceScheduler(parent) {
     removeallTabs();
     SXDataEngine::shareInstance()->addNewMainWndCtlr(this);
     m_registered = true;
+    sxAssertSignalsOnOwnerThread(this);
 }
 
 SXWorkspace::~SXWorkspace() {
@@ -22,16 +26,28 @@ void SXWorkspace::reNewDefaultWindow() {
     refreshTabCount();
 }
 
-bool SXWorkspace::windowShouldClose() {
-    if (SXDataEngine::shareInstance()->getAllMainWndCtlr().size() < 2) {
-        if (getTotalNeedConvertMusic() > 0) {
-            const int chosen = runAlert(
-                {QStringLiteral("Warnning"),
-                 QStringLiteral("Do you want to close all window without save information?"),
-                 {QStringLiteral("Cancel"), QStringLiteral("OK")}});
-            if (chosen == 0)
-                return false;
-        }
+void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) {
+    const bool last = SXDataEngine::shareInstance()->getAllMainWndCtlr().size() < 2;
+    if (!last || getTotalNeedConvertMusic() == 0) {
+        closeAfterAnswer(last);
+        decided(true);
+        return;
+    }
+    runAlert({QStringLiteral("Warnning"),
+              QStringLiteral("Do you want to close all window without save information?"),
+              {QStringLiteral("Cancel"), QStringLiteral("OK")}},
+             [guard = QPointer(this), decided](int chosen) {
+                 if (!guard || chosen == 0) {
+                     decided(false);
+                     return;
+                 }
+                 guard->closeAfterAnswer(true);
+                 decided(true);
+             });
+}
+
+void SXWorkspace::closeAfterAnswer(bool last) {
+    if (last) {
         for (const QString& name : containerNames())
             createArrayForFormate(name);
         refreshListView();
@@ -41,5 +57,12 @@ bool SXWorkspace::windowShouldClose() {
     SXDataEngine::shareInstance()->removeMainWndCtlr(this);
     m_registered = false;
     disconnect(SXWorkspaceNotifier::defaultCenter(), nullptr, this, nullptr);
-    return true;
+}
+
+void SXWorkspace::registerAgain() {
+    if (m_registered)
+        return;
+    SXDataEngine::shareInstance()->addNewMainWndCtlr(this);
+    m_registered = true;
+    connectNotifier();
 }

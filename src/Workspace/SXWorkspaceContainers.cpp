@@ -4,19 +4,13 @@
 #include "Model/SXDataEngine.h"
 
 #include <QMutexLocker>
+#include <QPointer>
 #include <algorithm>
 
 SXWorkspaceContainers::SXWorkspaceContainers(QObject* parent)
-    : QObject(parent) {}
+    : SXWorkspaceData(parent) {}
 
 SXWorkspaceContainers::~SXWorkspaceContainers() = default;
-
-void SXWorkspaceContainers::setAppState(int state) {
-    if (m_progressType.exchange(state) != state)
-        Q_EMIT appStateChanged(state);
-}
-
-// --- Tabs ---
 
 void SXWorkspaceContainers::addDefaultTabs() {
     SXDataEngine* engine = SXDataEngine::shareInstance();
@@ -82,16 +76,6 @@ int SXWorkspaceContainers::addNewTabWithName(const QString& name) {
     }
     emitTabs();
     return int(tabLabels().indexOf(name));
-}
-
-QStringList SXWorkspaceContainers::tabLabels() const {
-    QMutexLocker locker(&m_dataLock);
-    return m_tabLabels;
-}
-
-int SXWorkspaceContainers::selectedTabIndex() const {
-    QMutexLocker locker(&m_dataLock);
-    return m_selectedTab;
 }
 
 void SXWorkspaceContainers::selectTab(int index) {
@@ -161,8 +145,8 @@ bool SXWorkspaceContainers::shouldCloseTab(const QString& label) {
     if (enumAppState() == AppStateConverting)
         return false;
     if (label == QLatin1String("Drake")) {
-        if (m_presenter)
-            m_presenter->showSheetAlert({QStringLiteral("No Way!"),
+        if (presenter())
+            presenter()->showSheetAlert({QStringLiteral("No Way!"),
                                          QStringLiteral("I refuse to close a tab named \"Drake\""),
                                          {QStringLiteral("OK")}});
         return false;
@@ -170,7 +154,7 @@ bool SXWorkspaceContainers::shouldCloseTab(const QString& label) {
     return true;
 }
 
-void SXWorkspaceContainers::clickAddNewFormat() {
+QList<SXFormatSettingPtr> SXWorkspaceContainers::formatsWithoutContainer() const {
     SXDataEngine* engine = SXDataEngine::shareInstance();
     QStringList names = engine->getAllOutputFormats();
     for (const QString& label : tabLabels())
@@ -180,6 +164,11 @@ void SXWorkspaceContainers::clickAddNewFormat() {
         if (SXFormatSettingPtr setting = engine->getFormatWithName(name))
             formats.append(setting);
     }
+    return formats;
+}
+
+void SXWorkspaceContainers::clickAddNewFormat() {
+    const QList<SXFormatSettingPtr> formats = formatsWithoutContainer();
     if (formats.isEmpty()) {
         runAlert({QStringLiteral(
                       "All formats are opened, you can set the paramas in the setting window."),
@@ -187,10 +176,13 @@ void SXWorkspaceContainers::clickAddNewFormat() {
                   {QStringLiteral("Yes")}});
         return;
     }
-    if (!m_presenter)
+    if (!presenter())
         return;
-    if (SXFormatSettingPtr chosen = m_presenter->chooseNewFormat(formats))
-        addContainerWithFormat(chosen);
+    presenter()->chooseNewFormat(formats,
+                                 [guard = QPointer(this)](const SXFormatSettingPtr& chosen) {
+                                     if (guard && chosen)
+                                         guard->addContainerWithFormat(chosen);
+                                 });
 }
 
 void SXWorkspaceContainers::addContainerWithFormat(const SXFormatSettingPtr& setting) {
@@ -212,181 +204,4 @@ void SXWorkspaceContainers::addContainerWithFormat(const SXFormatSettingPtr& set
     Q_EMIT formatSettingShown(setting);
     refreshListView();
     refreshTabCount();
-}
-
-// --- Per-container data ---
-
-void SXWorkspaceContainers::setData(const SXMusicInfoList& list, const QString& forType) {
-    if (forType.isEmpty())
-        return;
-    QMutexLocker locker(&m_dataLock);
-    _dicfmtFiles.insert(forType, list);
-}
-
-void SXWorkspaceContainers::setFmtSetting(const SXFormatSettingPtr& setting) {
-    if (!setting)
-        return;
-    {
-        QMutexLocker locker(&m_dataLock);
-        _fmtSettingInfos.insert(setting->fmtName(), setting);
-    }
-    Q_EMIT formatSettingShown(setting);
-}
-
-SXMusicInfoList SXWorkspaceContainers::getDataForFormat(const QString& name) const {
-    QMutexLocker locker(&m_dataLock);
-    return _dicfmtFiles.value(name);
-}
-
-bool SXWorkspaceContainers::hasDataForFormat(const QString& name) const {
-    QMutexLocker locker(&m_dataLock);
-    return _dicfmtFiles.contains(name);
-}
-
-SXFormatSettingPtr SXWorkspaceContainers::getFormatSettingForFormatName(const QString& name) const {
-    if (name.isEmpty())
-        return nullptr;
-    QMutexLocker locker(&m_dataLock);
-    return _fmtSettingInfos.value(name);
-}
-
-QString SXWorkspaceContainers::getSelectedMusicFormat() const {
-    QMutexLocker locker(&m_dataLock);
-    return m_selectedTab >= 0 && m_selectedTab < m_tabLabels.size() ? m_tabLabels.at(m_selectedTab)
-                                                                    : QString();
-}
-
-SXMusicInfoList SXWorkspaceContainers::getCurTableDatasource() const {
-    QMutexLocker locker(&m_dataLock);
-    return getDataForFormat(getSelectedMusicFormat());
-}
-
-SXFormatSettingPtr SXWorkspaceContainers::getSelectedTabFormatSetting() const {
-    return getFormatSettingForFormatName(getSelectedMusicFormat());
-}
-
-int SXWorkspaceContainers::getCurentTabMusicCount() const {
-    return int(getCurTableDatasource().size());
-}
-
-void SXWorkspaceContainers::createArrayForFormate(const QString& name) {
-    if (name.isEmpty())
-        return;
-    QMutexLocker locker(&m_dataLock);
-    _dicfmtFiles.insert(name, SXMusicInfoList());
-}
-
-void SXWorkspaceContainers::refreshTabCount() {
-    QStringList labels;
-    QList<int> counts;
-    {
-        QMutexLocker locker(&m_dataLock);
-        labels = m_tabLabels;
-        for (const QString& label : std::as_const(labels))
-            counts.append(int(_dicfmtFiles.value(label).size()));
-    }
-    Q_EMIT tabCountsChanged(labels, counts);
-}
-
-QStringList SXWorkspaceContainers::containerNames() const {
-    QMutexLocker locker(&m_dataLock);
-    QStringList names;
-    for (const QString& label : m_tabLabels) {
-        if (_dicfmtFiles.contains(label) && !names.contains(label))
-            names.append(label);
-    }
-    QStringList others;
-    for (auto it = _dicfmtFiles.cbegin(); it != _dicfmtFiles.cend(); ++it) {
-        if (!names.contains(it.key()))
-            others.append(it.key());
-    }
-    others.sort();
-    return names + others;
-}
-
-// --- Rows ---
-
-QList<int> SXWorkspaceContainers::selectedRows() const {
-    QMutexLocker locker(&m_dataLock);
-    return m_selectedRows;
-}
-
-void SXWorkspaceContainers::setSelectedRows(const QList<int>& rows) {
-    {
-        QMutexLocker locker(&m_dataLock);
-        m_selectedRows = rows;
-        clampSelection();
-    }
-    Q_EMIT selectionChanged(selectedRows());
-}
-
-SXMusicInfoList SXWorkspaceContainers::selectedItems() const {
-    QMutexLocker locker(&m_dataLock);
-    const SXMusicInfoList list = getCurTableDatasource();
-    SXMusicInfoList items;
-    for (int row : m_selectedRows)
-        items.append(list.at(row));
-    return items;
-}
-
-void SXWorkspaceContainers::refreshListView() {
-    bool selectionShrank = false;
-    {
-        QMutexLocker locker(&m_dataLock);
-        const qsizetype before = m_selectedRows.size();
-        clampSelection();
-        selectionShrank = m_selectedRows.size() != before;
-    }
-    Q_EMIT listChanged();
-    if (selectionShrank)
-        Q_EMIT selectionChanged(selectedRows());
-}
-
-// --- Helpers ---
-
-void SXWorkspaceContainers::beep() const {
-    if (m_presenter)
-        m_presenter->beep();
-}
-
-int SXWorkspaceContainers::runAlert(const SXAlert& alert) const {
-    return m_presenter ? m_presenter->runModalAlert(alert) : 0;
-}
-
-void SXWorkspaceContainers::removeEqualItems(const SXMusicInfoList& items, SXMusicInfoList& list) {
-    for (const SXMusicInfoPtr& item : items) {
-        const auto found = std::find_if(list.begin(), list.end(), [&](const SXMusicInfoPtr& e) {
-            return e->isEqualToMusic(*item);
-        });
-        if (found != list.end())
-            list.erase(found);
-    }
-}
-
-void SXWorkspaceContainers::emitTabs() {
-    QStringList labels;
-    int selected = -1;
-    {
-        QMutexLocker locker(&m_dataLock);
-        labels = m_tabLabels;
-        selected = m_selectedTab;
-    }
-    Q_EMIT tabsChanged(labels, selected);
-}
-
-void SXWorkspaceContainers::dropContainer(const QString& label) {
-    _dicfmtFiles.remove(label);
-    _fmtSettingInfos.remove(label);
-}
-
-// Rows are kept sorted, unique and inside the shown list; the caller holds the lock.
-void SXWorkspaceContainers::clampSelection() {
-    const int count = int(getCurTableDatasource().size());
-    QList<int> rows;
-    for (int row : std::as_const(m_selectedRows)) {
-        if (row >= 0 && row < count && !rows.contains(row))
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    m_selectedRows = rows;
 }

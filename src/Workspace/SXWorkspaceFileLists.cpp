@@ -99,12 +99,14 @@ QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
 
 void SXWorkspaceFileLists::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
     const QString name = item ? QFileInfo(item->strFilePath()).fileName() : QString();
-    Q_EMIT loadProgressText(name.isEmpty() ? QString()
-                                           : QStringLiteral("Importing %1...").arg(name));
+    const QString text = name.isEmpty() ? QString() : QStringLiteral("Importing %1...").arg(name);
+    QMetaObject::invokeMethod(
+        this, [this, text] { Q_EMIT loadProgressText(text); }, Qt::QueuedConnection);
 }
 
 void SXWorkspaceFileLists::mediaLoaderDidReceiveProgress(LSMediaLoader*, double progress) {
-    Q_EMIT loadProgressValue(progress);
+    QMetaObject::invokeMethod(
+        this, [this, progress] { Q_EMIT loadProgressValue(progress); }, Qt::QueuedConnection);
 }
 
 void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
@@ -138,6 +140,7 @@ void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
     if (selectedRows().isEmpty() && getCurentTabMusicCount() > 0)
         setSelectedRows({0});
     refreshTabCount();
+    // Nothing waits for the alert's answer: the run ends while it shows.
     if (!failed.isEmpty())
         runAlert({QStringLiteral("Following file(s) load failed!"),
                   loadFailureText(failed),

@@ -48,8 +48,8 @@ public:
                                              const SXMusicInfoList& inSelectedTableView);
 
 Q_SIGNALS:
-    // The loading sheet: shown with `text`, then its text and bar (0..1) change. The text and
-    // progress signals are emitted on the loader's worker thread.
+    // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader
+    // reports on its worker thread; these are re-emitted on the main thread in the same order.
     void loadStarted(const QString& text);
     void loadProgressText(const QString& text);
     void loadProgressValue(double fraction);

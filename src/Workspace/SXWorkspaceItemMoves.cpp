@@ -8,6 +8,10 @@
 
 SXWorkspaceItemMoves::SXWorkspaceItemMoves(QObject* parent)
     : SXWorkspaceFileLists(parent) {
+    connectNotifier();
+}
+
+void SXWorkspaceItemMoves::connectNotifier() {
     connect(SXWorkspaceNotifier::defaultCenter(), &SXWorkspaceNotifier::tableViewAcceptDragIn, this,
             [this](QObject*, const SXMusicInfoList& items, const QString& format) {
                 removeDragOutFiles(items, format);

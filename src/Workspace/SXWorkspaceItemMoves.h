@@ -33,6 +33,10 @@ public:
     // Selects the rows of the shown list that hold the moved items.
     void refrushTabelAfterDragMusicInfos(const SXMusicInfoList& items, int toRow);
 
+protected:
+    // Listens to moves out of other workspaces (again after a closed window is revived).
+    void connectNotifier();
+
 private:
     void reorderWithinContainer(const SXMusicInfoList& items, int insertAt);
 };

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <functional>
 #include <optional>
 
 // A message the workspace needs the user to see and answer. The window shows it as a
@@ -31,22 +32,27 @@ struct SXOutputFolderChoice {
     bool openWhenDone = false;
 };
 
-// Everything the workspace asks of its front end and waits for. The core never shows anything
-// itself: the desktop window implements this with window-modal dialogs, the command-line tool
-// and the tests answer programmatically. All calls come on the main thread.
+// Everything the workspace asks of its front end. Questions are answered through a completion
+// callback, so a window can open its dialogs with open() and never spin a nested event loop; the
+// command-line tool and the tests may call the answer before returning. An answer that is never
+// called (the window went away) simply ends the question. All calls come on the main thread and
+// every answer must be called there.
 class SXWorkspacePresenter {
 public:
+    template <class T> using Answer = std::function<void(T)>;
+
     virtual ~SXWorkspacePresenter() = default;
 
-    // A modal alert; returns the index of the chosen button in alert.buttons.
-    virtual int runModalAlert(const SXAlert& alert) = 0;
+    // A modal alert; answers the index of the chosen button in alert.buttons.
+    virtual void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) = 0;
     // A sheet that only informs (nothing waits for it), such as the refusal to close a tab.
     virtual void showSheetAlert(const SXAlert& alert) = 0;
     // The output folder of a run; nothing when the user cancelled.
-    virtual std::optional<SXOutputFolderChoice>
-    chooseOutputFolder(const SXOutputFolderRequest& request) = 0;
+    virtual void chooseOutputFolder(const SXOutputFolderRequest& request,
+                                    Answer<std::optional<SXOutputFolderChoice>> chosen) = 0;
     // The format of a new container among `formats` (catalogue order); nullptr when cancelled.
-    virtual SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) = 0;
+    virtual void chooseNewFormat(const QList<SXFormatSettingPtr>& formats,
+                                 Answer<SXFormatSettingPtr> chosen) = 0;
     // The system's "refused" sound.
     virtual void beep() = 0;
     // Shows a folder in the file browser.

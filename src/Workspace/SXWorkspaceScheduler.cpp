@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QMutexLocker>
+#include <QPointer>
 #include <QRegularExpression>
 
 SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
@@ -41,10 +42,18 @@ void SXWorkspaceScheduler::clickStart() {
     SXLog::line(QStringLiteral("thepath = %1").arg(path));
     if (!presenter())
         return;
-    const std::optional<SXOutputFolderChoice> choice =
-        presenter()->chooseOutputFolder({path, QStringLiteral("Please choose output folder:"),
-                                         QStringLiteral("OK"), m_bOrganized, m_bOverOpen});
-    if (!choice || choice->folder.isEmpty())
+    presenter()->chooseOutputFolder(
+        {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
+         m_bOverOpen},
+        [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
+            if (guard)
+                guard->outputFolderChosen(choice);
+        });
+}
+
+void SXWorkspaceScheduler::outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice) {
+    // The dialog is window-modal, but another window may have started a run meanwhile.
+    if (!choice || choice->folder.isEmpty() || enumAppState() == AppStateConverting)
         return;
     SXSettings::setValue(SXSettingsKey::DefaultOutputPath, choice->folder);
     SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, choice->organizeByFormat);
@@ -297,5 +306,13 @@ void SXWorkspaceScheduler::didConvertOperationFinish(ConvertOperation* operation
                                   : state == CvtStateFailed ? SXProgress::Failed
                                                             : SXProgress::Done);
     }
-    requestRedraw();
+    const QString outputFile = operation->strOutFilePath();
+    QMetaObject::invokeMethod(
+        this,
+        [this, item, outputFile] {
+            if (item)
+                Q_EMIT itemFinished(item, outputFile);
+            Q_EMIT rowsRedrawRequested();
+        },
+        Qt::QueuedConnection);
 }

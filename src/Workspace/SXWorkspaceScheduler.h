@@ -15,7 +15,7 @@
 // on the main thread pulls the items' progress into a total until the queue has drained.
 //
 // Threads: the operation callbacks come on queue workers; they only store the item's progress
-// value and ask for a redraw on the main thread. Everything else runs on the main thread.
+// value and hand the signals to the main thread. Everything else runs on the main thread.
 class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationDelegate {
     Q_OBJECT
 public:
@@ -65,10 +65,15 @@ Q_SIGNALS:
     void totalProgressChanged(double percent);
     // A run has drained. Emitted before the state returns to idle (that change is queued).
     void runFinished(const QString& summary, int succeeded, int failed);
+    // One conversion has ended (done, failed or cancelled: the item's record says which);
+    // `outputFile` is the file it wrote, or the folder it was to write into when it never got
+    // that far.
+    void itemFinished(const SXMusicInfoPtr& item, const QString& outputFile);
     // A row asked for the tag editor of its item.
     void metadataEditorRequested(const SXMusicInfoPtr& item);
 
 private:
+    void outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice);
     void refreshTimeFired();
     void refreshUIOnMainThreadWhenConvert();
     void finishRun();

@@ -9,23 +9,26 @@
 // Answers the workspace the way a user would, and remembers what it was asked.
 class WorkspaceTestPresenter : public SXWorkspacePresenter {
 public:
-    int runModalAlert(const SXAlert& alert) override {
+    void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) override {
         alerts.append(alert);
-        return alertAnswer;
+        chosenButton(alertAnswer);
     }
     void showSheetAlert(const SXAlert& alert) override { sheets.append(alert); }
-    std::optional<SXOutputFolderChoice>
-    chooseOutputFolder(const SXOutputFolderRequest& request) override {
+    void chooseOutputFolder(const SXOutputFolderRequest& request,
+                            Answer<std::optional<SXOutputFolderChoice>> chosen) override {
         folderRequests.append(request);
-        return folderAnswer;
+        chosen(folderAnswer);
     }
-    SXFormatSettingPtr chooseNewFormat(const QList<SXFormatSettingPtr>& formats) override {
+    void chooseNewFormat(const QList<SXFormatSettingPtr>& formats,
+                         Answer<SXFormatSettingPtr> chosen) override {
         offeredFormats = formats;
         for (const SXFormatSettingPtr& format : formats) {
-            if (format->fmtName() == formatAnswer)
-                return format;
+            if (format->fmtName() == formatAnswer) {
+                chosen(format);
+                return;
+            }
         }
-        return nullptr;
+        chosen(nullptr);
     }
     void beep() override { ++beeps; }
     void openFolder(const QString& path) override { openedFolders.append(path); }
@@ -60,4 +63,11 @@ inline QStringList fileNames(const SXMusicInfoList& items) {
     for (const SXMusicInfoPtr& item : items)
         names.append(QFileInfo(item->strFilePath()).fileName());
     return names;
+}
+
+// Whether the workspace agreed to close; the test presenter answers at once.
+template <class Workspace> bool closes(Workspace& workspace) {
+    bool mayClose = false;
+    workspace.windowShouldClose([&mayClose](bool answer) { mayClose = answer; });
+    return mayClose;
 }

@@ -113,11 +113,11 @@ void TestWorkspaceLists::windowLifecycle() {
     QSignalSpy closing(&workspace, &SXWorkspace::lastWorkspaceClosing);
     {
         SXWorkspace other;
-        QVERIFY(other.windowShouldClose());
+        QVERIFY(closes(other));
         QVERIFY(m_presenter.alerts.isEmpty());
     }
     m_presenter.alertAnswer = 0; // "Cancel"
-    QVERIFY(!workspace.windowShouldClose());
+    QVERIFY(!closes(workspace));
     QCOMPARE(
         alertTexts(m_presenter.alerts.last()),
         (QStringList{u"Warnning"_s, u"Do you want to close all window without save information?"_s,
@@ -125,7 +125,7 @@ void TestWorkspaceLists::windowLifecycle() {
     QCOMPARE(workspace.getTotalNeedConvertMusic(), 1);
     QCOMPARE(closing.count(), 0);
     m_presenter.alertAnswer = 1; // "OK"
-    QVERIFY(workspace.windowShouldClose());
+    QVERIFY(closes(workspace));
     QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
     QCOMPARE(workspace.tabLabels(), fixed);
     QCOMPARE(closing.count(), 1);

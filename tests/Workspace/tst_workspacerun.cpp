@@ -107,6 +107,7 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
     QSignalSpy totals(&workspace, &SXWorkspace::totalProgressChanged);
     QSignalSpy redraws(&workspace, &SXWorkspace::rowsRedrawRequested);
+    QSignalSpy itemsDone(&workspace, &SXWorkspace::itemFinished);
     workspace.clickStart();
     QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
     QCOMPARE(workspace.queueConvertTask()->maxConcurrentOperationCount(), 3);
@@ -158,6 +159,12 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QCOMPARE(QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
              (QStringList{u"AAC"_s, u"FLAC"_s, u"MP3"_s}));
     QCOMPARE(filesIn(folder + u"/AAC"_s), QStringList{u"m44.m4a"_s});
+    // Each item announced its end once, with the file it wrote.
+    QStringList outputs;
+    for (const QList<QVariant>& done : std::as_const(itemsDone))
+        outputs.append(QDir(folder).relativeFilePath(done.at(1).toString()));
+    outputs.sort();
+    QCOMPARE(outputs, (QStringList{u"AAC/m44.m4a"_s, u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
 
     // The open flag came from the chooser: off again, nothing is opened.
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, false};
@@ -251,6 +258,17 @@ void TestWorkspaceRun::emptyRunEndsAtTheFirstRefresh() {
     QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(states.size(), 2);
     QVERIFY(std::isnan(workspace.getTotalConvertProgress()));
+
+    // A state set twice is announced twice, each time with its item: a preview moving on
+    // from row to row stays AppStatePlaying.
+    const SXMusicInfoPtr first = makeWorkspaceItem(u"/x/1.wav"_s, u"MP3"_s);
+    const SXMusicInfoPtr second = makeWorkspaceItem(u"/x/2.wav"_s, u"MP3"_s);
+    workspace.setAppState(AppStatePlaying, first);
+    workspace.setAppState(AppStatePlaying, second);
+    QCOMPARE(states.size(), 4);
+    QCOMPARE(states.at(2).at(1).value<SXMusicInfoPtr>(), first);
+    QCOMPARE(states.at(3).at(1).value<SXMusicInfoPtr>(), second);
+    QCOMPARE(workspace.appStateItem(), second);
 }
 
 void TestWorkspaceRun::totalProgressWeights() {
