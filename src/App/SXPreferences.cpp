@@ -1,0 +1,72 @@
+#include "App/SXPreferences.h"
+
+#include "Shared/SXBundle.h"
+#include "Shared/SXSettings.h"
+
+namespace {
+const QString kMainWindowGeometry = QStringLiteral("SXMainWindowGeometry");
+const QString kWebsite = QStringLiteral("https://sonoria.app");
+const QString kSupportAddress = QStringLiteral("support@sonoria.app");
+} // namespace
+
+QStringList SXPreferences::maxTasksTitles() {
+    return {QStringLiteral("2"), QStringLiteral("5"), QStringLiteral("10")};
+}
+
+int SXPreferences::maxTasksIndex() {
+    return int(maxTasksTitles().indexOf(
+        QString::number(SXSettings::integerForKey(SXSettingsKey::MaxTask))));
+}
+
+void SXPreferences::clickMaxTasks(const QString& chosenTitle) {
+    SXSettings::setValue(SXSettingsKey::MaxTask, chosenTitle.toInt());
+    SXSettings::synchronize();
+}
+
+QStringList SXPreferences::iTunesFmtTitles() {
+    return {QStringLiteral("AAC"), QStringLiteral("MP3")};
+}
+
+int SXPreferences::iTunesFmtIndex() {
+    return SXSettings::stringForKey(SXSettingsKey::iTunesFmt) == QLatin1String("AAC") ? 0 : 1;
+}
+
+void SXPreferences::clickiTunesFmt(int chosenIndex) {
+    SXSettings::setValue(SXSettingsKey::iTunesFmt,
+                         chosenIndex == 0 ? QStringLiteral("AAC") : QStringLiteral("MP3"));
+    SXSettings::synchronize();
+}
+
+QString SXPreferences::playlistName() {
+    return SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+}
+
+void SXPreferences::controlTextDidChange(const QString& text) {
+    SXSettings::setValue(SXSettingsKey::iTunesPlaylistName, text);
+    SXSettings::synchronize();
+}
+
+QByteArray SXPreferences::mainWindowGeometry() {
+    return QByteArray::fromBase64(SXSettings::stringForKey(kMainWindowGeometry).toLatin1());
+}
+
+void SXPreferences::setMainWindowGeometry(const QByteArray& geometry) {
+    SXSettings::setValue(kMainWindowGeometry, QString::fromLatin1(geometry.toBase64()));
+    SXSettings::synchronize();
+}
+
+QUrl SXPreferences::helpPageUrl() {
+    return QUrl(kWebsite + QStringLiteral("/help"));
+}
+
+QUrl SXPreferences::websiteUrl() {
+    return QUrl(kWebsite);
+}
+
+QUrl SXPreferences::feedbackMailUrl() {
+    QUrl url(QStringLiteral("mailto:") + kSupportAddress);
+    url.setQuery(QStringLiteral("subject=") +
+                 QString::fromLatin1(QUrl::toPercentEncoding(
+                     QStringLiteral("About %1").arg(SXBundle::productName()))));
+    return url;
+}

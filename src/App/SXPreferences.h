@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+#include <QUrl>
+
+// What the preferences window shows and stores, and the program's other small per-user values
+// that the window layer needs. Every change is written at once; there is no OK button.
+class SXPreferences {
+public:
+    // The maximum-tasks pop-up offers "2", "5" and "10"; any other stored number selects none.
+    static QStringList maxTasksTitles();
+    static int maxTasksIndex(); // -1 for a stored value that is not offered
+    // Stores the number the chosen title reads as.
+    static void clickMaxTasks(const QString& chosenTitle);
+
+    // The library format pop-up: index 0 stands for "AAC", 1 for "MP3".
+    static QStringList iTunesFmtTitles();
+    static int iTunesFmtIndex();
+    static void clickiTunesFmt(int chosenIndex);
+
+    static QString playlistName();
+    // Every keystroke of the playlist field is stored as the whole text.
+    static void controlTextDidChange(const QString& text);
+
+    // The size and place of the workspace window between runs (Qt's geometry bytes).
+    static QByteArray mainWindowGeometry();
+    static void setMainWindowGeometry(const QByteArray& geometry);
+
+    // Where the Help menu leads: the documentation page, the web site and a feedback mail with
+    // the subject "About Sonoria".
+    static QUrl helpPageUrl();
+    static QUrl websiteUrl();
+    static QUrl feedbackMailUrl();
+};

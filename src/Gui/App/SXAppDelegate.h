@@ -1,0 +1,52 @@
+#pragma once
+
+#include "Workspace/SXCommandValidation.h"
+
+#include <QObject>
+#include <QPointer>
+
+class MacAppHelper;
+class SXMainAppController;
+class SXMenuHandleCltr;
+class SXPreferenceCtlr;
+class SXWorkspace;
+
+// The application: starts the program in its fixed order, keeps the one primary workspace
+// window (revived by "New Container", never replaced), routes every menu command to the
+// workspace window that is key, and keeps the menus validated.
+class SXAppDelegate final : public QObject {
+    Q_OBJECT
+public:
+    explicit SXAppDelegate(QObject* parent = nullptr);
+    ~SXAppDelegate() override;
+
+    // The whole start-up: the window first, then the preference defaults, then the default
+    // output folder and the start-up requests (only when `contactService`). `files` go into the
+    // selected container.
+    void start(const QStringList& files, bool contactService = true);
+
+    SXMainAppController* coreMainWndCtlr() const;
+    SXMenuHandleCltr& menus() const { return *m_menus; }
+    SXPreferenceCtlr* preferenceCltr() const;
+    // The workspace window whose window is key, if any.
+    SXMainAppController* keyWindowController() const;
+
+    void perform(SXCommand command);
+    void clickNewWindow();
+    void clickPreference();
+    void configerMenuForState(bool open);
+    bool isCoreControllerIsKeyWindow() const;
+    // Validates every menu item now; beeps only when a menu is opening.
+    void validateMenus(bool menuOpening = false);
+
+private:
+    void newWindow();
+    void applicationDidFinishLaunching(bool contactService);
+    void clickCloseTab(SXMainAppController* key);
+
+    SXMenuHandleCltr* m_menus = nullptr;
+    QPointer<SXMainAppController> m_coreMainWndCtlr;
+    QPointer<SXPreferenceCtlr> m_preferenceCltr;
+    MacAppHelper* m_appHelper = nullptr;
+    bool m_primaryOpen = true;
+};

@@ -1,0 +1,89 @@
+#include "Gui/App/SXMenuHandleCltr.h"
+
+#include <QAction>
+#include <QMainWindow>
+#include <QMenuBar>
+
+namespace {
+// Commands after which a separator follows in their menu.
+constexpr SXCommand kSeparatorAfter[] = {SXCommand::CloseTab, SXCommand::Preferences,
+                                         SXCommand::Clear, SXCommand::PreviousContainer};
+} // namespace
+
+SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
+    : QObject(parent) {
+    make(SXCommand::NewContainer, QStringLiteral("New Container"),
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
+    make(SXCommand::Open, QStringLiteral("Open…"), QKeySequence::Open);
+    make(SXCommand::NewFormat, QStringLiteral("New Format"), QKeySequence(Qt::CTRL | Qt::Key_T));
+    make(SXCommand::CloseTab, tr("Close Container"), QKeySequence(Qt::CTRL | Qt::Key_W));
+    make(SXCommand::Preferences, tr("Preferences…"),
+         QKeySequence::keyBindings(QKeySequence::Preferences)
+             .value(0, QKeySequence(Qt::CTRL | Qt::Key_Comma)));
+    make(SXCommand::Quit, tr("Quit"), QKeySequence::Quit);
+    make(SXCommand::Delete, tr("Delete"), QKeySequence::Delete);
+    make(SXCommand::Clear, tr("Clear"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
+    make(SXCommand::NextRow, tr("Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
+    make(SXCommand::PreviousRow, tr("Previous File"), QKeySequence(Qt::ALT | Qt::Key_Up));
+    make(SXCommand::NextContainer, tr("Next Container"), QKeySequence(Qt::CTRL | Qt::Key_Tab));
+    make(SXCommand::PreviousContainer, tr("Previous Container"),
+         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab));
+    make(SXCommand::TagEditor, tr("Edit Tags…"), QKeySequence(Qt::CTRL | Qt::Key_E));
+    make(SXCommand::FileInfo, tr("File Information"), QKeySequence(Qt::CTRL | Qt::Key_I));
+    make(SXCommand::Start, tr("Start"), QKeySequence(Qt::CTRL | Qt::Key_Return));
+    make(SXCommand::Stop, tr("Stop"), QKeySequence(Qt::CTRL | Qt::Key_Period));
+    make(SXCommand::Help, tr("Sonoria Help"), QKeySequence::HelpContents);
+    make(SXCommand::Feedback, tr("Send Feedback…"), QKeySequence());
+    make(SXCommand::Website, tr("Sonoria Website"), QKeySequence());
+}
+
+QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
+                                const QKeySequence& shortcut) {
+    auto* action = new QAction(text, this);
+    action->setShortcut(shortcut);
+    action->setShortcutContext(Qt::WindowShortcut);
+    connect(action, &QAction::triggered, this,
+            [this, command] { Q_EMIT commandTriggered(command); });
+    m_actions.insert(command, action);
+    return action;
+}
+
+void SXMenuHandleCltr::installInto(QMainWindow& window) {
+    QMenuBar* bar = window.menuBar();
+    addMenu(bar, QStringLiteral("File"),
+            {SXCommand::NewContainer, SXCommand::Open, SXCommand::NewFormat, SXCommand::CloseTab,
+             SXCommand::Preferences, SXCommand::Quit});
+    addMenu(bar, tr("&List"),
+            {SXCommand::Delete, SXCommand::Clear, SXCommand::NextRow, SXCommand::PreviousRow,
+             SXCommand::NextContainer, SXCommand::PreviousContainer, SXCommand::TagEditor,
+             SXCommand::FileInfo});
+    addMenu(bar, tr("&Convert"), {SXCommand::Start, SXCommand::Stop});
+    addMenu(bar, tr("&Help"), {SXCommand::Help, SXCommand::Feedback, SXCommand::Website});
+    // Shortcuts of the shared actions work in every window that shows them.
+    window.addActions(m_actions.values());
+}
+
+void SXMenuHandleCltr::addMenu(QMenuBar* bar, const QString& title,
+                               const QList<SXCommand>& commands) {
+    QMenu* menu = bar->addMenu(title);
+    for (SXCommand command : commands) {
+        menu->addAction(m_actions.value(command));
+        if (std::find(std::begin(kSeparatorAfter), std::end(kSeparatorAfter), command) !=
+                std::end(kSeparatorAfter) &&
+            command != commands.last())
+            menu->addSeparator();
+    }
+    connect(menu, &QMenu::aboutToShow, this, &SXMenuHandleCltr::menuAboutToShow);
+}
+
+void SXMenuHandleCltr::validate(const SXCommandContext& context, bool menuOpening) {
+    bool beeped = false;
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
+        const SXCommandAnswer answer = sxValidateMenuCommand(it.key(), context);
+        it.value()->setEnabled(answer.enabled);
+        if (answer.beep && menuOpening && !beeped) {
+            Q_EMIT beepRequested();
+            beeped = true;
+        }
+    }
+}

@@ -1,0 +1,50 @@
+#include "Gui/Dialogs/SXPreferenceCtlr.h"
+
+#include "App/SXPreferences.h"
+
+#include <QComboBox>
+#include <QFormLayout>
+#include <QLabel>
+#include <QLineEdit>
+#include <QSignalBlocker>
+
+namespace {
+QLabel* caption(const QString& text, QWidget* buddy, QWidget* parent) {
+    auto* label = new QLabel(text, parent);
+    label->setBuddy(buddy);
+    buddy->setAccessibleName(QString(text).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    return label;
+}
+} // namespace
+
+SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
+    : QWidget(parent, Qt::Window) {
+    setObjectName(QStringLiteral("SXPreferenceCtlr"));
+    setWindowTitle(tr("Preferences"));
+    // Closing the workspace window quits even while the preferences are open.
+    setAttribute(Qt::WA_QuitOnClose, false);
+    auto* form = new QFormLayout(this);
+    pbtnMaxTasks = new QComboBox(this);
+    pbtnMaxTasks->setObjectName(QStringLiteral("pbtnMaxTasks"));
+    pbtnMaxTasks->addItems(SXPreferences::maxTasksTitles());
+    pbtniTunesFmt = new QComboBox(this);
+    pbtniTunesFmt->setObjectName(QStringLiteral("pbtniTunesFmt"));
+    pbtniTunesFmt->addItems(SXPreferences::iTunesFmtTitles());
+    fdPlaylistName = new QLineEdit(this);
+    fdPlaylistName->setObjectName(QStringLiteral("fdPlaylistName"));
+    form->addRow(caption(tr("&Conversions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
+    form->addRow(caption(tr("Music &library format:"), pbtniTunesFmt, this), pbtniTunesFmt);
+    form->addRow(caption(tr("&Playlist name:"), fdPlaylistName, this), fdPlaylistName);
+    windowDidLoad();
+
+    connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::clickMaxTasks);
+    connect(pbtniTunesFmt, &QComboBox::activated, this, &SXPreferences::clickiTunesFmt);
+    connect(fdPlaylistName, &QLineEdit::textEdited, this, &SXPreferences::controlTextDidChange);
+}
+
+void SXPreferenceCtlr::windowDidLoad() {
+    const QSignalBlocker a(pbtnMaxTasks), b(pbtniTunesFmt), c(fdPlaylistName);
+    pbtnMaxTasks->setCurrentIndex(SXPreferences::maxTasksIndex());
+    pbtniTunesFmt->setCurrentIndex(SXPreferences::iTunesFmtIndex());
+    fdPlaylistName->setText(SXPreferences::playlistName());
+}

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QWidget>
+
+class QComboBox;
+class QLineEdit;
+
+// The preferences: how many conversions run at once, the music library's format and the
+// playlist's name. A small window of its own; every change is stored at once, there is no OK.
+class SXPreferenceCtlr final : public QWidget {
+    Q_OBJECT
+public:
+    explicit SXPreferenceCtlr(QWidget* parent = nullptr);
+
+    void windowDidLoad();
+
+private:
+    QComboBox* pbtnMaxTasks = nullptr;
+    QComboBox* pbtniTunesFmt = nullptr;
+    QLineEdit* fdPlaylistName = nullptr;
+};

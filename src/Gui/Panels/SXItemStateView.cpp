@@ -1,0 +1,84 @@
+#include "Gui/Panels/SXItemStateView.h"
+
+#include "Gui/Panels/SXIcons.h"
+
+#include <QGridLayout>
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QSlider>
+
+SXItemStateView::SXItemStateView(QWidget* parent)
+    : QWidget(parent) {
+    setObjectName(QStringLiteral("stateStrip"));
+    setAccessibleName(tr("Status"));
+    setMinimumSize(260, 44);
+    setMaximumSize(400, 44);
+    _tfName = new QLabel(this);
+    _tfName->setAlignment(Qt::AlignCenter);
+    _tfPlayTime = new QLabel(this);
+    _tfMusicTime = new QLabel(this);
+    _priProgress = new QProgressBar(this);
+    _priProgress->setRange(0, 100);
+    _priProgress->setTextVisible(false);
+    _priProgress->setAccessibleName(tr("Total progress"));
+    _slider = new QSlider(Qt::Horizontal, this);
+    _slider->setRange(0, 100);
+    _slider->setAccessibleName(tr("Play position"));
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(8, 2, 8, 2);
+    grid->setVerticalSpacing(0);
+    grid->addWidget(_tfName, 0, 0, 1, 3);
+    grid->addWidget(_tfPlayTime, 1, 0);
+    grid->addWidget(_slider, 1, 1);
+    grid->addWidget(_priProgress, 1, 0, 1, 3);
+    grid->addWidget(_tfMusicTime, 1, 2);
+    connect(_slider, &QSlider::sliderMoved, this,
+            [this](int value) { Q_EMIT sliderMoved(double(value)); });
+    showLook();
+}
+
+void SXItemStateView::updateForAppState(int state, const SXMusicInfoPtr& item) {
+    m_model.updateForAppState(state, item);
+    showLook();
+}
+
+void SXItemStateView::updateConverterProgress(double percent) {
+    if (m_model.updateConverterProgress(percent))
+        showLook();
+}
+
+void SXItemStateView::musicPlayingProgress(const SXMusicInfoPtr& item, double seconds) {
+    if (m_model.musicPlayingProgress(item, seconds))
+        showLook();
+}
+
+void SXItemStateView::showLook() {
+    const SXStateStripModel::Look& look = m_model.look();
+    _tfName->setVisible(look.nameShown);
+    _tfName->setText(look.name);
+    _tfPlayTime->setVisible(look.timesShown);
+    _tfPlayTime->setText(look.playTime);
+    _tfMusicTime->setVisible(look.timesShown);
+    _tfMusicTime->setText(look.musicTime);
+    _priProgress->setVisible(look.progressShown);
+    _priProgress->setValue(int(look.progress));
+    _slider->setVisible(look.sliderShown);
+    if (!_slider->isSliderDown())
+        _slider->setValue(int(look.slider));
+    setAccessibleDescription(look.nameShown ? look.name : QString());
+    update();
+}
+
+void SXItemStateView::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::AlternateBase));
+    painter.drawRoundedRect(rect().adjusted(1, 1, -1, -1), 5, 5);
+    const SXStateStripModel::Look& look = m_model.look();
+    if (!look.nameShown && !look.progressShown) {
+        const QRect mark(rect().center() - QPoint(14, 14), QSize(28, 28));
+        SXIcons::icon(QStringLiteral("slog_small")).paint(&painter, mark);
+    }
+}

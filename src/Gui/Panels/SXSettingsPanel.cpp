@@ -1,0 +1,115 @@
+#include "Gui/Panels/SXSettingsPanel.h"
+
+#include "Desktop/SXFileManager.h"
+#include "Gui/Panels/SXIcons.h"
+#include "Gui/Panels/SXPopUps.h"
+#include "Workspace/SXSettingPanelActions.h"
+#include "Workspace/SXWorkspaceData.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
+    : QWidget(parent)
+    , m_workspace(workspace) {
+    setObjectName(QStringLiteral("settingsPanel"));
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    _popBitRate = addPopUp(tr("&Bit rate:"), QStringLiteral("popBitRate"));
+    _popSmpRate = addPopUp(tr("Sample &rate:"), QStringLiteral("popSmpRate"));
+    _popChanel = addPopUp(tr("C&hannels:"), QStringLiteral("popChanel"));
+    buildButtons();
+
+    connect(_popBitRate, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::clickPopBitRiate(m_workspace, title);
+    });
+    connect(_popSmpRate, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::clickPopSampRiate(m_workspace, title);
+    });
+    connect(_popChanel, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::clickPopChannelRiate(m_workspace, title);
+    });
+    connect(_btnAddToiTunes, &QCheckBox::clicked, this,
+            [this](bool on) { SXSettingPanelActions::clickAddToiTunes(m_workspace, on); });
+    connect(_btnSaveAsOriginal, &QCheckBox::clicked, this,
+            [this](bool on) { SXSettingPanelActions::clickSaveAsOriginal(m_workspace, on); });
+    connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
+    connect(_btnReveal, &QPushButton::clicked, this,
+            [] { SXFileManager::revealItem(SXSettingPanelActions::revealFolder()); });
+    connect(&m_workspace, &SXWorkspaceData::formatSettingShown, this,
+            &SXSettingsPanel::reflushDownPartSettingPanel);
+}
+
+QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int column = m_columns++;
+    auto* popUp = new QComboBox(this);
+    popUp->setObjectName(name);
+    popUp->setMinimumContentsLength(8);
+    popUp->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(popUp);
+    grid->addWidget(caption, 0, column);
+    grid->addWidget(popUp, 1, column);
+    return popUp;
+}
+
+void SXSettingsPanel::buildButtons() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int column = m_columns;
+    _btnAddToiTunes = new QCheckBox(tr("Add to music &library"), this);
+    _btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
+    _btnSaveAsOriginal = new QCheckBox(tr("Sa&ve as original"), this);
+    _btnSaveAsOriginal->setObjectName(QStringLiteral("btnSaveAsOriginal"));
+    _btnSavePath =
+        new QPushButton(SXIcons::icon(QStringLiteral("outputFolder"), QStringLiteral("folder")),
+                        tr("Output &Folder…"), this);
+    _btnSavePath->setObjectName(QStringLiteral("btnSavePath"));
+    _btnReveal =
+        new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),
+                        tr("Show in F&iles"), this);
+    _btnReveal->setObjectName(QStringLiteral("btnReveal"));
+    grid->addWidget(_btnAddToiTunes, 0, column);
+    grid->addWidget(_btnSaveAsOriginal, 1, column);
+    grid->addWidget(_btnSavePath, 0, column + 1);
+    grid->addWidget(_btnReveal, 1, column + 1);
+    grid->setColumnStretch(column + 2, 1);
+}
+
+void SXSettingsPanel::reflushDownPartSettingPanel(const SXFormatSettingPtr& setting) {
+    if (!setting)
+        return;
+    SXPopUps::fill(_popBitRate, setting->aryBiteRate(), setting->biteRate());
+    SXPopUps::fill(_popChanel, setting->aryChannels(), setting->channels());
+    SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
+    _btnAddToiTunes->setVisible(setting->enumAddToiTunes() != -1);
+    _btnAddToiTunes->setChecked(setting->enumAddToiTunes() == 1);
+    _btnSaveAsOriginal->setChecked(setting->isSaveAsOriginal());
+    _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
+}
+
+void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChanel, _btnAddToiTunes,
+                                         _btnSaveAsOriginal, _btnSavePath})
+        control->setEnabled(enabled);
+}
+
+void SXSettingsPanel::clickSavePath() {
+    auto* picker = new QFileDialog(window(), tr("Output Folder of This Format"), QDir::homePath());
+    picker->setAttribute(Qt::WA_DeleteOnClose);
+    picker->setObjectName(QStringLiteral("formatOutputFolder"));
+    picker->setFileMode(QFileDialog::Directory);
+    picker->setOption(QFileDialog::ShowDirsOnly);
+    picker->setWindowModality(Qt::WindowModal);
+    connect(picker, &QFileDialog::fileSelected, this, [this](const QString& folder) {
+        SXSettingPanelActions::clickSavePath(m_workspace, folder);
+        reflushDownPartSettingPanel(m_workspace.getSelectedTabFormatSetting());
+    });
+    picker->open();
+}

@@ -1,0 +1,87 @@
+#include "Gui/Window/SXContainerTabBar.h"
+
+#include "Gui/Panels/SXIcons.h"
+#include "Gui/Window/SXCountBadge.h"
+#include "Workspace/SXWorkspaceContainers.h"
+#include "Workspace/SXWorkspaceTexts.h"
+
+#include <QSignalBlocker>
+#include <QToolButton>
+
+SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* parent)
+    : QTabBar(parent)
+    , m_workspace(workspace) {
+    setObjectName(QStringLiteral("containerTabs"));
+    setAccessibleName(tr("Containers"));
+    setMovable(false);
+    setTabsClosable(true);
+    setExpanding(false);
+    setDocumentMode(true);
+    setUsesScrollButtons(true);
+    setElideMode(Qt::ElideNone);
+
+    m_addButton = new QToolButton(parent);
+    m_addButton->setObjectName(QStringLiteral("addFormat"));
+    m_addButton->setIcon(SXIcons::icon(QStringLiteral("addFormat"), QStringLiteral("list-add")));
+    m_addButton->setToolTip(QStringLiteral("Add new format"));
+    m_addButton->setAccessibleName(QStringLiteral("Add new format"));
+    m_addButton->setAutoRaise(true);
+
+    connect(this, &QTabBar::currentChanged, this, [this](int index) {
+        if (index >= 0 && index != m_workspace.selectedTabIndex())
+            m_workspace.selectTab(index);
+    });
+    connect(this, &QTabBar::tabCloseRequested, this, &SXContainerTabBar::closeRequested);
+    connect(m_addButton, &QToolButton::clicked, &m_workspace,
+            &SXWorkspaceContainers::clickAddNewFormat);
+    connect(&m_workspace, &SXWorkspaceData::tabsChanged, this, &SXContainerTabBar::showTabs);
+    connect(&m_workspace, &SXWorkspaceData::tabCountsChanged, this, &SXContainerTabBar::showCounts);
+    connect(&m_workspace, &SXWorkspaceData::appStateChanged, this,
+            &SXContainerTabBar::refreshCloseButtons);
+    showTabs(m_workspace.tabLabels(), m_workspace.selectedTabIndex());
+}
+
+void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
+    const QSignalBlocker blocker(this);
+    while (count() > labels.size())
+        removeTab(count() - 1);
+    for (int i = 0; i < labels.size(); ++i) {
+        if (i >= count())
+            addTab(labels.at(i));
+        setTabText(i, labels.at(i));
+        setTabToolTip(i, SXWorkspaceTexts::tabToolTip(
+                             m_workspace.getFormatSettingForFormatName(labels.at(i))));
+        if (!qobject_cast<SXCountBadge*>(tabButton(i, QTabBar::LeftSide)))
+            setTabButton(i, QTabBar::LeftSide, new SXCountBadge(this));
+    }
+    if (selectedIndex >= 0 && selectedIndex < count())
+        setCurrentIndex(selectedIndex);
+    m_addButton->setVisible(m_workspace.showAddBtn() &&
+                            m_workspace.enumAppState() != AppStateConverting);
+    refreshCloseButtons();
+    m_workspace.refreshTabCount();
+}
+
+void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& counts) {
+    for (int i = 0; i < labels.size() && i < count(); ++i) {
+        auto* badge = qobject_cast<SXCountBadge*>(tabButton(i, QTabBar::LeftSide));
+        if (badge)
+            badge->setCount(labels.at(i), counts.value(i));
+        setAccessibleTabName(i, SXWorkspaceTexts::tabAccessibleName(labels.at(i), counts.value(i)));
+    }
+}
+
+void SXContainerTabBar::refreshCloseButtons() {
+    const bool running = m_workspace.enumAppState() == AppStateConverting;
+    m_addButton->setVisible(m_workspace.showAddBtn() && !running);
+    for (int i = 0; i < count(); ++i) {
+        QWidget* close = tabButton(i, QTabBar::RightSide);
+        if (close)
+            close->setVisible(!running && !m_workspace.disableTabClose(tabText(i)));
+    }
+}
+
+void SXContainerTabBar::closeRequested(int index) {
+    m_workspace.selectTab(index);
+    m_workspace.closeTab();
+}

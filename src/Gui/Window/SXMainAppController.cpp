@@ -1,0 +1,205 @@
+#include "Gui/Window/SXMainAppController.h"
+
+#include "App/SXPreferences.h"
+#include "Gui/List/SXItemListView.h"
+#include "Gui/Panels/SXHelpView.h"
+#include "Gui/Panels/SXIcons.h"
+#include "Gui/Panels/SXSettingsPanel.h"
+#include "Gui/Window/SXContainerTabBar.h"
+#include "Gui/Window/SXWindowPresenter.h"
+#include "Gui/Window/SXWindowToolbar.h"
+#include "Shared/GlobalFun.h"
+#include "Workspace/SXWorkspace.h"
+#include "Workspace/SXWorkspaceTexts.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QFileDialog>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+SXMainAppController::SXMainAppController(QWidget* parent)
+    : QMainWindow(parent) {
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(QApplication::applicationDisplayName());
+    setWindowIcon(SXIcons::icon(QStringLiteral("sonoria")));
+    m_workspace = new SXWorkspace(this);
+    m_presenter = new SXWindowPresenter(*this);
+    m_workspace->setPresenter(m_presenter);
+    m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
+    m_toolbar = new SXWindowToolbar(*this, *m_workspace);
+    setCentralWidget(buildCentral());
+    connectWorkspace();
+    if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
+        resize(980, 640);
+}
+
+SXMainAppController::~SXMainAppController() {
+    // The workspace goes first: its queue may still report to a window that must be whole.
+    m_workspace->setPresenter(nullptr);
+    delete m_workspace;
+}
+
+QWidget* SXMainAppController::buildCentral() {
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    auto* tabRow = new QHBoxLayout;
+    _tabBar = new SXContainerTabBar(*m_workspace, central);
+    tabRow->addWidget(_tabBar);
+    tabRow->addWidget(_tabBar->addButton());
+    tabRow->addStretch(1);
+    layout->addLayout(tabRow);
+    _listView = new SXItemListView(*m_workspace, central);
+    layout->addWidget(_listView, 1);
+    _viewHelpBar = new SXHelpView(central);
+    layout->addWidget(_viewHelpBar);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(buildFileButtons());
+    bottom->addSpacing(16);
+    m_settingsPanel = new SXSettingsPanel(*m_workspace, central);
+    bottom->addWidget(m_settingsPanel, 1);
+    layout->addLayout(bottom);
+    return central;
+}
+
+QWidget* SXMainAppController::buildFileButtons() {
+    auto* box = new QWidget(this);
+    box->setObjectName(QStringLiteral("vOperation"));
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto button = [box, layout](const QString& text, const QString& name, const QString& own,
+                                      const QString& theme) {
+        auto* b = new QPushButton(SXIcons::icon(own, theme), text, box);
+        b->setObjectName(name);
+        layout->addWidget(b);
+        return b;
+    };
+    _btnAddFile = button(tr("&Add Files…"), QStringLiteral("btnAddFile"), QStringLiteral("addFile"),
+                         QStringLiteral("list-add"));
+    _btnDelete = button(tr("&Delete"), QStringLiteral("btnDelete"), QStringLiteral("deleteFile"),
+                        QStringLiteral("list-remove"));
+    _btnClear = button(tr("C&lear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
+                       QStringLiteral("edit-clear-all"));
+    connect(_btnAddFile, &QPushButton::clicked, this, &SXMainAppController::clickAddFiles);
+    connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::clickDeleteFile);
+    connect(_btnClear, &QPushButton::clicked, m_workspace, &SXWorkspace::clickClear);
+    return box;
+}
+
+void SXMainAppController::connectWorkspace() {
+    SXWorkspace* ws = m_workspace;
+    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::refreshListView);
+    connect(ws, &SXWorkspace::tabCountsChanged, this, &SXMainAppController::refreshListView);
+    connect(ws, &SXWorkspace::appStateChanged, this, [this](int state) {
+        setSettingPanelEnable(sxSettingPanelEnabled(state));
+        refreshListView();
+    });
+    connect(m_toolbar, &SXWindowToolbar::commandTriggered, this, &SXMainAppController::perform);
+    connect(ws, &SXWorkspace::appStateChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::selectionChanged, this,
+            &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::tabsChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::tabCountsChanged, this,
+            &SXMainAppController::validationInputsChanged);
+}
+
+void SXMainAppController::refreshListView() {
+    const bool removable = sxRemoveButtonsEnabled(m_workspace->getCurentTabMusicCount());
+    _btnDelete->setEnabled(removable);
+    _btnClear->setEnabled(removable);
+    _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(*m_workspace));
+}
+
+void SXMainAppController::setSettingPanelEnable(bool enabled) {
+    _btnAddFile->setEnabled(enabled);
+    m_settingsPanel->setSettingPanelEnable(enabled);
+}
+
+void SXMainAppController::perform(SXCommand command) {
+    SXWorkspace& ws = *m_workspace;
+    switch (command) {
+    case SXCommand::Open:
+        clickAddFiles();
+        break;
+    case SXCommand::NewFormat:
+        ws.clickAddNewFormat();
+        break;
+    case SXCommand::CloseTab:
+        ws.closeTab(); // beeps for a fixed container
+        break;
+    case SXCommand::Delete:
+        ws.clickDeleteFile();
+        break;
+    case SXCommand::Clear:
+        ws.clickClear();
+        break;
+    case SXCommand::NextRow:
+        ws.moveSelectedTo(-1);
+        break;
+    case SXCommand::PreviousRow:
+        ws.moveSelectedTo(1);
+        break;
+    case SXCommand::NextContainer:
+        ws.moveTabSelectedTo(-1);
+        break;
+    case SXCommand::PreviousContainer:
+        ws.moveTabSelectedTo(1);
+        break;
+    case SXCommand::Start:
+    case SXCommand::Stop:
+        ws.clickStart(); // one toggle: Stop during a run
+        break;
+    case SXCommand::TagEditor:
+        if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
+            ws.didMyListViewCellRightButtonClick(items.first());
+        break;
+    default:
+        Q_EMIT applicationCommand(command);
+        break;
+    }
+}
+
+void SXMainAppController::clickAddFiles() {
+    QStringList patterns;
+    for (const QString& ext : GlobalFun::getSupportedFmts())
+        patterns.append(QStringLiteral("*.") + ext);
+    auto* dialog = new QFileDialog(this, tr("Add Files"));
+    dialog->setObjectName(QStringLiteral("openFiles"));
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->setWindowModality(Qt::WindowModal);
+    dialog->setFileMode(QFileDialog::ExistingFiles);
+    dialog->setNameFilter(tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))));
+    connect(dialog, &QFileDialog::filesSelected, m_workspace, &SXWorkspace::loadAndParseFiles);
+    dialog->open();
+}
+
+void SXMainAppController::closeEvent(QCloseEvent* event) {
+    if (m_closeApproved) {
+        m_closeApproved = false;
+        SXPreferences::setMainWindowGeometry(saveGeometry());
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (m_closeAsked)
+        return;
+    m_closeAsked = true;
+    m_workspace->windowShouldClose([this](bool mayClose) {
+        m_closeAsked = false;
+        if (!mayClose)
+            return;
+        m_closeApproved = true;
+        // Not from inside the close event that asked: close once it has returned.
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    });
+}
+
+void SXMainAppController::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange)
+        Q_EMIT validationInputsChanged();
+}

@@ -1,0 +1,80 @@
+#include "Gui/Window/SXWindowPresenter.h"
+
+#include "Desktop/SXFileManager.h"
+#include "Gui/Dialogs/SXFmtsChooseWndCtlr.h"
+#include "Gui/Dialogs/SXOutputFolderDialog.h"
+#include "Workspace/SXFormatChooser.h"
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QPushButton>
+
+namespace {
+
+QMessageBox* messageBox(QWidget& window, const SXAlert& alert, QMessageBox::Icon icon) {
+    auto* box = new QMessageBox(&window);
+    box->setAttribute(Qt::WA_DeleteOnClose);
+    box->setWindowModality(Qt::WindowModal);
+    box->setWindowTitle(QApplication::applicationDisplayName());
+    box->setIcon(icon);
+    box->setText(alert.messageText);
+    box->setInformativeText(alert.informativeText);
+    const QStringList buttons =
+        alert.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : alert.buttons;
+    for (int i = 0; i < buttons.size(); ++i) {
+        QPushButton* button = box->addButton(buttons.at(i), QMessageBox::AcceptRole);
+        button->setProperty("sxIndex", i);
+        if (i == 0)
+            box->setDefaultButton(button);
+        // Escape answers like the default button: the safe choice comes first.
+        if (i == 0)
+            box->setEscapeButton(button);
+    }
+    return box;
+}
+
+} // namespace
+
+SXWindowPresenter::SXWindowPresenter(QWidget& window)
+    : QObject(&window)
+    , m_window(window) {}
+
+void SXWindowPresenter::runModalAlert(const SXAlert& alert, Answer<int> chosenButton) {
+    QMessageBox* box = messageBox(m_window, alert, QMessageBox::Information);
+    connect(box, &QMessageBox::finished, this, [box, chosenButton] {
+        const QAbstractButton* clicked = box->clickedButton();
+        chosenButton(clicked ? clicked->property("sxIndex").toInt() : 0);
+    });
+    box->open();
+}
+
+void SXWindowPresenter::showSheetAlert(const SXAlert& alert) {
+    messageBox(m_window, alert, QMessageBox::Warning)->open();
+}
+
+void SXWindowPresenter::chooseOutputFolder(const SXOutputFolderRequest& request,
+                                           Answer<std::optional<SXOutputFolderChoice>> chosen) {
+    auto* dialog = new SXOutputFolderDialog(request, &m_window);
+    connect(dialog, &QDialog::finished, this, [dialog, chosen](int result) {
+        chosen(result == QDialog::Accepted ? std::optional(dialog->choice()) : std::nullopt);
+    });
+    dialog->open();
+}
+
+void SXWindowPresenter::chooseNewFormat(const QList<SXFormatSettingPtr>& formats,
+                                        Answer<SXFormatSettingPtr> chosen) {
+    auto* dialog = new SXFmtsChooseWndCtlr(formats, &m_window);
+    connect(dialog, &QDialog::finished, this, [dialog, chosen](int result) {
+        chosen(result == QDialog::Accepted ? dialog->getFormatSettingResult() : nullptr);
+    });
+    dialog->open();
+}
+
+void SXWindowPresenter::beep() {
+    QApplication::beep();
+    Q_EMIT beeped();
+}
+
+void SXWindowPresenter::openFolder(const QString& path) {
+    SXFileManager::openFolder(path);
+}

@@ -1,0 +1,95 @@
+#include "Workspace/SXCommandValidation.h"
+
+#include "Model/SXDataEngine.h"
+#include "Workspace/SXWorkspace.h"
+
+SXCommandContext SXCommandContext::of(const SXWorkspace* primary, const SXWorkspace* key,
+                                      bool primaryOpen) {
+    SXCommandContext context;
+    if (primary) {
+        context.state = primary->enumAppState();
+        context.count = primary->getCurentTabMusicCount();
+        context.primaryIsKey = primary->isKeyWindow();
+    }
+    if (key) {
+        context.hasKeyWorkspace = true;
+        context.keyHasSelection = key->isSelectedMusic();
+        context.keySelectedFormat = key->getSelectedMusicFormat();
+    }
+    context.primaryOpen = primaryOpen;
+    return context;
+}
+
+namespace {
+
+// The main menu target's own rule, before the File menu's open/closed rule.
+SXCommandAnswer validateUserInterfaceItem(SXCommand command, const SXCommandContext& context) {
+    switch (command) {
+    case SXCommand::Quit:
+    case SXCommand::Help:
+    case SXCommand::Feedback:
+    case SXCommand::Website:
+        return {true, false}; // not items of the menu target: never validated by it
+    default:
+        break;
+    }
+    if (context.state == AppStateConverting)
+        return {command == SXCommand::Stop, false};
+    switch (command) {
+    case SXCommand::Delete:
+    case SXCommand::Clear:
+    case SXCommand::NextRow:
+    case SXCommand::PreviousRow:
+    case SXCommand::Start:
+        return {context.count >= 1, false};
+    case SXCommand::TagEditor:
+    case SXCommand::FileInfo:
+        return {context.count >= 1 && context.hasKeyWorkspace && context.keyHasSelection, false};
+    case SXCommand::CloseTab: {
+        const bool fixed =
+            SXDataEngine::getCanNotRemoveFormatContainer().contains(context.keySelectedFormat);
+        return {!fixed, fixed};
+    }
+    default:
+        return {true, false};
+    }
+}
+
+} // namespace
+
+SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext& context) {
+    SXCommandAnswer answer = validateUserInterfaceItem(command, context);
+    if (command == SXCommand::NewContainer)
+        answer.enabled = answer.enabled && !context.primaryOpen;
+    else if (command == SXCommand::Open)
+        answer.enabled = answer.enabled && context.primaryOpen;
+    else if (command == SXCommand::NewFormat)
+        answer.enabled = answer.enabled && context.primaryOpen && context.primaryIsKey;
+    return answer;
+}
+
+bool sxValidateToolbarCommand(SXCommand command, int state, int totalItems, bool hasSelection) {
+    if (command == SXCommand::Start || command == SXCommand::Stop)
+        return totalItems > 0;
+    if (state == AppStateConverting)
+        return false;
+    if (command == SXCommand::TagEditor || command == SXCommand::FileInfo)
+        return hasSelection;
+    return true;
+}
+
+SXToolbarLook sxStartToolbarLook(int state) {
+    if (state == AppStateConverting)
+        return {QStringLiteral("stopConvert"), QStringLiteral("Stop"),
+                QStringLiteral("Stop convert all files")};
+    return {QStringLiteral("startConverter"), QStringLiteral("Start"),
+            QStringLiteral("Start convert all files")};
+}
+
+bool sxSettingPanelEnabled(int state) {
+    return state != AppStateConverting;
+}
+
+bool sxRemoveButtonsEnabled(int itemsInSelectedContainer) {
+    return itemsInSelectedContainer > 0;
+}

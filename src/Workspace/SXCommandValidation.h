@@ -1,0 +1,73 @@
+#pragma once
+
+#include <QString>
+
+class SXWorkspace;
+
+// The commands of the main menu and the toolbar. Menus, toolbar buttons and their shortcuts
+// share one answer, so a shortcut can never do what its greyed-out item would not.
+enum class SXCommand {
+    NewContainer,
+    Open,
+    NewFormat,
+    CloseTab,
+    Preferences,
+    Delete,
+    Clear,
+    NextRow,
+    PreviousRow,
+    NextContainer,
+    PreviousContainer,
+    TagEditor,
+    FileInfo,
+    Start,
+    Stop,
+    Quit,
+    Help,
+    Feedback,
+    Website,
+};
+
+// What validation reads of the application: the primary workspace gives the state and the count
+// of its selected container, the key workspace the selection and the selected container (the
+// two are the same window in normal use; the asymmetry is kept on purpose).
+struct SXCommandContext {
+    int state = 0; // enumAppState of the primary workspace
+    int count = 0; // items in the primary workspace's selected container
+    bool hasKeyWorkspace = false;
+    bool keyHasSelection = false; // isSelectedMusic of the key workspace
+    QString keySelectedFormat;    // getSelectedMusicFormat of the key workspace
+    bool primaryOpen = true;      // the last configerMenuForState: flag
+    bool primaryIsKey = false;    // the primary workspace's window is the key window
+
+    static SXCommandContext of(const SXWorkspace* primary, const SXWorkspace* key,
+                               bool primaryOpen);
+};
+
+struct SXCommandAnswer {
+    bool enabled = true;
+    bool beep = false; // validating this item sounds the system beep
+};
+
+// A menu item: the main menu's validation, then the File menu's open/closed rule ("New
+// Container" only while the primary window is closed; "Open…" and "New Format" only while it is
+// open) and, for "New Format", the primary window being key. The beep is for a menu that opens.
+SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext& context);
+
+// The image, label and tool tip of a toolbar item in a state; only Start changes with it.
+struct SXToolbarLook {
+    QString image;
+    QString label;
+    QString toolTip;
+};
+
+// A toolbar item of a workspace window: during a run only Start (reading "Stop") is enabled;
+// Start needs at least one item in the workspace, the tag editor and file information a
+// selected row. `totalItems` counts every container of the window.
+bool sxValidateToolbarCommand(SXCommand command, int state, int totalItems, bool hasSelection);
+SXToolbarLook sxStartToolbarLook(int state);
+
+// The settings panel and Add Files follow the run; Clear and Delete follow the list's content
+// in every state (a refresh during a run enables them again, as it always has).
+bool sxSettingPanelEnabled(int state);
+bool sxRemoveButtonsEnabled(int itemsInSelectedContainer);

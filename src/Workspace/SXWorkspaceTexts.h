@@ -1,0 +1,21 @@
+#pragma once
+
+#include "Model/SXFormatSetting.h"
+
+#include <QString>
+
+class SXWorkspaceData;
+
+// The short texts a workspace window shows about itself, shared by every front end.
+class SXWorkspaceTexts {
+public:
+    // "%d files, %.1f hours, %.1f MB in %d containers" over every container of the workspace;
+    // empty without items. Reads the items' cached records only, never the disk.
+    static QString helpBarText(const SXWorkspaceData& workspace);
+    // "Converter to " and the format's description; empty without a setting.
+    static QString tabToolTip(const SXFormatSettingPtr& setting);
+    // The word after a tab's count badge for a screen reader: "item" for one, else "items".
+    static QString countNoun(int count);
+    // What a screen reader says for a tab: its label and its count ("MP3, 3 items").
+    static QString tabAccessibleName(const QString& label, int count);
+};
