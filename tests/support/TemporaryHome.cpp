@@ -34,7 +34,8 @@ void EnvironmentGuard::save(const char* name) {
         {name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name)) : std::nullopt});
 }
 
-TemporaryHome::TemporaryHome() {
+TemporaryHome::TemporaryHome()
+    : m_root(QDir::tempPath() + QStringLiteral("/sonoria-test-home-XXXXXX")) {
     m_valid = m_root.isValid() && QDir().mkpath(realHome()) && QDir().mkpath(configHome()) &&
               QDir().mkpath(dataHome());
     m_environment.set(SXHomeFolder::kRealHomeVariable, realHome());
