@@ -2,9 +2,64 @@
 # Installs what is missing, then builds and runs every test twice: a normal build and one with
 # AddressSanitizer and UndefinedBehaviorSanitizer, in separate build folders. Prints CTest's
 # summary of each and exits non-zero when anything failed.
+#
+# The tests run in a temporary home (HOME, SONORIA_HOME and the XDG folders), and the suite fails
+# when the user's real home gained or changed a file in a folder that a test could write to.
 set -uo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 "$root/scripts/setup.sh" || exit 1
+
+scratch="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-test-home.XXXXXX")" || exit 1
+trap 'rm -rf "$scratch"' EXIT
+
+# The folders of one home that the program or its tests might write to: the user folders, named
+# or as the desktop's user-dirs.dirs moves them, and the per-user configuration. Each comes with
+# what counts there: "changed" (new files and files whose size or times moved) or "new" (only
+# new entries; the desktop itself keeps rewriting files in the shared data folders).
+watched_folders() {
+    local home="$1" folder value
+    for folder in Music Videos Movies Documents .config/Sonoria; do
+        printf 'changed %s\n' "$home/$folder"
+    done
+    printf 'new %s\n' "$home/.local/share" "$home/.local/state"
+    [ -r "$home/.config/user-dirs.dirs" ] || return 0
+    sed -n 's/^[[:space:]]*XDG_[A-Z]*_DIR[[:space:]]*=[[:space:]]*"\(.*\)"[[:space:]]*$/\1/p' \
+        "$home/.config/user-dirs.dirs" | while IFS= read -r value; do
+        case "$value" in
+        '$HOME/'?*) printf 'changed %s\n' "$home/${value#'$HOME/'}" ;;
+        /*) printf 'changed %s\n' "$value" ;;
+        esac
+    done
+}
+
+# One line per entry, sorted: the home's own entries and all folders by name alone (a new one
+# counts, one whose contents changed does not), files with size and times where changes count.
+# This repository and the scratch home are left out, wherever they lie.
+home_snapshot() {
+    local home counts folder files
+    for home in "$@"; do
+        find "$home" -mindepth 1 -maxdepth 1 -printf 'entry %p\n' 2>/dev/null
+        watched_folders "$home" | while read -r counts folder; do
+            [ -d "$folder" ] || continue
+            files='file %p %s %T@ %C@\n'
+            [ "$counts" = new ] && files='file %p\n'
+            find "$folder" \( -path "$root" -o -path "$scratch" \) -prune \
+                -o -type d -printf 'folder %p\n' -o -printf "$files" 2>/dev/null
+        done
+    done | sort -u
+}
+
+real_home="$(getent passwd "$(id -u)" | cut -d: -f6)"
+homes=("$real_home")
+if [ -n "${HOME:-}" ] && [ "$HOME" != "$real_home" ]; then homes+=("$HOME"); fi
+
+# Used for the test runs only: the builds keep the user's home and so their compiler cache.
+test_environment=(
+    HOME="$scratch/home" SONORIA_HOME="$scratch/user"
+    XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share"
+    XDG_STATE_HOME="$scratch/home/.local/state" XDG_CACHE_HOME="$scratch/home/.cache"
+)
+mkdir -p "$scratch/home" "$scratch/user"
 
 status=0
 run_suite() {
@@ -18,7 +73,18 @@ run_suite() {
         return
     fi
     echo "== $name: testing"
-    if ! ctest --test-dir "$dir" --output-on-failure --timeout 900 -j 2; then
+    # Around the tests only: a build may write the compiler cache into the home.
+    home_snapshot "${homes[@]}" > "$scratch/home-before"
+    if ! env -u XDG_MUSIC_DIR -u XDG_VIDEOS_DIR -u XDG_DOCUMENTS_DIR "${test_environment[@]}" \
+        ctest --test-dir "$dir" --output-on-failure --timeout 900 -j 2; then
+        status=1
+    fi
+    home_snapshot "${homes[@]}" > "$scratch/home-after"
+    local written
+    written="$(comm -13 "$scratch/home-before" "$scratch/home-after")"
+    if [ -n "$written" ]; then
+        echo "== $name: the tests wrote into the real home (${homes[*]}):"
+        printf '%s\n' "$written" | head -n 40
         status=1
     fi
 }

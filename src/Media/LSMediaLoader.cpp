@@ -19,9 +19,10 @@ void readFileAttributes(LSMedia& media) {
     const QFileInfo info(media.filePath());
     if (!info.exists())
         return;
-    // The pattern pairs the 24-hour clock with an AM/PM marker; the panel has always shown it so.
+    // The pattern pairs the 24-hour clock with an upper-case AM/PM marker; the panel has always
+    // shown it so. In Qt's patterns "a" writes the marker in lower case, "AP" in upper case.
     media.setStrLastModified(
-        QLocale::system().toString(info.lastModified(), QStringLiteral("d/M/yy H:m a")));
+        QLocale::system().toString(info.lastModified(), QStringLiteral("d/M/yy H:m AP")));
     media.setDFileSize(double(info.size()));
 }
 

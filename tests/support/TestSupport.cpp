@@ -1,28 +1,38 @@
 #include "TestSupport.h"
 
+#include "TemporaryHome.h"
+
 #include <QCryptographicHash>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QTemporaryDir>
+
+#include <memory>
 
 namespace SonoriaTest {
 
 namespace {
-QTemporaryDir* g_configHome = nullptr;
-}
+// Removed when the process ends normally, with everything the tests left there.
+std::unique_ptr<TemporaryHome> g_home;
+} // namespace
 
 void prepareEnvironment() {
-    if (!g_configHome) {
-        g_configHome = new QTemporaryDir(); // lives until the process ends
-        qputenv("XDG_CONFIG_HOME", g_configHome->path().toLocal8Bit());
+    if (!g_home) {
+        g_home = std::make_unique<TemporaryHome>();
+        if (!g_home->isValid())
+            qFatal("no temporary home could be made");
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 
+const TemporaryHome& temporaryHome() {
+    prepareEnvironment();
+    return *g_home;
+}
+
 QString configHome() {
-    return g_configHome ? g_configHome->path() : QString();
+    return temporaryHome().configHome();
 }
 
 int run(const QString& program, const QStringList& arguments, QString* output, int timeoutMs) {

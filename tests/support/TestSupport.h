@@ -8,10 +8,14 @@
 // Shared helpers of the test executables.
 namespace SonoriaTest {
 
-// Points XDG_CONFIG_HOME (and so the settings store) at a fresh temporary folder that lives as
-// long as the process. Call before the application object exists.
+class TemporaryHome;
+
+// Moves the process into a fresh TemporaryHome that lives as long as the process: the settings
+// store, the default output folders and everything else that follows a home land there, never in
+// the user's own folders. Call before the application object exists.
 void prepareEnvironment();
-QString configHome();
+const TemporaryHome& temporaryHome();
+QString configHome(); // $XDG_CONFIG_HOME of that home, where the settings store lives
 
 // Runs a program to completion; returns its exit code (-1 when it could not start). Merged
 // output goes to *output when given.

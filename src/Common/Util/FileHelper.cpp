@@ -1,5 +1,6 @@
 #include "FileHelper.h"
 
+#include "Common/Util/SXHomeFolder.h"
 #include "Shared/GlobalFun.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXFolderVisit.h"
@@ -8,8 +9,8 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
-#include <QStandardPaths>
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
 
@@ -129,9 +130,22 @@ quint64 FileHelper::getFileSizeWithPath(const QString& path) {
 }
 
 quint64 FileHelper::getFileSystemFreeSize() {
+    return getFreeSizeOfFileSystemHolding(SXHomeFolder::processHome());
+}
+
+quint64 FileHelper::getFreeSizeOfFileSystemHolding(const QString& path) {
+    // A folder that does not exist (yet) would be made on the file system of its nearest
+    // existing parent, so that one is asked instead of reporting a full disk.
+    QString place = QDir::cleanPath(QDir::current().absoluteFilePath(path));
     struct statvfs fileSystem {};
-    if (::statvfs(QFile::encodeName(QDir::homePath()).constData(), &fileSystem) != 0)
-        return 0;
+    while (::statvfs(QFile::encodeName(place).constData(), &fileSystem) != 0) {
+        if (errno != ENOENT && errno != ENOTDIR)
+            return 0;
+        const QString parent = QFileInfo(place).path();
+        if (parent == place)
+            return 0;
+        place = parent;
+    }
     return static_cast<quint64>(fileSystem.f_bavail) * static_cast<quint64>(fileSystem.f_frsize);
 }
 
@@ -144,11 +158,11 @@ bool FileHelper::isDiskFullForFreeBytes(quint64 freeBytes) {
 }
 
 QString FileHelper::getDocumentsPath() {
-    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return SXHomeFolder::documentsFolder();
 }
 
 QString FileHelper::getLibraryPath() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+    return SXHomeFolder::dataFolder();
 }
 
 QString FileHelper::getAppPath() {

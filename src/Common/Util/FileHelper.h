@@ -28,6 +28,8 @@ public:
 
     // Bytes available to this user on the file system of $HOME; 0 when it cannot be asked.
     static quint64 getFileSystemFreeSize();
+    // The same for the file system that holds `path`, or would hold it once created.
+    static quint64 getFreeSizeOfFileSystemHolding(const QString& path);
     static bool isDiskFull();
     // Below 560 MiB counts as full.
     static bool isDiskFullForFreeBytes(quint64 freeBytes);

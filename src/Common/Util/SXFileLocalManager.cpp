@@ -1,16 +1,11 @@
 #include "SXFileLocalManager.h"
 
+#include "Common/Util/SXHomeFolder.h"
 #include "Shared/GlobalFun.h"
 #include "Shared/SXBundle.h"
 
 #include <QDir>
 #include <QFile>
-
-#include <cerrno>
-#include <vector>
-
-#include <pwd.h>
-#include <unistd.h>
 
 namespace {
 
@@ -49,19 +44,6 @@ QString SXFileLocalManager::convertedAudioDirectory() {
            QStringLiteral("/Audio Converted");
 }
 
-QString SXFileLocalManager::realHomeDirectory() {
-    long suggested = ::sysconf(_SC_GETPW_R_SIZE_MAX);
-    std::vector<char> buffer(suggested > 0 ? static_cast<size_t>(suggested) : 16384);
-    struct passwd record {};
-    struct passwd* pw = nullptr;
-    while (::getpwuid_r(::getuid(), &record, buffer.data(), buffer.size(), &pw) == ERANGE)
-        buffer.resize(buffer.size() * 2);
-    // Q_ASSERT vanishes in release builds; this stop must not.
-    if (!pw)
-        qt_assert("pw", __FILE__, __LINE__);
-    return QDir::cleanPath(QFile::decodeName(pw->pw_dir));
-}
-
 QString SXFileLocalManager::musicDirectory() {
     return userDirectory(QStringLiteral("XDG_MUSIC_DIR"), QStringLiteral("Music"));
 }
@@ -73,7 +55,7 @@ QString SXFileLocalManager::moviesDirectory() {
 QString SXFileLocalManager::userDirectory(const QString& key, const QString& fallbackName) {
     // The real home's own settings, not $XDG_CONFIG_HOME: like the home itself, the answer must
     // not depend on how this process was started.
-    const QString home = realHomeDirectory();
+    const QString home = SXHomeFolder::realHome();
     QFile config(home + QStringLiteral("/.config/user-dirs.dirs"));
     if (config.open(QIODevice::ReadOnly)) {
         const QString chosen =

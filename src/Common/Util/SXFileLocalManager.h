@@ -2,10 +2,10 @@
 
 #include <QString>
 
-// Where output goes by default. Every folder is built on the user's real home folder, taken from
-// the user database rather than from $HOME, so the defaults stay the same however the process
-// was started. "Music" and "Movies" follow the desktop's user folders (user-dirs.dirs) when it
-// names them, else they are Music and Videos under the real home.
+// Where output goes by default. Every folder is built on the user's real home folder
+// (SXHomeFolder::realHome), taken from the user database rather than from $HOME, so the defaults
+// stay the same however the process was started. "Music" and "Movies" follow the desktop's user
+// folders (user-dirs.dirs) when it names them, else they are Music and Videos under the real home.
 class SXFileLocalManager {
 public:
     // <music>/Sonoria/<fmtName>; the name is used as it stands and nothing is created.
@@ -15,9 +15,6 @@ public:
     // <videos>/Sonoria/Audio Converted; the application creates it at launch.
     static QString convertedAudioDirectory();
 
-    // Home folder of the real user id. Stops the process when the user database has no record:
-    // there is no sensible place for output then.
-    static QString realHomeDirectory();
     static QString musicDirectory();
     static QString moviesDirectory();
 

@@ -1,5 +1,7 @@
 #include "Common/Util/FileHelper.h"
 #include "Common/Util/SXFileLocalManager.h"
+#include "Common/Util/SXHomeFolder.h"
+#include "support/TemporaryHome.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -14,15 +16,20 @@ class FileUtilTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void fileOperationsNeverReplaceAnything();
-    void freeSpaceAndFullThreshold();
+    void freeSpaceFollowsProcessHome_data();
+    void freeSpaceFollowsProcessHome();
+    void fullThresholdAndLanguageFile();
     void findFileGivesNameOrFirstLevelFolder();
     void userDirsAreParsed_data();
     void userDirsAreParsed();
-    void foldersComeFromUserDatabaseNotEnvironment();
+    void realHomeComesFromUserDatabaseOrStandIn();
+    void foldersAreBuiltOnRealHomeNotEnvironment();
     void upperOutputFolderIsCreatedOnce();
 };
 
+using SonoriaTest::EnvironmentGuard;
 using SonoriaTest::readFile;
+using SonoriaTest::TemporaryHome;
 using SonoriaTest::writeFile;
 
 void FileUtilTest::fileOperationsNeverReplaceAnything() {
@@ -57,24 +64,40 @@ void FileUtilTest::fileOperationsNeverReplaceAnything() {
             !FileHelper::deleteFileWithPath(at("a.txt")));
 }
 
-void FileUtilTest::freeSpaceAndFullThreshold() {
+void FileUtilTest::freeSpaceFollowsProcessHome_data() {
+    QTest::addColumn<QString>("home");     // $HOME, or a null string for none at all
+    QTest::addColumn<QString>("measured"); // the folder whose file system must be reported
+    const QString home = SonoriaTest::temporaryHome().processHome();
+    QTest::newRow("home") << home << home;
+    QTest::newRow("missing home: its nearest parent") << home + "/gone/deeper" << home;
+    QTest::newRow("no home: the root") << QString() << QStringLiteral("/");
+}
+
+void FileUtilTest::freeSpaceFollowsProcessHome() {
+    QFETCH(QString, home);
+    QFETCH(QString, measured);
+    EnvironmentGuard environment;
+    if (home.isNull())
+        environment.unset("HOME");
+    else
+        environment.set("HOME", home);
+    // stat(1) must agree; others write meanwhile, so allow a margin.
+    QString output;
+    QCOMPARE(SonoriaTest::run("stat", {"-f", "-c", "%a %S", measured}, &output), 0);
+    const QStringList fields = output.trimmed().split(' ');
+    const double expected = fields.value(0).toDouble() * fields.value(1).toDouble();
+    const double free = static_cast<double>(FileHelper::getFileSystemFreeSize());
+    QVERIFY2(expected > 0 && qAbs(free - expected) < 256.0 * 1024 * 1024,
+             qPrintable(QStringLiteral("%1 vs %2").arg(free).arg(expected)));
+}
+
+void FileUtilTest::fullThresholdAndLanguageFile() {
     QVERIFY(!FileHelper::isDiskFullForFreeBytes(587202560ULL));
     QVERIFY(FileHelper::isDiskFullForFreeBytes(587202559ULL));
 
-    // stat(1) on $HOME's file system must agree; others write meanwhile, so allow a margin.
-    QString output;
-    QCOMPARE(SonoriaTest::run("stat", {"-f", "-c", "%a %S", QDir::homePath()}, &output), 0);
-    const QStringList fields = output.trimmed().split(' ');
-    const double expected = fields.value(0).toDouble() * fields.value(1).toDouble();
-    const double measured = static_cast<double>(FileHelper::getFileSystemFreeSize());
-    QVERIFY2(qAbs(measured - expected) < 256.0 * 1024 * 1024,
-             qPrintable(QStringLiteral("%1 vs %2").arg(measured).arg(expected)));
-
-    QTemporaryDir data;
-    qputenv("XDG_DATA_HOME", data.path().toLocal8Bit());
-    QCOMPARE(FileHelper::getLangConfigPath(), data.path() + "/Caches/lang/lang.dat");
-    QVERIFY(QFileInfo(data.path() + "/Caches/lang").isDir());
-    qunsetenv("XDG_DATA_HOME");
+    const QString data = SonoriaTest::temporaryHome().dataHome();
+    QCOMPARE(FileHelper::getLangConfigPath(), data + "/Caches/lang/lang.dat");
+    QVERIFY(QFileInfo(data + "/Caches/lang").isDir());
 }
 
 void FileUtilTest::findFileGivesNameOrFirstLevelFolder() {
@@ -116,46 +139,60 @@ void FileUtilTest::userDirsAreParsed() {
              expected);
 }
 
-void FileUtilTest::foldersComeFromUserDatabaseNotEnvironment() {
+// The lookup itself is read only: the user database's record, whatever $HOME says, unless an
+// absolute $SONORIA_HOME stands in for it.
+void FileUtilTest::realHomeComesFromUserDatabaseOrStandIn() {
     QString passwd;
     QCOMPARE(SonoriaTest::run("getent", {"passwd", QString::number(::getuid())}, &passwd), 0);
-    const QString home = passwd.trimmed().split(':').value(5);
+    const QString home = QDir::cleanPath(passwd.trimmed().split(':').value(5));
     QVERIFY(!home.isEmpty());
 
-    const QString music = SXFileLocalManager::musicDirectory();
-    const QString movies = SXFileLocalManager::moviesDirectory();
-    const QByteArray savedHome = qgetenv("HOME");
-    qputenv("HOME", "/nonexistent/elsewhere");
-    const QString realHome = SXFileLocalManager::realHomeDirectory();
-    const QString output = SXFileLocalManager::getDefaultOutputDir("AAC");
-    const QString converted = SXFileLocalManager::convertedAudioDirectory();
-    const QString musicWithOtherHome = SXFileLocalManager::musicDirectory();
-    qputenv("HOME", savedHome);
-
-    QCOMPARE(realHome, QDir::cleanPath(home));
-    QCOMPARE(musicWithOtherHome, music);
-    QCOMPARE(output, music + "/Sonoria/AAC");
-    QCOMPARE(converted, movies + "/Sonoria/Audio Converted");
+    EnvironmentGuard environment;
+    environment.set("HOME", "/nonexistent/elsewhere");
+    QCOMPARE(SXHomeFolder::fromUserDatabase(), home);
+    QCOMPARE(SXHomeFolder::realHome(), SonoriaTest::temporaryHome().realHome());
+    environment.set(SXHomeFolder::kRealHomeVariable, "/stand/in//home/");
+    QCOMPARE(SXHomeFolder::realHome(), QStringLiteral("/stand/in/home"));
+    environment.set(SXHomeFolder::kRealHomeVariable, "relative/home");
+    QCOMPARE(SXHomeFolder::realHome(), home);
+    environment.unset(SXHomeFolder::kRealHomeVariable);
+    QCOMPARE(SXHomeFolder::realHome(), home);
 }
 
+// Output folders follow the real home and its own user-dirs.dirs; neither $HOME nor
+// $XDG_CONFIG_HOME moves them.
+void FileUtilTest::foldersAreBuiltOnRealHomeNotEnvironment() {
+    TemporaryHome fresh;
+    QVERIFY(fresh.isValid());
+    const QString real = fresh.realHome();
+    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), real + "/Music/Sonoria/AAC");
+    QCOMPARE(SXFileLocalManager::convertedAudioDirectory(),
+             real + "/Videos/Sonoria/Audio Converted");
+
+    QVERIFY(writeFile(real + "/.config/user-dirs.dirs",
+                      "XDG_MUSIC_DIR=\"$HOME/Musik\"\nXDG_VIDEOS_DIR=\"/srv/films\"\n"));
+    QVERIFY(writeFile(fresh.configHome() + "/user-dirs.dirs", "XDG_MUSIC_DIR=\"$HOME/Wrong\"\n"));
+    EnvironmentGuard environment;
+    environment.set("HOME", "/nonexistent/elsewhere");
+    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), real + "/Musik/Sonoria/AAC");
+    QCOMPARE(SXFileLocalManager::convertedAudioDirectory(),
+             QStringLiteral("/srv/films/Sonoria/Audio Converted"));
+}
+
+// On a fresh account the common parent appears under the real home; asked again, nothing
+// changes.
 void FileUtilTest::upperOutputFolderIsCreatedOnce() {
-    // This touches the real home on purpose: the folder must appear there. Whatever the test
-    // creates it removes again.
-    const QString music = SXFileLocalManager::musicDirectory();
-    const QString expected = music + "/Sonoria";
-    const bool musicExisted = QFileInfo::exists(music);
-    const bool existed = QFileInfo::exists(expected);
+    TemporaryHome fresh;
+    QVERIFY(fresh.isValid());
+    const QString expected = fresh.realHome() + "/Music/Sonoria";
+    QVERIFY(!QFileInfo::exists(fresh.realHome() + "/Music"));
 
     QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
     QVERIFY(QFileInfo(expected).isDir());
     const QDateTime modified = QFileInfo(expected).lastModified();
     QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
     QCOMPARE(QFileInfo(expected).lastModified(), modified);
-
-    if (!existed)
-        QVERIFY(QDir().rmdir(expected));
-    if (!musicExisted)
-        QVERIFY(QDir().rmdir(music));
+    QVERIFY(QDir(expected).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden));
 }
 
 SONORIA_TEST_MAIN(FileUtilTest)
