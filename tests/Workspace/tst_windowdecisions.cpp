@@ -1,0 +1,241 @@
+#include "support/TestSupport.h"
+
+#include "Model/SXDataEngine.h"
+#include "Workspace/SXCommandValidation.h"
+#include "Workspace/SXFormatChooser.h"
+#include "Workspace/SXStateStripModel.h"
+#include "Workspace/SXWorkspace.h"
+#include "Workspace/SXWorkspaceTexts.h"
+
+#include "WorkspaceTestPresenter.h"
+
+using namespace Qt::StringLiterals;
+
+// The decisions a workspace window only shows: which commands are enabled in which state, the
+// chooser's result, the help bar and the state strip.
+class TestWindowDecisions : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void menuCommandsFollowTheState_data();
+    void menuCommandsFollowTheState();
+    void toolbarFollowsTheRun();
+    void chooserResultSharesListsAndKeepsNoLibrary();
+    void helpBarSumsEveryContainer();
+    void stripBarNeverGoesBackAndNamesThePreview();
+};
+
+namespace {
+
+const QList<SXCommand> kAll = {SXCommand::NewContainer,
+                               SXCommand::Open,
+                               SXCommand::NewFormat,
+                               SXCommand::CloseTab,
+                               SXCommand::Preferences,
+                               SXCommand::Delete,
+                               SXCommand::Clear,
+                               SXCommand::NextRow,
+                               SXCommand::PreviousRow,
+                               SXCommand::NextContainer,
+                               SXCommand::PreviousContainer,
+                               SXCommand::TagEditor,
+                               SXCommand::FileInfo,
+                               SXCommand::Start,
+                               SXCommand::Stop,
+                               SXCommand::Quit,
+                               SXCommand::Help};
+
+const QStringList kNames = {u"NewContainer"_s,
+                            u"Open"_s,
+                            u"NewFormat"_s,
+                            u"CloseTab"_s,
+                            u"Preferences"_s,
+                            u"Delete"_s,
+                            u"Clear"_s,
+                            u"NextRow"_s,
+                            u"PreviousRow"_s,
+                            u"NextContainer"_s,
+                            u"PreviousContainer"_s,
+                            u"TagEditor"_s,
+                            u"FileInfo"_s,
+                            u"Start"_s,
+                            u"Stop"_s,
+                            u"Quit"_s,
+                            u"Help"_s};
+
+QStringList enabledNames(const SXCommandContext& context, QStringList* beeping) {
+    QStringList enabled;
+    for (int i = 0; i < kAll.size(); ++i) {
+        const SXCommandAnswer answer = sxValidateMenuCommand(kAll.at(i), context);
+        if (answer.enabled)
+            enabled.append(kNames.at(i));
+        if (answer.beep)
+            beeping->append(kNames.at(i));
+    }
+    return enabled;
+}
+
+SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
+    const SXMusicInfoPtr item = makeWorkspaceItem(path, u"MP3"_s);
+    item->mediaInfo()->setDuration(seconds);
+    item->mediaInfo()->setDFileSize(bytes);
+    return item;
+}
+
+} // namespace
+
+void TestWindowDecisions::menuCommandsFollowTheState_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<bool>("primaryOpen");
+    QTest::addColumn<bool>("primaryIsKey");
+    QTest::addColumn<QStringList>("enabled");
+    QTest::addColumn<QStringList>("beeping");
+
+    const QStringList always{u"Quit"_s, u"Help"_s};
+    const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
+                              u"Stop"_s};
+    QTest::newRow("idle, empty fixed container")
+        << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
+        << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always << QStringList{u"CloseTab"_s};
+    QTest::newRow("idle, items, nothing selected, closable container")
+        << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
+        << QStringList{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
+                       u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s} +
+               neutral + always
+        << QStringList();
+    QTest::newRow("playing, a row selected, primary not key")
+        << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
+        << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
+                       u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
+               neutral + always
+        << QStringList{u"CloseTab"_s};
+    QTest::newRow("converting: only Stop")
+        << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
+        << QStringList{u"Stop"_s} + always << QStringList();
+    QTest::newRow("primary window closed: New Container only")
+        << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
+        << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s};
+}
+
+void TestWindowDecisions::menuCommandsFollowTheState() {
+    QFETCH(int, state);
+    QFETCH(int, count);
+    QFETCH(bool, selected);
+    QFETCH(QString, format);
+    QFETCH(bool, primaryOpen);
+    QFETCH(bool, primaryIsKey);
+    QFETCH(QStringList, enabled);
+    QFETCH(QStringList, beeping);
+    SXCommandContext context;
+    context.state = state;
+    context.count = count;
+    context.hasKeyWorkspace = true;
+    context.keyHasSelection = selected;
+    context.keySelectedFormat = format;
+    context.primaryOpen = primaryOpen;
+    context.primaryIsKey = primaryIsKey;
+    QStringList beeps;
+    QStringList got = enabledNames(context, &beeps);
+    got.sort();
+    enabled.sort();
+    QCOMPARE(got, enabled);
+    QCOMPARE(beeps, beeping);
+}
+
+void TestWindowDecisions::toolbarFollowsTheRun() {
+    // Start needs an item anywhere in the window; the editors need a selected row; a run
+    // leaves Start (reading Stop) alone enabled.
+    QVERIFY(!sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 0, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 1, false));
+    QVERIFY(!sxValidateToolbarCommand(SXCommand::TagEditor, AppStateIdle, 1, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::FileInfo, AppStatePlaying, 1, true));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Help, AppStateIdle, 0, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateConverting, 4, true));
+    for (SXCommand other :
+         {SXCommand::TagEditor, SXCommand::FileInfo, SXCommand::Preferences, SXCommand::Help})
+        QVERIFY(!sxValidateToolbarCommand(other, AppStateConverting, 4, true));
+    const SXToolbarLook stop = sxStartToolbarLook(AppStateConverting);
+    QCOMPARE((QStringList{stop.image, stop.label, stop.toolTip}),
+             (QStringList{u"stopConvert"_s, u"Stop"_s, u"Stop convert all files"_s}));
+    const SXToolbarLook start = sxStartToolbarLook(AppStateIdle);
+    QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
+             (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
+    QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
+    QVERIFY(!sxRemoveButtonsEnabled(0) && sxRemoveButtonsEnabled(1));
+}
+
+void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
+    SXDataEngine* engine = SXDataEngine::shareInstance();
+    const SXFormatSettingPtr flac = engine->getFormatWithName(u"FLAC"_s);
+    const SXFormatSettingPtr wav = engine->getFormatWithName(u"WAV"_s);
+    QVERIFY(flac && wav);
+    const SXFormatChooser chooser({flac, wav});
+    QCOMPARE(chooser.formatNames(), (QStringList{u"FLAC"_s, u"WAV"_s}));
+
+    const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
+    QCOMPARE(shown.bitRates, flac->aryBiteRate());
+    QCOMPARE(shown.sampleRate, flac->sampleRate());
+    QCOMPARE(shown.libraryVisible, flac->enumAddToiTunes() != -1);
+
+    const QString rate = flac->arySampleRate().last();
+    const SXFormatSettingPtr result = chooser.getFormatSettingResult(
+        {u"FLAC"_s, rate, flac->aryBiteRate().first(), flac->aryChannels().first(), true});
+    QVERIFY(result && result != flac);
+    QCOMPARE(result->sampleRate(), rate);
+    QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
+    result->setFmtName(u"changed"_s);
+    QCOMPARE(flac->fmtName(), u"FLAC"_s);
+    QCOMPARE(result->enumAddToiTunes(), flac->enumAddToiTunes() == -1 ? -1 : 1);
+
+    // A format without the library option keeps -1 whatever the hidden box says.
+    flac->setEnumAddToiTunes(-1);
+    const SXFormatSettingPtr none = chooser.getFormatSettingResult(
+        {u"FLAC"_s, flac->sampleRate(), flac->biteRate(), flac->channels(), true});
+    QCOMPARE(none->enumAddToiTunes(), -1);
+    QVERIFY(!chooser.changeFormatSelect(u"FLAC"_s).libraryVisible);
+    QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
+}
+
+void TestWindowDecisions::helpBarSumsEveryContainer() {
+    SXWorkspace workspace;
+    workspace.setData({}, u"AAC"_s);
+    workspace.setData({}, u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace), QString());
+    workspace.setData({itemOf(u"/x/1.wav"_s, 360, 1048576), itemOf(u"/x/2.wav"_s, 360, 1048576),
+                       itemOf(u"/x/3.wav"_s, 360, 1048576)},
+                      u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace),
+             u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
+    QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
+    QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
+}
+
+void TestWindowDecisions::stripBarNeverGoesBackAndNamesThePreview() {
+    SXStateStripModel strip;
+    QVERIFY(!strip.updateConverterProgress(10)); // hidden while idle: dropped
+    strip.updateForAppState(AppStateConverting, nullptr);
+    QCOMPARE(strip.look().name, u"Converting..."_s);
+    QVERIFY(strip.updateConverterProgress(40));
+    QVERIFY(!strip.updateConverterProgress(35));
+    QCOMPARE(strip.look().progress, 40.0);
+    strip.updateForAppState(AppStateIdle, nullptr);
+    QVERIFY(!strip.look().progressShown && strip.look().progress == 0);
+
+    // An untagged item is named by its file; progress of another item is ignored.
+    const SXMusicInfoPtr song = itemOf(u"/x/My Song.flac"_s, 125, 1);
+    strip.updateForAppState(AppStatePlaying, song);
+    QCOMPARE(strip.look().name, u"My Song"_s);
+    QCOMPARE(strip.look().musicTime, u"-00:02:05"_s);
+    QVERIFY(!strip.musicPlayingProgress(itemOf(u"/x/other.flac"_s, 10, 1), 3));
+    QVERIFY(strip.musicPlayingProgress(song, 25));
+    QCOMPARE(strip.look().slider, 20.0);
+    // Loading while previewing hides only the slider.
+    strip.updateForAppState(AppStateLoading, nullptr);
+    QVERIFY(!strip.look().sliderShown && strip.look().nameShown);
+    QCOMPARE(strip.playingMusic(), song);
+}
+
+SONORIA_TEST_MAIN(TestWindowDecisions)
+#include "tst_windowdecisions.moc"
