@@ -8,6 +8,12 @@ namespace {
 // Commands after which a separator follows in their menu.
 constexpr SXCommand kSeparatorAfter[] = {SXCommand::CloseTab, SXCommand::Preferences,
                                          SXCommand::Clear, SXCommand::PreviousContainer};
+
+// The platform's binding for a standard key when its theme has one (some have none for Quit or
+// Preferences), else the usual one of Linux desktops.
+QKeySequence standardOr(QKeySequence::StandardKey key, QKeyCombination fallback) {
+    return QKeySequence::keyBindings(key).value(0, QKeySequence(fallback));
+}
 } // namespace
 
 SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
@@ -18,9 +24,8 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::NewFormat, QStringLiteral("New Format"), QKeySequence(Qt::CTRL | Qt::Key_T));
     make(SXCommand::CloseTab, tr("Close Container"), QKeySequence(Qt::CTRL | Qt::Key_W));
     make(SXCommand::Preferences, tr("Preferences…"),
-         QKeySequence::keyBindings(QKeySequence::Preferences)
-             .value(0, QKeySequence(Qt::CTRL | Qt::Key_Comma)));
-    make(SXCommand::Quit, tr("Quit"), QKeySequence::Quit);
+         standardOr(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma));
+    make(SXCommand::Quit, tr("Quit"), standardOr(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q));
     make(SXCommand::Delete, tr("Delete"), QKeySequence::Delete);
     make(SXCommand::Clear, tr("Clear"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
     make(SXCommand::NextRow, tr("Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
@@ -32,7 +37,7 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::FileInfo, tr("File Information"), QKeySequence(Qt::CTRL | Qt::Key_I));
     make(SXCommand::Start, tr("Start"), QKeySequence(Qt::CTRL | Qt::Key_Return));
     make(SXCommand::Stop, tr("Stop"), QKeySequence(Qt::CTRL | Qt::Key_Period));
-    make(SXCommand::Help, tr("Sonoria Help"), QKeySequence::HelpContents);
+    make(SXCommand::Help, tr("Sonoria Help"), standardOr(QKeySequence::HelpContents, Qt::Key_F1));
     make(SXCommand::Feedback, tr("Send Feedback…"), QKeySequence());
     make(SXCommand::Website, tr("Sonoria Website"), QKeySequence());
 }

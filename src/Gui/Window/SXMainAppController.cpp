@@ -157,9 +157,16 @@ void SXMainAppController::perform(SXCommand command) {
         if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
             ws.didMyListViewCellRightButtonClick(items.first());
         break;
-    default:
+    case SXCommand::NewContainer:
+    case SXCommand::Preferences:
+    case SXCommand::Quit:
+    case SXCommand::Help:
+    case SXCommand::Feedback:
+    case SXCommand::Website:
         Q_EMIT applicationCommand(command);
         break;
+    case SXCommand::FileInfo:
+        break; // the information panel is not part of the window yet
     }
 }
 

@@ -24,11 +24,11 @@ QMessageBox* messageBox(QWidget& window, const SXAlert& alert, QMessageBox::Icon
     for (int i = 0; i < buttons.size(); ++i) {
         QPushButton* button = box->addButton(buttons.at(i), QMessageBox::AcceptRole);
         button->setProperty("sxIndex", i);
-        if (i == 0)
-            box->setDefaultButton(button);
         // Escape answers like the default button: the safe choice comes first.
-        if (i == 0)
+        if (i == 0) {
+            box->setDefaultButton(button);
             box->setEscapeButton(button);
+        }
     }
     return box;
 }
@@ -40,7 +40,10 @@ SXWindowPresenter::SXWindowPresenter(QWidget& window)
     , m_window(window) {}
 
 void SXWindowPresenter::runModalAlert(const SXAlert& alert, Answer<int> chosenButton) {
-    QMessageBox* box = messageBox(m_window, alert, QMessageBox::Information);
+    // A choice between answers is a warning; a lone OK only informs.
+    const QMessageBox::Icon icon =
+        alert.buttons.size() > 1 ? QMessageBox::Warning : QMessageBox::Information;
+    QMessageBox* box = messageBox(m_window, alert, icon);
     connect(box, &QMessageBox::finished, this, [box, chosenButton] {
         const QAbstractButton* clicked = box->clickedButton();
         chosenButton(clicked ? clicked->property("sxIndex").toInt() : 0);

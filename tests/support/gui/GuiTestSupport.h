@@ -20,7 +20,7 @@ void prepareGuiEnvironment();
 // The visible window-modal dialog of type T over `window` (its newest), waiting up to 5 s.
 template <class T> T* openDialog(QWidget* window) {
     T* found = nullptr;
-    QTest::qWaitFor(
+    (void)QTest::qWaitFor(
         [&] {
             const QList<T*> dialogs = window->findChildren<T*>();
             for (T* dialog : dialogs) {

@@ -1,0 +1,199 @@
+#include "App/SXPreferences.h"
+#include "Common/Util/SXFileLocalManager.h"
+#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXMenuHandleCltr.h"
+#include "Gui/Dialogs/SXPreferenceCtlr.h"
+#include "Gui/Window/SXMainAppController.h"
+#include "Gui/Window/SXWindowPresenter.h"
+#include "Model/SXDataEngine.h"
+#include "Shared/SXSettings.h"
+#include "Workspace/SXWorkspace.h"
+#include "support/TemporaryHome.h"
+#include "support/gui/GuiTestSupport.h"
+
+#include <QAction>
+#include <QDir>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace SonoriaGuiTest;
+
+// The application shell driven as a user would: start-up in an empty settings store, the
+// question before the last window closes, reviving the window, and the menus following the
+// state of the window they act on.
+class TestAppDelegate : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startUpFillsTheDefaultsAndTheOutputFolder();
+    void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers();
+    void newContainerRevivesThePrimaryWindowEmpty();
+    void menusFollowTheStateWithoutBeepingUntilAMenuOpens();
+    void menuCommandsReachTheKeyWindow();
+
+private:
+    // Adds a real two-second tone to the primary window and waits until it is listed.
+    void addTone(const QString& name);
+    QAction* action(SXCommand command) const { return m_app->menus().action(command); }
+    SXMainAppController& window() const { return *m_app->coreMainWndCtlr(); }
+
+    QTemporaryDir m_media;
+    std::unique_ptr<SXAppDelegate> m_app;
+};
+
+void TestAppDelegate::init() {
+    for (const QString& key :
+         {SXSettingsKey::MaxTask, SXSettingsKey::iTunesFmt, SXSettingsKey::iTunesPlaylistName})
+        SXSettings::removeKey(key);
+    m_app = std::make_unique<SXAppDelegate>();
+    m_app->start({}, false);
+    window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+}
+
+void TestAppDelegate::cleanup() {
+    m_app.reset();
+    QVERIFY(SXDataEngine::shareInstance()->getAllMainWndCtlr().isEmpty());
+}
+
+void TestAppDelegate::addTone(const QString& name) {
+    const QString path = m_media.filePath(name);
+    QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
+    SXWorkspace& ws = window().workspace();
+    const int before = ws.getCurentTabMusicCount();
+    ws.loadAndParseFiles({path});
+    QCOMPARE(ws.enumAppState(), int(AppStateLoading));
+    // The count grows on the loader's thread; the window hears of it when the run is over.
+    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
+    QCOMPARE(ws.getCurentTabMusicCount(), before + 1);
+}
+
+void TestAppDelegate::startUpFillsTheDefaultsAndTheOutputFolder() {
+    QVERIFY(window().isVisible());
+    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesFmt), QStringLiteral("AAC"));
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName),
+             QStringLiteral("Sonoria"));
+    const QString converted = SXFileLocalManager::convertedAudioDirectory();
+    QVERIFY2(QDir(converted).exists(), qPrintable(converted));
+    QVERIFY(converted.startsWith(SonoriaTest::temporaryHome().realHome()));
+    QVERIFY(window().workspace().isRegistered());
+    QVERIFY(window().workspace().tabLabels().size() >= 1);
+
+    // A stored choice survives the next start-up: defaults only fill what is missing.
+    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+    m_app.reset();
+    m_app = std::make_unique<SXAppDelegate>();
+    m_app->start({}, false);
+    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 2);
+}
+
+void TestAppDelegate::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
+    addTone(QStringLiteral("kept.wav"));
+    QSignalSpy closing(&window().workspace(), &SXWorkspace::lastWorkspaceClosing);
+
+    window().close();
+    QMessageBox* question = openDialog<QMessageBox>(&window());
+    QVERIFY(question);
+    QCOMPARE(
+        messageTexts(question),
+        (QStringList{QStringLiteral("Warnning"),
+                     QStringLiteral("Do you want to close all window without save information?"),
+                     QStringLiteral("Cancel"), QStringLiteral("OK")}));
+    grab(question, QStringLiteral("alert-last-window"));
+    QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
+    QTRY_VERIFY(!question->isVisible());
+    QVERIFY(window().isVisible());
+    QCOMPARE(window().workspace().getCurentTabMusicCount(), 1);
+    QCOMPARE(closing.count(), 0);
+
+    window().close();
+    question = openDialog<QMessageBox>(&window());
+    QVERIFY(question);
+    QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+    QTRY_VERIFY(!window().isVisible());
+    QCOMPARE(closing.count(), 1);
+    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
+    QVERIFY(!window().workspace().isRegistered());
+}
+
+void TestAppDelegate::newContainerRevivesThePrimaryWindowEmpty() {
+    // An empty window closes without asking.
+    window().close();
+    QTRY_VERIFY(!window().isVisible());
+    QVERIFY(action(SXCommand::NewContainer)->isEnabled());
+    QVERIFY(!action(SXCommand::Open)->isEnabled());
+    QVERIFY(!action(SXCommand::NewFormat)->isEnabled());
+
+    SXMainAppController* before = &window();
+    action(SXCommand::NewContainer)->trigger();
+    QCOMPARE(&window(), before); // the same window, never a second primary one
+    QVERIFY(window().isVisible());
+    QVERIFY(window().workspace().isRegistered());
+    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
+    QVERIFY(!window().workspace().tabLabels().isEmpty());
+    QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
+    QVERIFY(action(SXCommand::Open)->isEnabled());
+
+    // The revived window takes files again.
+    addTone(QStringLiteral("after.wav"));
+}
+
+void TestAppDelegate::menusFollowTheStateWithoutBeepingUntilAMenuOpens() {
+    SXWorkspace& ws = window().workspace();
+    QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
+
+    // Empty fixed container: nothing to delete or start, the close item refused.
+    QVERIFY(!action(SXCommand::Delete)->isEnabled());
+    QVERIFY(!action(SXCommand::Start)->isEnabled());
+    QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
+    QCOMPARE(beeps.count(), 0);
+
+    addTone(QStringLiteral("menu.wav"));
+    QVERIFY(action(SXCommand::Delete)->isEnabled());
+    QVERIFY(action(SXCommand::Start)->isEnabled());
+
+    // A run leaves only Stop among the window's items; shortcuts obey the same rule.
+    ws.setAppState(AppStateConverting);
+    for (SXCommand command : {SXCommand::Open, SXCommand::Delete, SXCommand::Start,
+                              SXCommand::NewFormat, SXCommand::Preferences})
+        QVERIFY2(!action(command)->isEnabled(), qPrintable(action(command)->text()));
+    QVERIFY(action(SXCommand::Stop)->isEnabled());
+    QVERIFY(action(SXCommand::Quit)->isEnabled());
+    ws.setAppState(AppStateIdle);
+    QVERIFY(action(SXCommand::Open)->isEnabled());
+    QCOMPARE(beeps.count(), 0);
+
+    // Opening a menu validates again, and now the fixed container's close item beeps once.
+    QMenu* fileMenu = window().menuBar()->actions().first()->menu();
+    QVERIFY(fileMenu);
+    fileMenu->popup(window().mapToGlobal(QPoint(10, 10)));
+    QTRY_VERIFY(fileMenu->isVisible());
+    grab(fileMenu, QStringLiteral("menu-file"));
+    fileMenu->close();
+    QCOMPARE(beeps.count(), 1);
+}
+
+void TestAppDelegate::menuCommandsReachTheKeyWindow() {
+    SXWorkspace& ws = window().workspace();
+    const int tabs = ws.tabLabels().size();
+    ws.moveTabSelectedTo(-1);
+    const int selected = ws.selectedTabIndex();
+    action(SXCommand::PreviousContainer)->trigger();
+    QCOMPARE(ws.selectedTabIndex(), (selected - 1 + tabs) % tabs);
+
+    // Help goes to the browser; with opening suppressed it must simply not disturb the window.
+    action(SXCommand::Help)->trigger();
+    QVERIFY(window().isVisible());
+
+    action(SXCommand::Preferences)->trigger();
+    QTRY_VERIFY(m_app->preferenceCltr() && m_app->preferenceCltr()->isVisible());
+}
+
+SONORIA_GUI_TEST_MAIN(TestAppDelegate)
+#include "tst_appdelegate.moc"
