@@ -47,6 +47,8 @@ void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) 
 }
 
 void SXWorkspace::closeAfterAnswer(bool last) {
+    // A closed window leaves nothing half-written behind.
+    abandonRun();
     if (last) {
         for (const QString& name : containerNames())
             createArrayForFormate(name);

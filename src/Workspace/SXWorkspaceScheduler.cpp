@@ -139,6 +139,21 @@ void SXWorkspaceScheduler::setConvertOperationFinshed() {
     setAppState(AppStateIdle);
 }
 
+void SXWorkspaceScheduler::abandonRun() {
+    if (enumAppState() != AppStateConverting)
+        return;
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+        _timerToRefresh = nullptr;
+    }
+    if (_queueConvertTask) {
+        clickCancelAll();
+        _queueConvertTask->waitUntilAllOperationsAreFinished();
+    }
+    setConvertOperationFinshed();
+}
+
 // --- Progress ---
 
 void SXWorkspaceScheduler::refreshTimeFired() {

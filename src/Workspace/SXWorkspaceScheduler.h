@@ -31,6 +31,10 @@ public:
     // Fraction 0..1 over every item (NaN without items).
     double getTotalConvertProgress() const;
     void clickCancelAll();
+    // Ends a run for good, without its summary: every conversion is cancelled, the children are
+    // waited for (their partial files are gone when this returns) and the state is idle. For a
+    // window that closes or a program that quits during a run.
+    void abandonRun();
     // The queued operation of `item`; when none matches, the last queued one.
     ConvertOperationPtr findOperationForMusicInfo(const SXMusicInfoPtr& item);
     // A row's right button: the tag editor when idle or playing, cancel during a run.

@@ -2,6 +2,8 @@
 
 #include "Workspace/SXWorkspaceData.h"
 
+#include <cmath>
+
 QString SXWorkspaceTexts::helpBarText(const SXWorkspaceData& workspace) {
     int files = 0;
     double seconds = 0;
@@ -32,4 +34,11 @@ QString SXWorkspaceTexts::countNoun(int count) {
 
 QString SXWorkspaceTexts::tabAccessibleName(const QString& label, int count) {
     return QStringLiteral("%1, %2 %3").arg(label).arg(count).arg(countNoun(count));
+}
+
+QString SXWorkspaceTexts::windowTitle(const QString& appName, int state, double percent) {
+    if (state != AppStateConverting)
+        return appName;
+    const int whole = std::isnan(percent) ? 0 : int(std::clamp(percent, 0.0, 100.0));
+    return QStringLiteral("%1% \u2014 %2").arg(whole).arg(appName);
 }

@@ -18,4 +18,7 @@ public:
     static QString countNoun(int count);
     // What a screen reader says for a tab: its label and its count ("MP3, 3 items").
     static QString tabAccessibleName(const QString& label, int count);
+    // The window title: the application's name, and during a run the total in whole per cent
+    // first, so that a task bar that cuts titles short still shows it ("42% — Sonoria").
+    static QString windowTitle(const QString& appName, int state, double percent);
 };

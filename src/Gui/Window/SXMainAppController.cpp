@@ -6,6 +6,7 @@
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXSettingsPanel.h"
 #include "Gui/Window/SXContainerTabBar.h"
+#include "Gui/Window/SXRunFeedback.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Gui/Window/SXWindowToolbar.h"
 #include "Shared/GlobalFun.h"
@@ -32,6 +33,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
     m_toolbar = new SXWindowToolbar(*this, *m_workspace);
     setCentralWidget(buildCentral());
+    new SXRunFeedback(*this, *m_workspace);
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);

@@ -1,0 +1,39 @@
+#include "Gui/Window/SXRunFeedback.h"
+
+#include "Desktop/SXDesktopNotifier.h"
+#include "Workspace/SXWorkspaceScheduler.h"
+#include "Workspace/SXWorkspaceTexts.h"
+
+#include <QApplication>
+#include <QWidget>
+
+SXRunFeedback::SXRunFeedback(QWidget& window, SXWorkspaceScheduler& workspace)
+    : QObject(&window)
+    , m_window(window)
+    , m_workspace(workspace) {
+    connect(&workspace, &SXWorkspaceScheduler::totalProgressChanged, this,
+            &SXRunFeedback::showProgress);
+    connect(&workspace, &SXWorkspaceData::appStateChanged, this, &SXRunFeedback::stateChanged);
+    connect(&workspace, &SXWorkspaceScheduler::runFinished, this, &SXRunFeedback::runFinished);
+}
+
+void SXRunFeedback::showProgress(double percent) {
+    const int state = m_workspace.enumAppState();
+    m_window.setWindowTitle(
+        SXWorkspaceTexts::windowTitle(QApplication::applicationDisplayName(), state, percent));
+    if (state == AppStateConverting)
+        m_launcher.showProgress(percent / 100.0);
+}
+
+void SXRunFeedback::stateChanged(int state) {
+    if (state == AppStateConverting)
+        return;
+    m_window.setWindowTitle(QApplication::applicationDisplayName());
+    m_launcher.hide();
+}
+
+void SXRunFeedback::runFinished(const QString& summary) {
+    // The summary alert is on the window already; the notification is for a user who is not.
+    if (!m_window.isActiveWindow())
+        SXDesktopNotifier::notify(tr("Conversion finished"), summary);
+}
