@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# The window converting offscreen against sonoria-cli on the same files in the same run (the two
+# alternate, medians of ROUNDS rounds), and the longest block of the window's main thread.
+#   bench/window.sh [all|ratio|block]     (ROUNDS=3 by default)
+set -euo pipefail
+root="$(cd "$(dirname "$0")/.." && pwd)"
+build="$root/build/release"
+rounds="${ROUNDS:-3}"
+which="${1:-all}"
+
+if [ ! -f "$build/build.ninja" ]; then
+    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+fi
+cmake --build "$build" --target sonoria-cli sonoria-bench-window >/dev/null
+cli="$build/cli/sonoria-cli"
+window="$build/bench/sonoria-bench-window"
+
+work="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-bench-window.XXXXXX")"
+trap 'rm -rf "$work"' EXIT
+export XDG_CONFIG_HOME="$work/config" SONORIA_HOME="$work/home"
+mkdir -p "$SONORIA_HOME"
+unset SONORIA_VERBOSE
+
+now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
+median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
+ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
+
+make_wavs() { # folder, count, seconds
+    mkdir -p "$1"
+    ffmpeg -nostdin -hide_banner -loglevel error -y -f lavfi -i "sine=f=440:d=$3" \
+        -ac 2 -ar 44100 "$1/src0001.wav"
+    for i in $(seq -f %04g 2 "$2"); do cp "$1/src0001.wav" "$1/src$i.wav"; done
+}
+
+# One window run; prints its report line (wall_ms=… longest_block_ms=…).
+window_run() { # jobs, source folder, output folder
+    rm -rf "$3"; mkdir -p "$3"
+    "$window" -f MP3 -j "$1" -o "$3" "$2"
+}
+
+bench_ratio() {
+    make_wavs "$work/wav" 200 2
+    local tc=() tw=() blocks=() t line i
+    for ((i = 1; i <= rounds; i++)); do
+        rm -rf "$work/outC"; mkdir -p "$work/outC"
+        t=$(now_ms)
+        "$cli" -f MP3 -j 2 --no-organize -o "$work/outC" "$work/wav" >/dev/null
+        tc+=($(( $(now_ms) - t )))
+        t=$(now_ms)
+        line=$(window_run 2 "$work/wav" "$work/outW")
+        tw+=($(( $(now_ms) - t )))
+        blocks+=("$(sed -n 's/.*longest_block_ms=\([0-9.]*\).*/\1/p' <<<"$line")")
+        [ "$(ls "$work/outW" | wc -l)" -eq 200 ] || { echo "window run wrote $(ls "$work/outW" | wc -l) files" >&2; exit 1; }
+    done
+    local c w
+    c=$(printf '%s\n' "${tc[@]}" | median)
+    w=$(printf '%s\n' "${tw[@]}" | median)
+    echo "200 WAV of 2 s to MP3, 2 jobs: window ${w} ms, sonoria-cli ${c} ms, ratio $(ratio "$w" "$c") (target <= 1.05)"
+    echo "    rounds: window ${tw[*]} / cli ${tc[*]}; longest main-thread block per round: ${blocks[*]} ms (target < 50)"
+}
+
+bench_block() {
+    make_wavs "$work/short" 1000 0.5
+    local line
+    line=$(window_run 5 "$work/short" "$work/outS")
+    echo "1,000 WAV of 0.5 s to MP3, 5 jobs: $line (target: longest block < 50 ms)"
+}
+
+case "$which" in
+    ratio) bench_ratio ;;
+    block) bench_block ;;
+    all) bench_ratio; bench_block ;;
+    *) echo "usage: bench/window.sh [all|ratio|block]" >&2; exit 2 ;;
+esac
