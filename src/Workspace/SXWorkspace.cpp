@@ -47,6 +47,7 @@ void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) 
 }
 
 void SXWorkspace::closeAfterAnswer(bool last) {
+    stopPreviewInContainers(containerNames());
     if (last) {
         for (const QString& name : containerNames())
             createArrayForFormate(name);

@@ -37,6 +37,7 @@ SXWorkspaceFileLists::~SXWorkspaceFileLists() {
 // --- Adding ---
 
 void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
+    stopPlayerWithRefreshUI();
     Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
     Q_EMIT loadProgressValue(0.0);
     setAppState(AppStateLoading);
@@ -188,6 +189,7 @@ void SXWorkspaceFileLists::clickDeleteFile() {
         beep();
         return;
     }
+    stopPreviewAmong(items);
     removeFile(items, getSelectedMusicFormat());
     refreshListView();
 }
@@ -198,6 +200,7 @@ void SXWorkspaceFileLists::clickClear() {
         beep();
         return;
     }
+    stopPreviewAmong(items);
     removeFile(items, getSelectedMusicFormat());
     refreshListView();
 }

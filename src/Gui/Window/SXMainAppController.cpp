@@ -6,8 +6,10 @@
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXSettingsPanel.h"
 #include "Gui/Window/SXContainerTabBar.h"
+#include "Gui/Window/SXPreviewWiring.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Gui/Window/SXWindowToolbar.h"
+#include "Player/SXAudioPlayer.h"
 #include "Shared/GlobalFun.h"
 #include "Workspace/SXWorkspace.h"
 #include "Workspace/SXWorkspaceTexts.h"
@@ -32,6 +34,8 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
     m_toolbar = new SXWindowToolbar(*this, *m_workspace);
     setCentralWidget(buildCentral());
+    m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
+    new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
