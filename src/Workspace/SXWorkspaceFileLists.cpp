@@ -227,3 +227,22 @@ SXWorkspaceFileLists::getDuplicateFiles(const SXMusicInfoList& items,
     }
     return duplicates;
 }
+
+// --- The tag editor's neighbours ---
+
+bool SXWorkspaceFileLists::isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
+                                                                   int function) const {
+    const SXMusicInfoList list = getCurTableDatasource();
+    const int index = indexMusicItem(editing, list);
+    return function == 0 ? index > 0 : index >= 0 && index < list.size() - 1;
+}
+
+SXMusicInfoPtr SXWorkspaceFileLists::metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
+                                                                     int function) {
+    const SXMusicInfoList list = getCurTableDatasource();
+    const int index = indexMusicItem(editing, list) + (function == 0 ? -1 : 1);
+    if (indexMusicItem(editing, list) < 0 || index < 0 || index >= list.size())
+        return nullptr;
+    setSelectedRows({index});
+    return list.at(index);
+}

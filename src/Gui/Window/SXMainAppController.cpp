@@ -1,6 +1,7 @@
 #include "Gui/Window/SXMainAppController.h"
 
 #include "App/SXPreferences.h"
+#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemListView.h"
 #include "Gui/Panels/SXHelpView.h"
 #include "Gui/Panels/SXIcons.h"
@@ -36,6 +37,16 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     setCentralWidget(buildCentral());
     m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
     new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
+            [this](const SXMusicInfoPtr& item) {
+                auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
+                if (!editor) {
+                    editor = new SXMetadataEditWndCtlr(this);
+                    editor->setCustomDelegate(m_workspace);
+                }
+                editor->setMusicInfo(item);
+                editor->open();
+            });
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
