@@ -3,6 +3,7 @@
 #include "App/SXPreferences.h"
 #include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemListView.h"
+#include "Gui/Panels/SXFileInfoViewController.h"
 #include "Gui/Panels/SXHelpView.h"
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXSettingsPanel.h"
@@ -37,6 +38,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     setCentralWidget(buildCentral());
     m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
     new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    new SXFileInfoViewController(*this, *m_workspace);
     connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
                 auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
@@ -171,6 +173,9 @@ void SXMainAppController::perform(SXCommand command) {
     case SXCommand::TagEditor:
         if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
             ws.didMyListViewCellRightButtonClick(items.first());
+        break;
+    case SXCommand::FileInfo:
+        findChild<SXFileInfoViewController*>()->clickInfo();
         break;
     default:
         Q_EMIT applicationCommand(command);
