@@ -43,18 +43,22 @@ void HVPlayer::showAudio() {
     m_format.setSampleRate(preferred.sampleRate() >= 8000 ? preferred.sampleRate() : 44100);
     m_format.setChannelCount(qBound(1, device.maximumChannelCount(), 2));
     m_format.setSampleFormat(QAudioFormat::Int16);
-    // Not a child: it is released with deleteLater(), possibly after this player is gone.
+    // Not a child: when it fails it is released after its own signal, maybe after this player.
     m_sink = new QAudioSink(device, m_format);
     m_sink->setVolume(m_volume);
     connect(m_sink, &QAudioSink::stateChanged, this, [this](QAudio::State state) {
         if (state == QAudio::StoppedState && m_sink && m_sink->error() != QAudio::NoError) {
+            m_inSinkSignal = true; // the sink is still emitting: it goes later
             stop();
+            m_inSinkSignal = false;
             failLater(kOpenFailed);
         }
     });
     if (!startSink()) {
-        stop();
-        failLater(kOpenFailed);
+        if (m_sink) { // not yet reported by the sink's own state change
+            stop();
+            failLater(kOpenFailed);
+        }
         return;
     }
     m_shared = std::make_shared<Shared>();
@@ -68,6 +72,8 @@ void HVPlayer::showAudio() {
 bool HVPlayer::startSink() {
     m_output = m_sink->start();
     m_written = 0;
+    if (!m_sink) // it failed and was stopped while starting
+        return false;
     if (m_paused && m_output)
         m_sink->suspend();
     return m_output && m_sink->error() == QAudio::NoError;
@@ -101,7 +107,10 @@ void HVPlayer::stop() {
         QAudioSink* sink = m_sink;
         m_sink = nullptr; // its stateChanged must not find a half-stopped player
         sink->stop();
-        sink->deleteLater();
+        if (m_inSinkSignal)
+            sink->deleteLater();
+        else
+            delete sink;
     }
     m_output = nullptr;
     m_written = 0;
@@ -152,7 +161,7 @@ void HVPlayer::seekto(double seconds) {
     // What the sink still holds belongs to the old position: start it afresh.
     m_sink->stop();
     m_base = qMax(seconds, 0.0);
-    if (!startSink()) {
+    if (m_sink && !startSink() && m_sink) {
         stop();
         failLater(kOpenFailed);
     }

@@ -76,4 +76,5 @@ private:
     double m_base = 0;    // seconds at the last start or seek
     qint64 m_written = 0; // bytes handed to the sink since then
     bool m_paused = false;
+    bool m_inSinkSignal = false;
 };
