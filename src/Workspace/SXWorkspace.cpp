@@ -47,6 +47,7 @@ void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) 
 }
 
 void SXWorkspace::closeAfterAnswer(bool last) {
+    stopPreviewInContainers(containerNames());
     // A closed window leaves nothing half-written behind.
     abandonRun();
     if (last) {

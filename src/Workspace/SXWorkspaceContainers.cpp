@@ -8,7 +8,7 @@
 #include <algorithm>
 
 SXWorkspaceContainers::SXWorkspaceContainers(QObject* parent)
-    : SXWorkspaceData(parent) {}
+    : SXWorkspacePreview(parent) {}
 
 SXWorkspaceContainers::~SXWorkspaceContainers() = default;
 
@@ -121,6 +121,7 @@ bool SXWorkspaceContainers::closeTab() {
     }
     if (!shouldCloseTab(label))
         return false;
+    stopPreviewInContainers({label});
     int next = 0;
     {
         QMutexLocker locker(&m_dataLock);

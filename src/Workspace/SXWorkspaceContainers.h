@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Workspace/SXWorkspaceData.h"
+#include "Workspace/SXWorkspacePreview.h"
 
 // The containers of one workspace as tabs: the fixed ones, those added through the format
 // chooser, selecting, neighbour moves and the rules for closing. A front end shows this; it
 // decides nothing.
-class SXWorkspaceContainers : public SXWorkspaceData {
+class SXWorkspaceContainers : public SXWorkspacePreview {
     Q_OBJECT
 public:
     explicit SXWorkspaceContainers(QObject* parent = nullptr);

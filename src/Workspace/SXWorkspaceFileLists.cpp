@@ -37,6 +37,7 @@ SXWorkspaceFileLists::~SXWorkspaceFileLists() {
 // --- Adding ---
 
 void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
+    stopPlayerWithRefreshUI();
     Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
     Q_EMIT loadProgressValue(0.0);
     setAppState(AppStateLoading);
@@ -188,6 +189,7 @@ void SXWorkspaceFileLists::clickDeleteFile() {
         beep();
         return;
     }
+    stopPreviewAmong(items);
     removeFile(items, getSelectedMusicFormat());
     refreshListView();
 }
@@ -198,6 +200,7 @@ void SXWorkspaceFileLists::clickClear() {
         beep();
         return;
     }
+    stopPreviewAmong(items);
     removeFile(items, getSelectedMusicFormat());
     refreshListView();
 }
@@ -223,4 +226,23 @@ SXWorkspaceFileLists::getDuplicateFiles(const SXMusicInfoList& items,
             duplicates.append(item);
     }
     return duplicates;
+}
+
+// --- The tag editor's neighbours ---
+
+bool SXWorkspaceFileLists::isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
+                                                                   int function) const {
+    const SXMusicInfoList list = getCurTableDatasource();
+    const int index = indexMusicItem(editing, list);
+    return function == 0 ? index > 0 : index >= 0 && index < list.size() - 1;
+}
+
+SXMusicInfoPtr SXWorkspaceFileLists::metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
+                                                                     int function) {
+    const SXMusicInfoList list = getCurTableDatasource();
+    const int index = indexMusicItem(editing, list) + (function == 0 ? -1 : 1);
+    if (indexMusicItem(editing, list) < 0 || index < 0 || index >= list.size())
+        return nullptr;
+    setSelectedRows({index});
+    return list.at(index);
 }

@@ -1,13 +1,16 @@
 #pragma once
 
 #include "Media/LSMediaLoader.h"
+#include "Workspace/SXMetadataEditing.h"
 #include "Workspace/SXWorkspaceContainers.h"
 
 #include <QByteArray>
 
 // The file lists of a workspace: adding files (an add run probes them on a loader's worker
 // thread), removing and finding items.
-class SXWorkspaceFileLists : public SXWorkspaceContainers, public LSMediaLoaderDelegate {
+class SXWorkspaceFileLists : public SXWorkspaceContainers,
+                             public LSMediaLoaderDelegate,
+                             public SXMetadataEditWndCtlrDelegate {
     Q_OBJECT
 public:
     explicit SXWorkspaceFileLists(QObject* parent = nullptr);
@@ -46,6 +49,12 @@ public:
     static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
     static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
                                              const SXMusicInfoList& inSelectedTableView);
+
+    // SXMetadataEditWndCtlrDelegate: the tag editor steps through the shown list.
+    bool isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
+                                                 int function) const override;
+    SXMusicInfoPtr metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
+                                                   int function) override;
 
 Q_SIGNALS:
     // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader

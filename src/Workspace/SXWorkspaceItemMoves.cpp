@@ -124,6 +124,14 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
     }
     refreshListView();
     SXWorkspaceNotifier::defaultCenter()->postTableViewAcceptDragIn(this, items, fromFormat);
+    // Only now: the source still compared the items by their old container when it let go.
+    // A duplicate left no copy behind, but its source item is gone all the same.
+    for (const SXMusicInfoPtr& item : items) {
+        auto moved = std::make_shared<SXMusicInfo>();
+        moved->setStrFilePath(item->strFilePath());
+        moved->setStrMusicType(toFileContainer);
+        checkAndChangePlayingMusicTypeInfo(moved);
+    }
 }
 
 void SXWorkspaceItemMoves::removeDragOutFiles(const SXMusicInfoList& dragInFiles,

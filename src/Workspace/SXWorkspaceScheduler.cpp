@@ -65,6 +65,7 @@ void SXWorkspaceScheduler::outputFolderChosen(const std::optional<SXOutputFolder
 }
 
 void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
+    stopPlayerWithRefreshUI();
     if (!_queueConvertTask)
         _queueConvertTask = std::make_unique<SXOperationQueue>();
     _queueConvertTask->setMaxConcurrentOperationCount(

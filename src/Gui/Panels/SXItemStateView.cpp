@@ -7,6 +7,7 @@
 #include <QPainter>
 #include <QProgressBar>
 #include <QSlider>
+#include <QToolButton>
 
 SXItemStateView::SXItemStateView(QWidget* parent)
     : QWidget(parent) {
@@ -25,16 +26,25 @@ SXItemStateView::SXItemStateView(QWidget* parent)
     _slider = new QSlider(Qt::Horizontal, this);
     _slider->setRange(0, 100);
     _slider->setAccessibleName(tr("Play position"));
+    m_pauseButton = new QToolButton(this);
+    m_pauseButton->setObjectName(QStringLiteral("btnPause"));
+    m_pauseButton->setAutoRaise(true);
+    m_pauseButton->setIconSize({12, 12});
+    setPaused(false);
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(8, 2, 8, 2);
     grid->setVerticalSpacing(0);
-    grid->addWidget(_tfName, 0, 0, 1, 3);
-    grid->addWidget(_tfPlayTime, 1, 0);
-    grid->addWidget(_slider, 1, 1);
-    grid->addWidget(_priProgress, 1, 0, 1, 3);
-    grid->addWidget(_tfMusicTime, 1, 2);
-    connect(_slider, &QSlider::sliderMoved, this,
-            [this](int value) { Q_EMIT sliderMoved(double(value)); });
+    grid->addWidget(_tfName, 0, 0, 1, 4);
+    grid->addWidget(m_pauseButton, 1, 0);
+    grid->addWidget(_tfPlayTime, 1, 1);
+    grid->addWidget(_slider, 1, 2);
+    grid->addWidget(_priProgress, 1, 0, 1, 4);
+    grid->addWidget(_tfMusicTime, 1, 3);
+    // Every user action on the slider (drag, click on the groove, keys) is one slider event;
+    // the position is already the new one when the action is reported.
+    connect(_slider, &QSlider::actionTriggered, this,
+            [this] { Q_EMIT sliderMoved(double(_slider->sliderPosition())); });
+    connect(m_pauseButton, &QToolButton::clicked, this, &SXItemStateView::pauseClicked);
     showLook();
 }
 
@@ -64,10 +74,20 @@ void SXItemStateView::showLook() {
     _priProgress->setVisible(look.progressShown);
     _priProgress->setValue(int(look.progress));
     _slider->setVisible(look.sliderShown);
+    m_pauseButton->setVisible(look.sliderShown);
     if (!_slider->isSliderDown())
         _slider->setValue(int(look.slider));
     setAccessibleDescription(look.nameShown ? look.name : QString());
     update();
+}
+
+void SXItemStateView::setPaused(bool paused) {
+    const QString text = paused ? tr("Resume (Shift+Space)") : tr("Pause (Shift+Space)");
+    m_pauseButton->setIcon(
+        paused ? SXIcons::icon(QStringLiteral("play"), QStringLiteral("media-playback-start"))
+               : SXIcons::icon(QStringLiteral("pause"), QStringLiteral("media-playback-pause")));
+    m_pauseButton->setToolTip(text);
+    m_pauseButton->setAccessibleName(text);
 }
 
 void SXItemStateView::paintEvent(QPaintEvent*) {

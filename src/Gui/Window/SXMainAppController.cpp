@@ -1,14 +1,18 @@
 #include "Gui/Window/SXMainAppController.h"
 
 #include "App/SXPreferences.h"
+#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemListView.h"
+#include "Gui/Panels/SXFileInfoViewController.h"
 #include "Gui/Panels/SXHelpView.h"
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXSettingsPanel.h"
 #include "Gui/Window/SXContainerTabBar.h"
+#include "Gui/Window/SXPreviewWiring.h"
 #include "Gui/Window/SXRunFeedback.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Gui/Window/SXWindowToolbar.h"
+#include "Player/SXAudioPlayer.h"
 #include "Shared/GlobalFun.h"
 #include "Workspace/SXWorkspace.h"
 #include "Workspace/SXWorkspaceTexts.h"
@@ -34,6 +38,19 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     m_toolbar = new SXWindowToolbar(*this, *m_workspace);
     setCentralWidget(buildCentral());
     new SXRunFeedback(*this, *m_workspace);
+    m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
+    new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    new SXFileInfoViewController(*this, *m_workspace);
+    connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
+            [this](const SXMusicInfoPtr& item) {
+                auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
+                if (!editor) {
+                    editor = new SXMetadataEditWndCtlr(this);
+                    editor->setCustomDelegate(m_workspace);
+                }
+                editor->setMusicInfo(item);
+                editor->open();
+            });
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
@@ -159,6 +176,9 @@ void SXMainAppController::perform(SXCommand command) {
         if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
             ws.didMyListViewCellRightButtonClick(items.first());
         break;
+    case SXCommand::FileInfo:
+        findChild<SXFileInfoViewController*>()->clickInfo();
+        break;
     case SXCommand::NewContainer:
     case SXCommand::Preferences:
     case SXCommand::Quit:
@@ -167,8 +187,6 @@ void SXMainAppController::perform(SXCommand command) {
     case SXCommand::Website:
         Q_EMIT applicationCommand(command);
         break;
-    case SXCommand::FileInfo:
-        break; // the information panel is not part of the window yet
     }
 }
 

@@ -1,0 +1,42 @@
+#include "Gui/Window/SXPreviewWiring.h"
+
+#include "Gui/Panels/SXItemStateView.h"
+#include "Workspace/SXWorkspace.h"
+
+#include <QAbstractItemView>
+#include <QElapsedTimer>
+#include <QShortcut>
+
+namespace {
+// Seconds on a steady clock, for the slider's throttle.
+double steadySeconds() {
+    static QElapsedTimer clock;
+    if (!clock.isValid())
+        clock.start();
+    return double(clock.nsecsElapsed()) / 1e9;
+}
+} // namespace
+
+SXPreviewWiring::SXPreviewWiring(QWidget& window, QAbstractItemView& list, SXItemStateView& strip,
+                                 SXWorkspace& workspace)
+    : QObject(&window) {
+    SXWorkspace* ws = &workspace;
+    connect(&list, &QAbstractItemView::doubleClicked, ws,
+            [ws](const QModelIndex& index) { ws->playRow(index.row()); });
+    auto* space = new QShortcut(QKeySequence(Qt::Key_Space), &list);
+    space->setContext(Qt::WidgetWithChildrenShortcut);
+    connect(space, &QShortcut::activated, ws, &SXWorkspace::clickPlaySelected);
+    auto* pause = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Space), &window);
+    connect(pause, &QShortcut::activated, ws, &SXWorkspace::pauseOrResumePreview);
+
+    connect(&strip, &SXItemStateView::sliderMoved, ws,
+            [ws](double percent) { ws->sliderDown(percent, steadySeconds()); });
+    connect(&strip, &SXItemStateView::pauseClicked, ws, &SXWorkspace::pauseOrResumePreview);
+    connect(ws, &SXWorkspace::previewProgress, &strip, &SXItemStateView::musicPlayingProgress);
+    connect(ws, &SXWorkspace::previewChanged, &strip,
+            [&strip, ws] { strip.setPaused(ws->isPreviewPaused()); });
+    connect(ws, &SXWorkspace::scrollToRowRequested, &list, [&list](int row) {
+        if (list.model())
+            list.scrollTo(list.model()->index(row, 0));
+    });
+}

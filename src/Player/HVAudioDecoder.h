@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+struct AVCodecContext;
+struct AVFormatContext;
+struct AVFrame;
+struct AVPacket;
+struct SwrContext;
+
+// Decodes the best audio stream of a file (a video file's sound included) into interleaved
+// signed 16-bit samples at a chosen rate and channel count, with libavformat, libavcodec and
+// libswresample: the decoder that probing already trusts. Not thread-safe; one thread uses it.
+class HVAudioDecoder {
+public:
+    HVAudioDecoder(int sampleRate, int channels);
+    ~HVAudioDecoder();
+    HVAudioDecoder(const HVAudioDecoder&) = delete;
+    HVAudioDecoder& operator=(const HVAudioDecoder&) = delete;
+
+    // False with *error set when the file has no audio the libraries can decode.
+    bool open(const QString& path, QString* error = nullptr);
+    // Seconds; 0 while unknown.
+    double duration() const { return m_duration; }
+    // The next block of samples; empty at the end of the stream (or after an error).
+    QByteArray decodeSome();
+    // Moves to `seconds` from the start; the next block starts there.
+    void seek(double seconds);
+
+    int bytesPerSecond() const { return m_sampleRate * m_channels * 2; }
+
+private:
+    bool openResampler();
+    QByteArray convertFrame();
+    QByteArray drainResampler();
+
+    int m_sampleRate;
+    int m_channels;
+    AVFormatContext* m_format = nullptr;
+    AVCodecContext* m_codec = nullptr;
+    SwrContext* m_swr = nullptr;
+    AVPacket* m_packet = nullptr;
+    AVFrame* m_frame = nullptr;
+    int m_stream = -1;
+    double m_duration = 0;
+    double m_skipUntil = 0; // after a seek, samples before the target are dropped
+    bool m_inputDone = false;
+    bool m_finished = false;
+};
