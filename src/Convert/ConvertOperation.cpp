@@ -1,5 +1,6 @@
 #include "Convert/ConvertOperation.h"
 
+#include "Convert/ConvertCommandLine.h"
 #include "Convert/ConvertOutputPath.h"
 #include "Convert/SXLibraryScript.h"
 #include "Convert/ScriptBridgeHelper.h"
@@ -15,7 +16,6 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <csignal>
@@ -24,18 +24,10 @@
 namespace {
 const QString kRingtone = QStringLiteral("ringtone");
 const QString kRingtoneEncodeExt = QStringLiteral("m4a");
-constexpr double kForceStereoAboveKbps = 192.0;
 constexpr int kSliceMs = 1000;
 // After a cancel the child was asked to stop; ffmpeg closes its file first. A child that is
 // still there after this long is killed so the run can end.
 constexpr int kStopGraceMs = 10000;
-
-QString readableList(const QStringList& list) {
-    QStringList quoted;
-    for (const QString& item : list)
-        quoted.append(QLatin1Char('"') + item + QLatin1Char('"'));
-    return QLatin1Char('(') + quoted.join(QStringLiteral(", ")) + QLatin1Char(')');
-}
 } // namespace
 
 ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
@@ -74,32 +66,12 @@ void ConvertOperation::setStrOutFilePath(const QString& path) {
 }
 
 QString ConvertOperation::ffmpegPath() {
-    const QString beside =
-        QDir::cleanPath(SXBundle::executableDirectory() + QStringLiteral("/ffmpeg"));
-    const QFileInfo info(beside);
-    if (info.isFile() && info.isExecutable())
-        return beside;
-    return QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
+    return ConvertCommandLine::ffmpegPath();
 }
 
 QStringList ConvertOperation::buildArguments(const QString& executable, const LSMedia& media,
                                              const QString& outputFile) {
-    const double bitrate = media.dAOBitrate();
-    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChanels();
-    return {executable,
-            QStringLiteral("-i"),
-            media.filePath(),
-            QStringLiteral("-vn"),
-            QStringLiteral("-acodec"),
-            media.vOACodecName(),
-            QStringLiteral("-ar"),
-            QString::number(media.dAOSamplerate(), 'f', 2),
-            QStringLiteral("-b:a"),
-            QString::number(bitrate, 'f', 2) + QLatin1Char('k'),
-            QStringLiteral("-ac"),
-            QString::number(channels),
-            QStringLiteral("-y"),
-            outputFile};
+    return ConvertCommandLine::arguments(executable, media, outputFile);
 }
 
 bool ConvertOperation::isRingtone() const {
@@ -142,7 +114,7 @@ void ConvertOperation::main() {
     chooseOutputFile(&outputFile);
     const QStringList arguments = buildArguments(ffmpeg, *media, outputFile);
     SXLog::line(QStringLiteral("tOutFile:") + outputFile);
-    SXLog::line(QStringLiteral("args:") + readableList(arguments));
+    SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
 
     if (!startChild(arguments)) {
         // Cancelled after the queue let it run but before the child started: like a waiting

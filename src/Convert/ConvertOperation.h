@@ -47,10 +47,9 @@ public:
     // Copies the source item's tags into the file at strOutFilePath().
     void handleMetadataSave();
 
-    // The argument vector of one run (element 0 is the executable), in its fixed order.
+    // The command line of one run and the ffmpeg it runs (ConvertCommandLine).
     static QStringList buildArguments(const QString& executable, const LSMedia& media,
                                       const QString& outputFile);
-    // The ffmpeg beside our own executable, else the one on PATH; empty when there is none.
     static QString ffmpegPath();
 
     // TaskWrapperController

@@ -1,5 +1,6 @@
 #include "ConvertTestSupport.h"
 
+#include "Convert/ConvertCommandLine.h"
 #include "Framework/MTEAudioFileMgr.h"
 #include "Shared/SXSettings.h"
 #include "support/LogCapture.h"
@@ -201,11 +202,11 @@ private Q_SLOTS:
         media.setDAOSamplerate(44100);
         media.setDAOBitrate(192.0);
         media.setIAOChanels(1);
-        QCOMPARE(ConvertOperation::buildArguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
+        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
                  (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
                               "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));
         media.setDAOBitrate(192.01);
-        QCOMPARE(ConvertOperation::buildArguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s).mid(9, 3),
+        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s).mid(9, 3),
                  (QStringList{"192.01k", "-ac", "2"}));
     }
 };
