@@ -6,6 +6,7 @@
 #include "Convert/ScriptBridgeHelper.h"
 #include "Convert/TaskWrapper.h"
 #include "Framework/MTEAudioFileMgr.h"
+#include "Framework/MTETagCopy.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
@@ -315,25 +316,10 @@ void ConvertOperation::handleMetadataSave() {
             QStringLiteral("CAN'T WRITE ID3 FOR FILE TYPE %1").arg(destination->eumFileType()));
         return;
     }
+    // The output gets the record and the source's other fields as its only tags.
     const SXMusicInfoPtr item = musicToConvert();
     const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
-    if (source) {
-        const QMap<QString, QString> sourceMap = source->dicMap();
-        const QMap<QString, QString> destinationMap = destination->dicMap();
-        const QMap<QString, QVariant> values = source->dicReadInfo();
-        for (auto value = values.cbegin(); value != values.cend(); ++value) {
-            // Several generic names may share one own key; the last one decides.
-            QString generic;
-            for (auto entry = sourceMap.cbegin(); entry != sourceMap.cend(); ++entry) {
-                if (entry.value() == value.key())
-                    generic = entry.key();
-            }
-            const QString destinationKey = destinationMap.value(generic);
-            if (!generic.isEmpty() && !destinationKey.isEmpty() && value.value().isValid())
-                destination->setReadInfoValue(destinationKey, value.value());
-        }
-    }
-    destination->saveNew(path);
+    MTETagCopy::copy(source.get(), *destination, path);
 }
 
 void ConvertOperation::cancel() {

@@ -44,7 +44,7 @@ public:
     void pause();
     void resume();
 
-    // Copies the source item's tags into the file at strOutFilePath().
+    // Gives the file at strOutFilePath() the source item's tags as its only tags (MTETagCopy).
     void handleMetadataSave();
 
     // The command line of one run and the ffmpeg it runs (ConvertCommandLine).

@@ -80,13 +80,6 @@ void MTEAudioFile::setStatus(int status) {
 }
 
 bool MTEAudioFile::saveNew(const QString& path, QString* error) {
-    auto fail = [error](const QString& message) {
-        if (error)
-            *error = message;
-        return false;
-    };
-    if (!d->family->canWrite())
-        return fail(QStringLiteral("tags of this kind of file cannot be written: %1").arg(path));
     QMap<QString, QVariant> values;
     {
         QMutexLocker locker(&d->lock);
@@ -96,19 +89,10 @@ bool MTEAudioFile::saveNew(const QString& path, QString* error) {
             d->loadArtwork();
         values = d->values;
     }
-    const auto ref = MTETagFileKind::open(path, false);
-    if (!ref)
-        return fail(QStringLiteral("cannot open %1 as audio").arg(path));
-    TagLib::File& file = *ref->file();
-    if (&MTETagFileKind::familyOf(file) != d->family)
-        return fail(QStringLiteral("%1 carries %2 tags, not %3")
-                        .arg(path, MTETagFileKind::familyOf(file).name(), d->family->name()));
-    if (file.readOnly())
-        return fail(QStringLiteral("%1 is not writable").arg(path));
-    d->family->apply(file, values);
-    if (!MTETagFileKind::save(file))
-        return fail(QStringLiteral("could not write the tags of %1").arg(path));
-    return true;
+    return MTETagFileKind::edit(
+        path, d->family,
+        [&values](TagLib::File& file, const MTETagFamily& family) { family.apply(file, values); },
+        error);
 }
 
 QString MTEAudioFile::strTagVersion() const {

@@ -13,6 +13,9 @@ constexpr MTEKeyTable kKeys{"Title",         "Author",       "WM/AlbumArtist", "
                             "WM/Picture"};
 static_assert(mteKeyTableComplete(kKeys));
 
+// The encoder ffmpeg names in every file it writes.
+const TagLib::String kEncoderAttribute("WM/EncodingSettings");
+
 QString nonEmpty(const QString& text) {
     return text.isEmpty() ? QString() : text;
 }
@@ -136,4 +139,26 @@ void MTETagFamilyASF::writeArtwork(TagLib::File& file, const MTEArtworkList& ima
 
 QString MTETagFamilyASF::tagVersion(TagLib::File& file) const {
     return tagOf(file) ? QStringLiteral("ASF") : QString();
+}
+
+TagLib::PropertyMap MTETagFamilyASF::addProperties(TagLib::File& file,
+                                                   const TagLib::PropertyMap& properties) const {
+    return addPropertiesTo(tagOf(file), properties);
+}
+
+void MTETagFamilyASF::removeAllButEncoder(TagLib::File& file) const {
+    TagLib::ASF::Tag* tag = tagOf(file);
+    if (!tag)
+        return;
+    // The content description holds five fields outside the attribute list.
+    tag->setTitle(TagLib::String());
+    tag->setArtist(TagLib::String());
+    tag->setCopyright(TagLib::String());
+    tag->setComment(TagLib::String());
+    tag->setRating(TagLib::String());
+    const TagLib::ASF::AttributeListMap attributes = tag->attributeListMap();
+    for (const auto& [name, values] : attributes) {
+        if (name != kEncoderAttribute)
+            tag->removeItem(name);
+    }
 }
