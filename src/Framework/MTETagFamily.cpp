@@ -69,6 +69,11 @@ TagLib::PropertyMap MTETagFamily::refusedOf(const TagLib::PropertyMap& rejected,
     return refused;
 }
 
+TagLib::String MTETagFamily::customFieldName(const TagLib::String& name) {
+    const QString text = toQString(name);
+    return toTString(text.startsWith(QLatin1String("REPLAYGAIN_")) ? text.toLower() : text);
+}
+
 MTEArtworkList MTETagFamily::artworkFromVariant(const QVariant& value) {
     if (value.metaType() == QMetaType::fromType<MTEArtworkList>())
         return value.value<MTEArtworkList>();

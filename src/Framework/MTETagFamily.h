@@ -59,6 +59,10 @@ public:
     static MTEArtworkList artworkFromVariant(const QVariant& value);
 
 protected:
+    // The name of a field of one's own choosing for the property `name`, for families that have
+    // no field of their own for it. ReplayGain fields are spelt in lower case, as the programs
+    // that write and read them there spell them.
+    static TagLib::String customFieldName(const TagLib::String& name);
     // addProperties() on `tag` (none: everything is refused). TagLib 1.13's setProperties() is
     // not virtual, so the caller names the tag's own type.
     template <typename Tag>

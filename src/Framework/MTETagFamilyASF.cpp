@@ -141,9 +141,35 @@ QString MTETagFamilyASF::tagVersion(TagLib::File& file) const {
     return tagOf(file) ? QStringLiteral("ASF") : QString();
 }
 
+TagLib::PropertyMap MTETagFamilyASF::properties(TagLib::File& file) const {
+    TagLib::PropertyMap result = MTETagFamily::properties(file);
+    TagLib::ASF::Tag* tag = tagOf(file);
+    if (!tag)
+        return result;
+    for (const TagLib::String& name : result.unsupportedData()) {
+        TagLib::StringList values;
+        for (const TagLib::ASF::Attribute& attribute : tag->attribute(name)) {
+            if (attribute.type() == TagLib::ASF::Attribute::UnicodeType)
+                values.append(attribute.toString());
+        }
+        if (!values.isEmpty() && !result.contains(name.upper()))
+            result.insert(name.upper(), values);
+    }
+    return result;
+}
+
 TagLib::PropertyMap MTETagFamilyASF::addProperties(TagLib::File& file,
                                                    const TagLib::PropertyMap& properties) const {
-    return addPropertiesTo(tagOf(file), properties);
+    TagLib::ASF::Tag* tag = tagOf(file);
+    const TagLib::PropertyMap refused = addPropertiesTo(tag, properties);
+    if (!tag)
+        return refused;
+    // Attributes take any name.
+    for (const auto& [name, values] : refused) {
+        for (const TagLib::String& value : values)
+            tag->addAttribute(customFieldName(name), TagLib::ASF::Attribute(value));
+    }
+    return {};
 }
 
 void MTETagFamilyASF::removeAllButEncoder(TagLib::File& file) const {

@@ -18,14 +18,6 @@ const TagLib::String kEncoderAtom("\251too", TagLib::String::Latin1);
 // Free-form items of iTunes' own namespace, the only custom keys MP4 accepts.
 const TagLib::String kFreeFormPrefix("----:com.apple.iTunes:");
 
-// The free-form item for a property name TagLib has no atom for. ReplayGain items are spelt in
-// lower case, as the programs that write and read them in MP4 files spell them.
-TagLib::String freeFormKey(const TagLib::String& name) {
-    const QString text = QString::fromStdString(name.to8Bit(true));
-    const QString spelt = text.startsWith(QLatin1String("REPLAYGAIN_")) ? text.toLower() : text;
-    return kFreeFormPrefix + TagLib::String(spelt.toStdString(), TagLib::String::UTF8);
-}
-
 // Another common name for the publisher, read when the file has no PUBLISHER item.
 const char* const kLabelKey = "----:com.apple.iTunes:LABEL";
 
@@ -192,6 +184,6 @@ TagLib::PropertyMap MTETagFamilyMP4::addProperties(TagLib::File& file,
     if (!tag)
         return refused;
     for (const auto& [name, values] : refused)
-        tag->setItem(freeFormKey(name), TagLib::MP4::Item(values));
+        tag->setItem(kFreeFormPrefix + customFieldName(name), TagLib::MP4::Item(values));
     return {};
 }
