@@ -1,7 +1,7 @@
 #include "Convert/ConvertOperation.h"
 
 #include "Convert/ConvertCommandLine.h"
-#include "Convert/ConvertOutputPath.h"
+#include "Convert/ConvertOutputFile.h"
 #include "Convert/SXLibraryScript.h"
 #include "Convert/ScriptBridgeHelper.h"
 #include "Convert/TaskWrapper.h"
@@ -11,11 +11,8 @@
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QMutexLocker>
 #include <QTimer>
 
@@ -66,15 +63,6 @@ void ConvertOperation::setStrOutFilePath(const QString& path) {
     m_strOutFilePath = path;
 }
 
-QString ConvertOperation::ffmpegPath() {
-    return ConvertCommandLine::ffmpegPath();
-}
-
-QStringList ConvertOperation::buildArguments(const QString& executable, const LSMedia& media,
-                                             const QString& outputFile) {
-    return ConvertCommandLine::arguments(executable, media, outputFile);
-}
-
 bool ConvertOperation::isRingtone() const {
     const SXMusicInfoPtr item = musicToConvert();
     return item && item->getStrMusicType().toLower() == kRingtone;
@@ -104,7 +92,7 @@ void ConvertOperation::main() {
         tellFinish();
         return;
     }
-    const QString ffmpeg = ffmpegPath();
+    const QString ffmpeg = ConvertCommandLine::ffmpegPath();
     if (ffmpeg.isEmpty()) {
         SXLog::line(QStringLiteral("ffmpeg not found"));
         setState(CvtStateFailed);
@@ -113,14 +101,14 @@ void ConvertOperation::main() {
     }
     QString outputFile;
     chooseOutputFile(&outputFile);
-    const QStringList arguments = buildArguments(ffmpeg, *media, outputFile);
+    const QStringList arguments = ConvertCommandLine::arguments(ffmpeg, *media, outputFile);
     SXLog::line(QStringLiteral("tOutFile:") + outputFile);
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
 
     if (!startChild(arguments)) {
         // Cancelled after the queue let it run but before the child started: like a waiting
         // operation, it reports nothing; only the name it reserved is given back.
-        removeOwnOutput(outputFile);
+        m_output.removeIfOwn(outputFile);
         return;
     }
     waitForChild();
@@ -134,27 +122,10 @@ void ConvertOperation::main() {
 }
 
 void ConvertOperation::chooseOutputFile(QString* outputFile) {
-    const SXMusicInfoPtr item = musicToConvert();
-    const LSMediaPtr media = item->mediaInfo();
-    const QString ext = isRingtone() ? kRingtoneEncodeExt : media->strOutFileExt();
-    QString name = media->strOutFileName();
-    if (!ext.isEmpty())
-        name += QLatin1Char('.') + ext;
-
-    // Always absolute: ffmpeg takes its last argument as the output, and an absolute path can
-    // never be mistaken for an option.
-    QString folder = strOutFilePath();
-    folder = folder.isEmpty() ? QFileInfo(media->filePath()).absolutePath()
-                              : QDir(folder).absolutePath();
+    const LSMediaPtr media = musicToConvert()->mediaInfo();
+    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
     setStrOutFilePath(folder);
-
-    bool reserved = false;
-    QString error;
-    *outputFile =
-        ConvertOutputPath::reserve(folder + QLatin1Char('/') + name, ext, &reserved, &error);
-    if (!reserved)
-        SXLog::line(QStringLiteral("can't create output file %1: %2").arg(*outputFile, error));
-    m_ownsOutput = reserved;
+    *outputFile = m_output.reserve(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
     setStrOutFilePath(*outputFile);
 }
 
@@ -240,7 +211,7 @@ void ConvertOperation::decideOutcome(const QString& outputFile) {
         // A cancelled run never counts as finished, even when the child managed to exit 0
         // before the cancel reached it: the user asked for no file.
         setState(CvtStateCanceled);
-        removeOwnOutput(outputFile);
+        m_output.removeIfOwn(outputFile);
         return;
     }
     if (iExitCode == 0) {
@@ -252,39 +223,20 @@ void ConvertOperation::decideOutcome(const QString& outputFile) {
         return;
     }
     setState(CvtStateFailed);
-    removeOwnOutput(outputFile);
-}
-
-void ConvertOperation::removeOwnOutput(const QString& path) {
-    // Only a file this run created: a name we could not reserve may belong to someone else.
-    if (m_ownsOutput && QFileInfo::exists(path))
-        QFile::remove(path);
-    m_ownsOutput = false;
+    m_output.removeIfOwn(outputFile);
 }
 
 void ConvertOperation::moveRingtone() {
-    const SXMusicInfoPtr item = musicToConvert();
-    const LSMediaPtr media = item->mediaInfo();
+    const LSMediaPtr media = musicToConvert()->mediaInfo();
     const int state = media->eumCvtState();
     if (state == CvtStateCanceled || state == CvtStateFailed || !isRingtone())
         return;
-    const QString current = strOutFilePath();
-    const QFileInfo info(current);
-    QString wanted = current;
-    if (!info.suffix().isEmpty())
-        wanted.chop(info.suffix().size() + 1);
-    if (!media->strOutFileExt().isEmpty())
-        wanted += QLatin1Char('.') + media->strOutFileExt();
-    if (!info.exists())
-        return;
-    QString error;
-    const QString target = ConvertOutputPath::moveWithoutReplacing(current, wanted, &error);
-    if (target.isEmpty()) {
-        SXLog::line(QStringLiteral("can't move %1 to %2: %3").arg(current, wanted, error));
+    const QString target =
+        ConvertOutputFile::moveToExtension(strOutFilePath(), media->strOutFileExt());
+    if (target.isEmpty())
         setState(CvtStateFailed);
-        return;
-    }
-    setStrOutFilePath(target);
+    else
+        setStrOutFilePath(target);
 }
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {
