@@ -5,6 +5,7 @@
 
 #include <QMultiMap>
 #include <QTemporaryDir>
+#include <array>
 #include <span>
 
 #include <taglib/attachedpictureframe.h>
@@ -44,62 +45,50 @@ QByteArray qbytes(const TagLib::ByteVector& data) {
     return QByteArray(data.data(), qsizetype(data.size()));
 }
 
-// One field of the source: the property a tagger writes, and where each output kind keeps it.
+// The output families: ID3v2 frames, MP4 atoms, Xiph comments.
+enum Family { ID3v2, MP4, Xiph };
+
+// One field of the source: the property a tagger writes, and where each family keeps it.
 struct Field {
     const char* property;
-    const char* id3v2;
-    const char* mp4;
-    const char* xiph;
+    std::array<const char*, 3> keys; // by Family
     const char* value;
 };
 const Field kFields[] = {
-    {"TITLE", "TIT2", "©nam", "TITLE", "Título — 東京"},
-    {"ARTIST", "TPE1", "©ART", "ARTIST", "The Artist"},
-    {"ALBUM", "TALB", "©alb", "ALBUM", "The Album"},
-    {"ALBUMARTIST", "TPE2", "aART", "ALBUMARTIST", "Various Artists"},
-    {"COMPOSER", "TCOM", "©wrt", "COMPOSER", "Composer Ö"},
-    {"DATE", "TDRC", "©day", "DATE", "2021"},
-    {"GENRE", "TCON", "©gen", "GENRE", "Jazz"},
-    {"TRACKNUMBER", "TRCK", "trkn", "TRACKNUMBER", "3/12"},
-    {"DISCNUMBER", "TPOS", "disk", "DISCNUMBER", "1/2"},
-    {"COPYRIGHT", "TCOP", "cprt", "COPYRIGHT", "2021 Someone"},
-    {"LABEL", "TPUB", "----:com.apple.iTunes:PUBLISHER", "PUBLISHER", "Label Records"},
-    {"COMMENT", "COMM", "©cmt", "COMMENT", "a comment"},
-    {"LYRICS", "USLT", "©lyr", "LYRICS", "La la la\nsecond line ♪"},
-    {"MUSICBRAINZ_ALBUMID", "TXXX:MusicBrainz Album Id",
-     "----:com.apple.iTunes:MusicBrainz Album Id", "MUSICBRAINZ_ALBUMID",
+    {"TITLE", {"TIT2", "©nam", "TITLE"}, "Título — 東京"},
+    {"ARTIST", {"TPE1", "©ART", "ARTIST"}, "The Artist"},
+    {"ALBUM", {"TALB", "©alb", "ALBUM"}, "The Album"},
+    {"ALBUMARTIST", {"TPE2", "aART", "ALBUMARTIST"}, "Various Artists"},
+    {"COMPOSER", {"TCOM", "©wrt", "COMPOSER"}, "Composer Ö"},
+    {"DATE", {"TDRC", "©day", "DATE"}, "2021"},
+    {"GENRE", {"TCON", "©gen", "GENRE"}, "Jazz"},
+    {"TRACKNUMBER", {"TRCK", "trkn", "TRACKNUMBER"}, "3/12"},
+    {"DISCNUMBER", {"TPOS", "disk", "DISCNUMBER"}, "1/2"},
+    {"COPYRIGHT", {"TCOP", "cprt", "COPYRIGHT"}, "2021 Someone"},
+    {"LABEL", {"TPUB", "----:com.apple.iTunes:PUBLISHER", "PUBLISHER"}, "Label Records"},
+    {"COMMENT", {"COMM", "©cmt", "COMMENT"}, "a comment"},
+    {"LYRICS", {"USLT", "©lyr", "LYRICS"}, "La la la\nsecond line ♪"},
+    {"MUSICBRAINZ_ALBUMID",
+     {"TXXX:MusicBrainz Album Id", "----:com.apple.iTunes:MusicBrainz Album Id",
+      "MUSICBRAINZ_ALBUMID"},
      "9e6ef6b1-5f7c-4d4b-8a3e-2f1c0b3a9d11"},
-    {"REPLAYGAIN_TRACK_GAIN", "TXXX:REPLAYGAIN_TRACK_GAIN",
-     "----:com.apple.iTunes:replaygain_track_gain", "REPLAYGAIN_TRACK_GAIN", "-6.50 dB"},
+    {"REPLAYGAIN_TRACK_GAIN",
+     {"TXXX:REPLAYGAIN_TRACK_GAIN", "----:com.apple.iTunes:replaygain_track_gain",
+      "REPLAYGAIN_TRACK_GAIN"},
+     "-6.50 dB"},
 };
 // A field no player knows: it stays with the source.
 const char* const kPrivateField = "PRIVATEFIELD";
 
-enum class Family { ID3v2, MP4, Xiph };
-
-QString nativeKey(const Field& field, Family family) {
-    switch (family) {
-    case Family::ID3v2:
-        return QString::fromUtf8(field.id3v2);
-    case Family::MP4:
-        return QString::fromUtf8(field.mp4);
-    case Family::Xiph:
-        return QString::fromUtf8(field.xiph);
-    }
-    return {};
-}
-
-// The encoder's name, which ffmpeg writes and which may stay.
-QString encoderKey(Family family) {
-    return family == Family::ID3v2 ? u"TSSE"_s : family == Family::MP4 ? u"©too"_s : u"ENCODER"_s;
-}
+// The encoder's name, which ffmpeg writes and which may stay, by Family.
+const std::array<const char*, 3> kEncoderKeys{"TSSE", "©too", "ENCODER"};
 
 Family familyOfExtension(const QString& extension) {
     if (extension == "mp3"_L1)
-        return Family::ID3v2;
+        return ID3v2;
     if (extension == "m4a"_L1 || extension == "m4r"_L1)
-        return Family::MP4;
-    return Family::Xiph;
+        return MP4;
+    return Xiph;
 }
 
 // What an output carries: one entry per value of every native field, and the pictures.
@@ -165,7 +154,7 @@ NativeTags readNative(const QString& path) {
             out.fields.insert(u"another tag"_s, path);
         if (file.hasID3v2Tag())
             readID3v2(*file.ID3v2Tag(), &out);
-    } else if (familyOfExtension(extension) == Family::MP4) {
+    } else if (familyOfExtension(extension) == MP4) {
         TagLib::MP4::File file(name.constData());
         readMP4(*file.tag(), &out);
     } else if (extension == "flac"_L1) {
@@ -323,7 +312,7 @@ QStringList expectedLines(Family family, Content content) {
             continue;
         const char* value =
             content == Content::Edited && property == "TITLE" ? kEditedTitle : field.value;
-        fields.insert(nativeKey(field, family), QString::fromUtf8(value));
+        fields.insert(QString::fromUtf8(field.keys[family]), QString::fromUtf8(value));
     }
     return lines(fields);
 }
@@ -403,8 +392,8 @@ private Q_SLOTS:
         const QString output = operation->strOutFilePath();
         const Family family = familyOfExtension(QFileInfo(output).suffix());
         NativeTags tags = readNative(output);
-        QVERIFY(tags.fields.count(encoderKey(family)) <= 1);
-        tags.fields.remove(encoderKey(family));
+        QVERIFY(tags.fields.count(QString::fromUtf8(kEncoderKeys[family])) <= 1);
+        tags.fields.remove(QString::fromUtf8(kEncoderKeys[family]));
         const QStringList actual = lines(tags.fields);
         const QStringList expected = expectedLines(family, content);
         QVERIFY2(actual == expected, qPrintable(difference(actual, expected)));
