@@ -1,21 +1,19 @@
 #include "Convert/ConvertOperation.h"
 
-#include "Convert/ConvertOutputPath.h"
+#include "Convert/ConvertCommandLine.h"
+#include "Convert/ConvertOutputFile.h"
 #include "Convert/SXLibraryScript.h"
 #include "Convert/ScriptBridgeHelper.h"
 #include "Convert/TaskWrapper.h"
 #include "Framework/MTEAudioFileMgr.h"
+#include "Framework/MTETagCopy.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
-#include <QFileInfo>
 #include <QMutexLocker>
-#include <QStandardPaths>
 #include <QTimer>
 
 #include <csignal>
@@ -24,18 +22,10 @@
 namespace {
 const QString kRingtone = QStringLiteral("ringtone");
 const QString kRingtoneEncodeExt = QStringLiteral("m4a");
-constexpr double kForceStereoAboveKbps = 192.0;
 constexpr int kSliceMs = 1000;
 // After a cancel the child was asked to stop; ffmpeg closes its file first. A child that is
 // still there after this long is killed so the run can end.
 constexpr int kStopGraceMs = 10000;
-
-QString readableList(const QStringList& list) {
-    QStringList quoted;
-    for (const QString& item : list)
-        quoted.append(QLatin1Char('"') + item + QLatin1Char('"'));
-    return QLatin1Char('(') + quoted.join(QStringLiteral(", ")) + QLatin1Char(')');
-}
 } // namespace
 
 ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
@@ -73,35 +63,6 @@ void ConvertOperation::setStrOutFilePath(const QString& path) {
     m_strOutFilePath = path;
 }
 
-QString ConvertOperation::ffmpegPath() {
-    const QString beside =
-        QDir::cleanPath(SXBundle::executableDirectory() + QStringLiteral("/ffmpeg"));
-    const QFileInfo info(beside);
-    if (info.isFile() && info.isExecutable())
-        return beside;
-    return QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
-}
-
-QStringList ConvertOperation::buildArguments(const QString& executable, const LSMedia& media,
-                                             const QString& outputFile) {
-    const double bitrate = media.dAOBitrate();
-    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChanels();
-    return {executable,
-            QStringLiteral("-i"),
-            media.filePath(),
-            QStringLiteral("-vn"),
-            QStringLiteral("-acodec"),
-            media.vOACodecName(),
-            QStringLiteral("-ar"),
-            QString::number(media.dAOSamplerate(), 'f', 2),
-            QStringLiteral("-b:a"),
-            QString::number(bitrate, 'f', 2) + QLatin1Char('k'),
-            QStringLiteral("-ac"),
-            QString::number(channels),
-            QStringLiteral("-y"),
-            outputFile};
-}
-
 bool ConvertOperation::isRingtone() const {
     const SXMusicInfoPtr item = musicToConvert();
     return item && item->getStrMusicType().toLower() == kRingtone;
@@ -131,7 +92,7 @@ void ConvertOperation::main() {
         tellFinish();
         return;
     }
-    const QString ffmpeg = ffmpegPath();
+    const QString ffmpeg = ConvertCommandLine::ffmpegPath();
     if (ffmpeg.isEmpty()) {
         SXLog::line(QStringLiteral("ffmpeg not found"));
         setState(CvtStateFailed);
@@ -140,14 +101,14 @@ void ConvertOperation::main() {
     }
     QString outputFile;
     chooseOutputFile(&outputFile);
-    const QStringList arguments = buildArguments(ffmpeg, *media, outputFile);
+    const QStringList arguments = ConvertCommandLine::arguments(ffmpeg, *media, outputFile);
     SXLog::line(QStringLiteral("tOutFile:") + outputFile);
-    SXLog::line(QStringLiteral("args:") + readableList(arguments));
+    SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
 
     if (!startChild(arguments)) {
         // Cancelled after the queue let it run but before the child started: like a waiting
         // operation, it reports nothing; only the name it reserved is given back.
-        removeOwnOutput(outputFile);
+        m_output.removeIfOwn(outputFile);
         return;
     }
     waitForChild();
@@ -161,27 +122,10 @@ void ConvertOperation::main() {
 }
 
 void ConvertOperation::chooseOutputFile(QString* outputFile) {
-    const SXMusicInfoPtr item = musicToConvert();
-    const LSMediaPtr media = item->mediaInfo();
-    const QString ext = isRingtone() ? kRingtoneEncodeExt : media->strOutFileExt();
-    QString name = media->strOutFileName();
-    if (!ext.isEmpty())
-        name += QLatin1Char('.') + ext;
-
-    // Always absolute: ffmpeg takes its last argument as the output, and an absolute path can
-    // never be mistaken for an option.
-    QString folder = strOutFilePath();
-    folder = folder.isEmpty() ? QFileInfo(media->filePath()).absolutePath()
-                              : QDir(folder).absolutePath();
+    const LSMediaPtr media = musicToConvert()->mediaInfo();
+    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
     setStrOutFilePath(folder);
-
-    bool reserved = false;
-    QString error;
-    *outputFile =
-        ConvertOutputPath::reserve(folder + QLatin1Char('/') + name, ext, &reserved, &error);
-    if (!reserved)
-        SXLog::line(QStringLiteral("can't create output file %1: %2").arg(*outputFile, error));
-    m_ownsOutput = reserved;
+    *outputFile = m_output.reserve(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
     setStrOutFilePath(*outputFile);
 }
 
@@ -267,7 +211,7 @@ void ConvertOperation::decideOutcome(const QString& outputFile) {
         // A cancelled run never counts as finished, even when the child managed to exit 0
         // before the cancel reached it: the user asked for no file.
         setState(CvtStateCanceled);
-        removeOwnOutput(outputFile);
+        m_output.removeIfOwn(outputFile);
         return;
     }
     if (iExitCode == 0) {
@@ -279,39 +223,20 @@ void ConvertOperation::decideOutcome(const QString& outputFile) {
         return;
     }
     setState(CvtStateFailed);
-    removeOwnOutput(outputFile);
-}
-
-void ConvertOperation::removeOwnOutput(const QString& path) {
-    // Only a file this run created: a name we could not reserve may belong to someone else.
-    if (m_ownsOutput && QFileInfo::exists(path))
-        QFile::remove(path);
-    m_ownsOutput = false;
+    m_output.removeIfOwn(outputFile);
 }
 
 void ConvertOperation::moveRingtone() {
-    const SXMusicInfoPtr item = musicToConvert();
-    const LSMediaPtr media = item->mediaInfo();
+    const LSMediaPtr media = musicToConvert()->mediaInfo();
     const int state = media->eumCvtState();
     if (state == CvtStateCanceled || state == CvtStateFailed || !isRingtone())
         return;
-    const QString current = strOutFilePath();
-    const QFileInfo info(current);
-    QString wanted = current;
-    if (!info.suffix().isEmpty())
-        wanted.chop(info.suffix().size() + 1);
-    if (!media->strOutFileExt().isEmpty())
-        wanted += QLatin1Char('.') + media->strOutFileExt();
-    if (!info.exists())
-        return;
-    QString error;
-    const QString target = ConvertOutputPath::moveWithoutReplacing(current, wanted, &error);
-    if (target.isEmpty()) {
-        SXLog::line(QStringLiteral("can't move %1 to %2: %3").arg(current, wanted, error));
+    const QString target =
+        ConvertOutputFile::moveToExtension(strOutFilePath(), media->strOutFileExt());
+    if (target.isEmpty())
         setState(CvtStateFailed);
-        return;
-    }
-    setStrOutFilePath(target);
+    else
+        setStrOutFilePath(target);
 }
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {
@@ -343,25 +268,10 @@ void ConvertOperation::handleMetadataSave() {
             QStringLiteral("CAN'T WRITE ID3 FOR FILE TYPE %1").arg(destination->eumFileType()));
         return;
     }
+    // The output gets the record and the source's other fields as its only tags.
     const SXMusicInfoPtr item = musicToConvert();
     const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
-    if (source) {
-        const QMap<QString, QString> sourceMap = source->dicMap();
-        const QMap<QString, QString> destinationMap = destination->dicMap();
-        const QMap<QString, QVariant> values = source->dicReadInfo();
-        for (auto value = values.cbegin(); value != values.cend(); ++value) {
-            // Several generic names may share one own key; the last one decides.
-            QString generic;
-            for (auto entry = sourceMap.cbegin(); entry != sourceMap.cend(); ++entry) {
-                if (entry.value() == value.key())
-                    generic = entry.key();
-            }
-            const QString destinationKey = destinationMap.value(generic);
-            if (!generic.isEmpty() && !destinationKey.isEmpty() && value.value().isValid())
-                destination->setReadInfoValue(destinationKey, value.value());
-        }
-    }
-    destination->saveNew(path);
+    MTETagCopy::copy(source.get(), *destination, path);
 }
 
 void ConvertOperation::cancel() {

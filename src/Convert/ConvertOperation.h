@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Convert/ConvertOperationDelegate.h"
+#include "Convert/ConvertOutputFile.h"
 #include "Convert/ConvertProgressTracker.h"
 #include "Convert/SXOperation.h"
 #include "Convert/TaskWrapperController.h"
@@ -44,14 +45,8 @@ public:
     void pause();
     void resume();
 
-    // Copies the source item's tags into the file at strOutFilePath().
+    // Gives the file at strOutFilePath() the source item's tags as its only tags (MTETagCopy).
     void handleMetadataSave();
-
-    // The argument vector of one run (element 0 is the executable), in its fixed order.
-    static QStringList buildArguments(const QString& executable, const LSMedia& media,
-                                      const QString& outputFile);
-    // The ffmpeg beside our own executable, else the one on PATH; empty when there is none.
-    static QString ffmpegPath();
 
     // TaskWrapperController
     void appendOutput(const QString& output) override;
@@ -67,7 +62,6 @@ private:
     void decideOutcome(const QString& outputFile);
     void moveRingtone();
     void deliverToLibrary(const QString& outputFile);
-    void removeOwnOutput(const QString& path);
     void setState(int state);
     void setStateLocked(int state); // with m_lock held
     void tellFinish();
@@ -87,7 +81,7 @@ private:
     QPointer<QEventLoop> m_waitLoop; // woken by cancel from another thread
     bool m_childEnded = false;       // outcome decided: cancel comes too late
     std::atomic<bool> m_terminated{false};
-    bool m_ownsOutput = false; // the output file was created by this run
+    ConvertOutputFile m_output; // worker thread only
 };
 
 using ConvertOperationPtr = std::shared_ptr<ConvertOperation>;

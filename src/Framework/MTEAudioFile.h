@@ -1,25 +1,12 @@
 #pragma once
 
+#include "Framework/MTEArtwork.h"
 #include "Shared/SXCoder.h"
 
-#include <QByteArray>
-#include <QList>
 #include <QMap>
-#include <QMetaType>
 #include <QString>
 #include <QVariant>
 #include <memory>
-
-// One embedded picture, kept as the encoded bytes the file carries (decoding is left to whoever
-// shows it, so thousands of handles do not hold thousands of decoded images).
-struct MTEArtwork {
-    QByteArray data;
-    QString mimeType; // "image/jpeg", "image/png"; empty when unknown
-    bool operator==(const MTEArtwork& other) const = default;
-};
-using MTEArtworkList = QList<MTEArtwork>;
-Q_DECLARE_METATYPE(MTEArtwork)
-Q_DECLARE_METATYPE(MTEArtworkList)
 
 // The tag handle of one audio file: what its tags say, in the file kind's own keys, plus the
 // generic names the rest of the program uses. A handle reads the file and closes it again; it

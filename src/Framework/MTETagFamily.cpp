@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <taglib/tfile.h>
+
 QMap<QString, QString> MTETagFamily::keyMap() const {
     QMap<QString, QString> result;
     const MTEKeyTable& table = keyTable();
@@ -51,6 +53,25 @@ void MTETagFamily::apply(TagLib::File& file, const QMap<QString, QVariant>& valu
         else
             writeField(file, *field, it.value().toString());
     }
+}
+
+TagLib::PropertyMap MTETagFamily::properties(TagLib::File& file) const {
+    return file.properties();
+}
+
+TagLib::PropertyMap MTETagFamily::refusedOf(const TagLib::PropertyMap& rejected,
+                                            const TagLib::PropertyMap& asked) {
+    TagLib::PropertyMap refused;
+    for (const auto& [name, values] : rejected) {
+        if (asked.contains(name))
+            refused.insert(name, values);
+    }
+    return refused;
+}
+
+TagLib::String MTETagFamily::customFieldName(const TagLib::String& name) {
+    const QString text = toQString(name);
+    return toTString(text.startsWith(QLatin1String("REPLAYGAIN_")) ? text.toLower() : text);
 }
 
 MTEArtworkList MTETagFamily::artworkFromVariant(const QVariant& value) {

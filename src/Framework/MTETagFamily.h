@@ -9,6 +9,7 @@
 #include <optional>
 
 #include <taglib/tbytevector.h>
+#include <taglib/tpropertymap.h>
 #include <taglib/tstring.h>
 
 namespace TagLib {
@@ -45,9 +46,35 @@ public:
 
     virtual QString tagVersion(TagLib::File& file) const = 0;
 
+    // Removes every field and picture the file's tags hold, except the field that names the
+    // encoder which wrote the audio.
+    virtual void removeAllButEncoder(TagLib::File& file) const = 0;
+    // Every field of the file under TagLib's unified property names.
+    virtual TagLib::PropertyMap properties(TagLib::File& file) const;
+    // Adds `properties` to the family's tag, each under the family's own field for that name,
+    // and keeps the fields already there. Returns what the family has no field for.
+    virtual TagLib::PropertyMap addProperties(TagLib::File& file,
+                                              const TagLib::PropertyMap& properties) const = 0;
+
     static MTEArtworkList artworkFromVariant(const QVariant& value);
 
 protected:
+    // The name of a field of one's own choosing for the property `name`, for families that have
+    // no field of their own for it. ReplayGain fields are spelt in lower case, as the programs
+    // that write and read them there spell them.
+    static TagLib::String customFieldName(const TagLib::String& name);
+    // addProperties() on `tag` (none: everything is refused). TagLib 1.13's setProperties() is
+    // not virtual, so the caller names the tag's own type.
+    template <typename Tag>
+    static TagLib::PropertyMap addPropertiesTo(Tag* tag, const TagLib::PropertyMap& properties) {
+        if (!tag)
+            return properties;
+        // setProperties() replaces the whole tag: hand it what is there plus what is added.
+        TagLib::PropertyMap merged = tag->properties();
+        for (const auto& [name, values] : properties)
+            merged.replace(name, values);
+        return refusedOf(tag->setProperties(merged), properties);
+    }
     // A null QString when the field is absent.
     virtual QString readField(TagLib::File& file, MTETagField field) const = 0;
     virtual void writeField(TagLib::File& file, MTETagField field, const QString& value) const = 0;
@@ -60,4 +87,9 @@ protected:
     // The declared type when there is one, else what the picture's first bytes say.
     static QString mimeTypeOf(const QByteArray& data, const QString& declared = {});
     static QString joined(const QStringList& values);
+
+private:
+    // The names of `asked` among those setProperties() `rejected`.
+    static TagLib::PropertyMap refusedOf(const TagLib::PropertyMap& rejected,
+                                         const TagLib::PropertyMap& asked);
 };

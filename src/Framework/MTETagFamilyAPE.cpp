@@ -114,3 +114,18 @@ QString MTETagFamilyAPE::tagVersion(TagLib::File& file) const {
         return {};
     return tag->footer()->version() >= 2000 ? QStringLiteral("APE v2") : QStringLiteral("APE v1");
 }
+
+TagLib::PropertyMap MTETagFamilyAPE::addProperties(TagLib::File& file,
+                                                   const TagLib::PropertyMap& properties) const {
+    return addPropertiesTo(tagOf(file, true), properties);
+}
+
+void MTETagFamilyAPE::removeAllButEncoder(TagLib::File& file) const {
+    // APE tags have no encoder item of their own.
+    TagLib::APE::Tag* tag = tagOf(file, false);
+    if (!tag)
+        return;
+    const TagLib::APE::ItemListMap items = tag->itemListMap();
+    for (const auto& [key, item] : items)
+        tag->removeItem(key);
+}

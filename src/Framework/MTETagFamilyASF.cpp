@@ -13,6 +13,9 @@ constexpr MTEKeyTable kKeys{"Title",         "Author",       "WM/AlbumArtist", "
                             "WM/Picture"};
 static_assert(mteKeyTableComplete(kKeys));
 
+// The encoder ffmpeg names in every file it writes.
+const TagLib::String kEncoderAttribute("WM/EncodingSettings");
+
 QString nonEmpty(const QString& text) {
     return text.isEmpty() ? QString() : text;
 }
@@ -136,4 +139,52 @@ void MTETagFamilyASF::writeArtwork(TagLib::File& file, const MTEArtworkList& ima
 
 QString MTETagFamilyASF::tagVersion(TagLib::File& file) const {
     return tagOf(file) ? QStringLiteral("ASF") : QString();
+}
+
+TagLib::PropertyMap MTETagFamilyASF::properties(TagLib::File& file) const {
+    TagLib::PropertyMap result = MTETagFamily::properties(file);
+    TagLib::ASF::Tag* tag = tagOf(file);
+    if (!tag)
+        return result;
+    for (const TagLib::String& name : result.unsupportedData()) {
+        TagLib::StringList values;
+        for (const TagLib::ASF::Attribute& attribute : tag->attribute(name)) {
+            if (attribute.type() == TagLib::ASF::Attribute::UnicodeType)
+                values.append(attribute.toString());
+        }
+        if (!values.isEmpty() && !result.contains(name.upper()))
+            result.insert(name.upper(), values);
+    }
+    return result;
+}
+
+TagLib::PropertyMap MTETagFamilyASF::addProperties(TagLib::File& file,
+                                                   const TagLib::PropertyMap& properties) const {
+    TagLib::ASF::Tag* tag = tagOf(file);
+    const TagLib::PropertyMap refused = addPropertiesTo(tag, properties);
+    if (!tag)
+        return refused;
+    // Attributes take any name.
+    for (const auto& [name, values] : refused) {
+        for (const TagLib::String& value : values)
+            tag->addAttribute(customFieldName(name), TagLib::ASF::Attribute(value));
+    }
+    return {};
+}
+
+void MTETagFamilyASF::removeAllButEncoder(TagLib::File& file) const {
+    TagLib::ASF::Tag* tag = tagOf(file);
+    if (!tag)
+        return;
+    // The content description holds five fields outside the attribute list.
+    tag->setTitle(TagLib::String());
+    tag->setArtist(TagLib::String());
+    tag->setCopyright(TagLib::String());
+    tag->setComment(TagLib::String());
+    tag->setRating(TagLib::String());
+    const TagLib::ASF::AttributeListMap attributes = tag->attributeListMap();
+    for (const auto& [name, values] : attributes) {
+        if (name != kEncoderAttribute)
+            tag->removeItem(name);
+    }
 }

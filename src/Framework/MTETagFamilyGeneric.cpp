@@ -46,3 +46,10 @@ void MTETagFamilyGeneric::writeArtwork(TagLib::File&, const MTEArtworkList&) con
 QString MTETagFamilyGeneric::tagVersion(TagLib::File&) const {
     return {};
 }
+
+TagLib::PropertyMap
+MTETagFamilyGeneric::addProperties(TagLib::File&, const TagLib::PropertyMap& properties) const {
+    return properties;
+}
+
+void MTETagFamilyGeneric::removeAllButEncoder(TagLib::File&) const {}

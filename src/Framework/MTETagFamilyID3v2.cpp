@@ -4,11 +4,14 @@
 #include <taglib/attachedpictureframe.h>
 #include <taglib/commentsframe.h>
 #include <taglib/id3v2tag.h>
+#include <taglib/infotag.h>
 #include <taglib/mpegfile.h>
 #include <taglib/textidentificationframe.h>
 #include <taglib/trueaudiofile.h>
 #include <taglib/unsynchronizedlyricsframe.h>
 #include <taglib/wavfile.h>
+
+#include <vector>
 
 namespace {
 
@@ -16,8 +19,38 @@ constexpr MTEKeyTable kKeys{"TIT2", "TPE1", "TPE2", "TCOM", "TALB", "TDRC", "TCO
                             "TRCK", "TCOP", "TPUB", "COMM", "USLT", "APIC"};
 static_assert(mteKeyTableComplete(kKeys));
 
+// The encoder ffmpeg names in every file it writes.
+const TagLib::ByteVector kEncoderFrame("TSSE", 4);
+const TagLib::ByteVector kInfoEncoderField("ISFT", 4);
+
 // Players look lyrics and comments up under the language "eng" with an empty description.
 const TagLib::ByteVector kLanguage("eng", 3);
+
+// TagLib names these user text frames in capitals; taggers and the readers that look them up
+// by exact name use this spelling.
+const char* const kUserFrameDescriptions[] = {
+    "MusicBrainz Album Id",
+    "MusicBrainz Artist Id",
+    "MusicBrainz Album Artist Id",
+    "MusicBrainz Release Group Id",
+    "MusicBrainz Release Track Id",
+    "MusicBrainz Work Id",
+    "MusicBrainz Album Release Country",
+    "MusicBrainz Album Status",
+    "MusicBrainz Album Type",
+    "Acoustid Id",
+    "Acoustid Fingerprint",
+    "MusicIP PUID",
+};
+
+TagLib::String userFrameDescription(const TagLib::String& description) {
+    for (const char* known : kUserFrameDescriptions) {
+        const TagLib::String spelling(known);
+        if (description.upper() == spelling.upper())
+            return spelling;
+    }
+    return description;
+}
 
 TagLib::String::Type encodingFor(const TagLib::String& text) {
     return text.isLatin1() ? TagLib::String::Latin1 : TagLib::String::UTF16;
@@ -198,4 +231,38 @@ QString MTETagFamilyID3v2::tagVersion(TagLib::File& file) const {
     if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(&file); wav && wav->hasInfoTag())
         return QStringLiteral("RIFF INFO");
     return {};
+}
+
+TagLib::PropertyMap MTETagFamilyID3v2::addProperties(TagLib::File& file,
+                                                     const TagLib::PropertyMap& properties) const {
+    TagLib::ID3v2::Tag* tag = tagOf(file, true);
+    const TagLib::PropertyMap refused = addPropertiesTo(tag, properties);
+    if (!tag)
+        return refused;
+    for (TagLib::ID3v2::Frame* frame : tag->frameList("TXXX")) {
+        if (auto* user = dynamic_cast<TagLib::ID3v2::UserTextIdentificationFrame*>(frame))
+            user->setDescription(userFrameDescription(user->description()));
+    }
+    return refused;
+}
+
+void MTETagFamilyID3v2::removeAllButEncoder(TagLib::File& file) const {
+    if (TagLib::ID3v2::Tag* tag = tagOf(file, false)) {
+        // Not a copy of the tag's list: that would share its ownership of the frames.
+        std::vector<TagLib::ID3v2::Frame*> doomed;
+        for (TagLib::ID3v2::Frame* frame : tag->frameList()) {
+            if (frame->frameID() != kEncoderFrame)
+                doomed.push_back(frame);
+        }
+        for (TagLib::ID3v2::Frame* frame : doomed)
+            tag->removeFrame(frame);
+    }
+    // WAV files carry a RIFF INFO list beside the ID3v2 chunk.
+    if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(&file); wav && wav->hasInfoTag()) {
+        TagLib::RIFF::Info::Tag* info = wav->InfoTag();
+        for (const auto& [id, text] : info->fieldListMap()) {
+            if (id != kInfoEncoderField)
+                info->removeField(id);
+        }
+    }
 }

@@ -16,6 +16,9 @@ public:
     bool hasArtwork(TagLib::File& file) const override;
     MTEArtworkList readArtwork(TagLib::File& file) const override;
     QString tagVersion(TagLib::File& file) const override;
+    void removeAllButEncoder(TagLib::File& file) const override;
+    TagLib::PropertyMap addProperties(TagLib::File& file,
+                                      const TagLib::PropertyMap& properties) const override;
 
     // The file's ID3v2 tag; made when `create` is true and the file has none. Null for files
     // that cannot carry one.

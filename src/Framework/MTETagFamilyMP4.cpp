@@ -13,6 +13,11 @@ constexpr MTEKeyTable kKeys{"©nam", "©ART", "aART", "©wrt", "©alb",
                             "©cmt", "©lyr", "covr"};
 static_assert(mteKeyTableComplete(kKeys));
 
+// The encoder ffmpeg names in every file it writes.
+const TagLib::String kEncoderAtom("\251too", TagLib::String::Latin1);
+// Free-form items of iTunes' own namespace, the only custom keys MP4 accepts.
+const TagLib::String kFreeFormPrefix("----:com.apple.iTunes:");
+
 // Another common name for the publisher, read when the file has no PUBLISHER item.
 const char* const kLabelKey = "----:com.apple.iTunes:LABEL";
 
@@ -143,4 +148,42 @@ void MTETagFamilyMP4::writeArtwork(TagLib::File& file, const MTEArtworkList& ima
 
 QString MTETagFamilyMP4::tagVersion(TagLib::File& file) const {
     return tagOf(file) ? QStringLiteral("MP4") : QString();
+}
+
+void MTETagFamilyMP4::removeAllButEncoder(TagLib::File& file) const {
+    TagLib::MP4::Tag* tag = tagOf(file);
+    if (!tag)
+        return;
+    const TagLib::MP4::ItemMap items = tag->itemMap();
+    for (const auto& [key, item] : items) {
+        if (key != kEncoderAtom)
+            tag->removeItem(key);
+    }
+}
+
+TagLib::PropertyMap MTETagFamilyMP4::properties(TagLib::File& file) const {
+    TagLib::PropertyMap result = MTETagFamily::properties(file);
+    const TagLib::MP4::Tag* tag = tagOf(file);
+    if (!tag)
+        return result;
+    for (const TagLib::String& key : result.unsupportedData()) {
+        if (!key.startsWith(kFreeFormPrefix) || !tag->contains(key))
+            continue;
+        const TagLib::String name = key.substr(kFreeFormPrefix.size()).upper();
+        const TagLib::StringList values = tag->item(key).toStringList();
+        if (!values.isEmpty() && !result.contains(name))
+            result.insert(name, values);
+    }
+    return result;
+}
+
+TagLib::PropertyMap MTETagFamilyMP4::addProperties(TagLib::File& file,
+                                                   const TagLib::PropertyMap& properties) const {
+    TagLib::MP4::Tag* tag = tagOf(file);
+    const TagLib::PropertyMap refused = addPropertiesTo(tag, properties);
+    if (!tag)
+        return refused;
+    for (const auto& [name, values] : refused)
+        tag->setItem(kFreeFormPrefix + customFieldName(name), TagLib::MP4::Item(values));
+    return {};
 }

@@ -15,6 +15,12 @@ public:
     bool hasArtwork(TagLib::File& file) const override;
     MTEArtworkList readArtwork(TagLib::File& file) const override;
     QString tagVersion(TagLib::File& file) const override;
+    void removeAllButEncoder(TagLib::File& file) const override;
+    // Free-form items TagLib has no name for join under their own name ("REPLAYGAIN_TRACK_GAIN"),
+    // and names MP4 has no atom for are stored as such items.
+    TagLib::PropertyMap properties(TagLib::File& file) const override;
+    TagLib::PropertyMap addProperties(TagLib::File& file,
+                                      const TagLib::PropertyMap& properties) const override;
 
 protected:
     QString readField(TagLib::File& file, MTETagField field) const override;

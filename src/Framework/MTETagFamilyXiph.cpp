@@ -15,6 +15,9 @@ constexpr MTEKeyTable kKeys{"TITLE",   "ARTIST", "ALBUMARTIST",           "COMPO
                             "COMMENT", "LYRICS", "METADATA_BLOCK_PICTURE"};
 static_assert(mteKeyTableComplete(kKeys));
 
+// The encoder ffmpeg names in every file it writes.
+const TagLib::String kEncoderField("ENCODER");
+
 // Names other taggers use for the same field, read when the file lacks ours. Writing a field
 // clears them too, so an old value cannot shadow the new one in another player.
 QStringList alternativeNames(MTETagField field) {
@@ -131,4 +134,22 @@ void MTETagFamilyXiph::writeArtwork(TagLib::File& file, const MTEArtworkList& im
 
 QString MTETagFamilyXiph::tagVersion(TagLib::File& file) const {
     return commentOf(file) ? QStringLiteral("Vorbis Comment") : QString();
+}
+
+TagLib::PropertyMap MTETagFamilyXiph::addProperties(TagLib::File& file,
+                                                    const TagLib::PropertyMap& properties) const {
+    return addPropertiesTo(commentOf(file), properties);
+}
+
+void MTETagFamilyXiph::removeAllButEncoder(TagLib::File& file) const {
+    if (TagLib::Ogg::XiphComment* comment = commentOf(file)) {
+        const TagLib::Ogg::FieldListMap fields = comment->fieldListMap();
+        for (const auto& [name, values] : fields) {
+            if (name != kEncoderField)
+                comment->removeFields(name);
+        }
+        comment->removeAllPictures();
+    }
+    if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file))
+        flac->removePictures();
 }

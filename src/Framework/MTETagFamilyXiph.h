@@ -15,6 +15,9 @@ public:
     bool hasArtwork(TagLib::File& file) const override;
     MTEArtworkList readArtwork(TagLib::File& file) const override;
     QString tagVersion(TagLib::File& file) const override;
+    void removeAllButEncoder(TagLib::File& file) const override;
+    TagLib::PropertyMap addProperties(TagLib::File& file,
+                                      const TagLib::PropertyMap& properties) const override;
 
 protected:
     QString readField(TagLib::File& file, MTETagField field) const override;

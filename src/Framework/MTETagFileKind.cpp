@@ -171,6 +171,37 @@ const MTETagFamily* MTETagFileKind::familyNamed(const QString& name) {
     return nullptr;
 }
 
+bool MTETagFileKind::edit(const QString& path, const MTETagFamily* expected,
+                          const std::function<void(TagLib::File&, const MTETagFamily&)>& change,
+                          QString* error) {
+    auto fail = [error](const QString& message) {
+        if (error)
+            *error = message;
+        return false;
+    };
+    auto unwritable = [&path] {
+        return QStringLiteral("tags of this kind of file cannot be written: %1").arg(path);
+    };
+    if (expected && !expected->canWrite())
+        return fail(unwritable());
+    const auto ref = open(path, false);
+    if (!ref)
+        return fail(QStringLiteral("cannot open %1 as audio").arg(path));
+    TagLib::File& file = *ref->file();
+    const MTETagFamily& family = familyOf(file);
+    if (expected && &family != expected)
+        return fail(QStringLiteral("%1 carries %2 tags, not %3")
+                        .arg(path, family.name(), expected->name()));
+    if (!family.canWrite())
+        return fail(unwritable());
+    if (file.readOnly())
+        return fail(QStringLiteral("%1 is not writable").arg(path));
+    change(file, family);
+    if (!save(file))
+        return fail(QStringLiteral("could not write the tags of %1").arg(path));
+    return true;
+}
+
 bool MTETagFileKind::save(TagLib::File& file) {
     if (auto* mpeg = dynamic_cast<TagLib::MPEG::File*>(&file))
         return mpeg->save(TagLib::MPEG::File::ID3v2, TagLib::File::StripNone, TagLib::ID3v2::v3,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <functional>
 #include <memory>
 
 namespace TagLib {
@@ -25,6 +26,13 @@ public:
     static const MTETagFamily& familyOf(TagLib::File& file);
     // The family of that name(), or null.
     static const MTETagFamily* familyNamed(const QString& name);
+
+    // Opens `path` to change its tags, lets `change` change them and writes them back. With
+    // `expected`, the file must carry that family's tags. False with *error when the kind's tags
+    // cannot be written, the file cannot be opened or written, or carries other tags.
+    static bool edit(const QString& path, const MTETagFamily* expected,
+                     const std::function<void(TagLib::File&, const MTETagFamily&)>& change,
+                     QString* error = nullptr);
 
     // Writes the tags held in `file` back to disk. MP3 gets ID3v2.3 and never a tag kind it
     // did not carry before.

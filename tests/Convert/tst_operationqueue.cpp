@@ -21,12 +21,17 @@ public:
         : m_gate(gate) {}
     void main() override {
         ran = true;
+        // Counted before it says it entered: once the test has seen two enter and opens the
+        // gate, the first may finish before the second would otherwise have counted itself.
+        if (m_gate) {
+            const int now = ++m_gate->running;
+            for (int seen = m_gate->peak;
+                 now > seen && !m_gate->peak.compare_exchange_weak(seen, now);)
+                ;
+        }
         entered.release();
         if (!m_gate)
             return;
-        const int now = ++m_gate->running;
-        for (int seen = m_gate->peak; now > seen && !m_gate->peak.compare_exchange_weak(seen, now);)
-            ;
         m_gate->open.acquire();
         --m_gate->running;
     }

@@ -20,7 +20,7 @@ struct Conversion {
     double expectedRate = 0;
 };
 
-// The conversion's command line (as ConvertOperation::buildArguments writes it), derived from a
+// The conversion's command line (as ConvertCommandLine::arguments writes it), derived from a
 // container's choices and a probed source by the scheduling rules: "Use Source" keeps the
 // source's value, "Stereo" is 2 channels and any other channel text 1, any other text is read as
 // a number, and above 192 kbit/s the channel count is forced to 2.

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class LSMedia;
+
+// The ffmpeg command line of one conversion: which ffmpeg runs, and the arguments it gets from
+// the item's output settings, always in the same order and never more than these.
+class ConvertCommandLine {
+public:
+    // The ffmpeg beside our own executable, else the one on PATH; empty when there is none.
+    static QString ffmpegPath();
+
+    // The argument vector (element 0 is the executable), in its fixed order.
+    static QStringList arguments(const QString& executable, const LSMedia& media,
+                                 const QString& outputFile);
+
+    // The arguments as the log shows them: ("a", "b", ...).
+    static QString readable(const QStringList& arguments);
+};
