@@ -1,6 +1,7 @@
 # The Debian package, made by `cpack -G DEB` in a build folder (scripts/package.sh). It holds what
 # `cmake --install` installs, under /usr. Its library dependencies are computed from the binaries
-# by dpkg-shlibdeps; ffmpeg is added by hand because it is run, not linked.
+# by dpkg-shlibdeps; ffmpeg is added by hand because it is run, not linked, and libqt6svg6 because
+# the window's icons are SVG, drawn by Qt's plugins that no binary of ours links.
 set(CPACK_PACKAGE_NAME sonoria)
 set(CPACK_PACKAGE_VENDOR "The Sonoria developers")
 set(CPACK_PACKAGE_CONTACT "Sonoria maintainers <maintainers@sonoria.app>")
@@ -19,7 +20,7 @@ set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_PACKAGE_SECTION sound)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS ffmpeg)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, libqt6svg6")
 set(CPACK_DEBIAN_PACKAGE_SUGGESTS mpd)
 
 set(CPACK_GENERATOR DEB)
