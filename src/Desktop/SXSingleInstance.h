@@ -19,7 +19,6 @@ public:
     // Exports the interface and claims the name. False when another process holds the name or
     // there is no session bus; this process then answers nobody.
     bool claim();
-    bool isClaimed() const { return m_claimed; }
 
     // Asks the running instance to open `paths` (Open with file:// URIs) or, without paths, to
     // come forward (Activate). True when it answered within `timeoutMs`.

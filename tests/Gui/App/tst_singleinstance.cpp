@@ -8,10 +8,13 @@
 #include "support/gui/GuiTestSupport.h"
 
 #include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
 #include <QElapsedTimer>
 #include <QImage>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -39,6 +42,7 @@ private Q_SLOTS:
     void secondStartWithoutFilesRevivesTheClosedWindow();
     void secondStartHandsItsFilesToTheFirst();
     void filesHandedOverDuringALoadFollowIt();
+    void openFromTheDesktopTakesLocalFilesOnly();
     void secondStartRunsAloneWhenNobodyAnswers_data();
     void secondStartRunsAloneWhenNobodyAnswers();
 
@@ -131,6 +135,28 @@ void TestSingleInstance::filesHandedOverDuringALoadFollowIt() {
     QCOMPARE(workspace().enumAppState(), int(AppStateLoading));
     m_app->openFiles({second}); // arrives while the first batch is being probed
     const QStringList expected = before + QStringList{first, second};
+    QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
+    QTRY_COMPARE(workspace().enumAppState(), int(AppStateIdle));
+}
+
+void TestSingleInstance::openFromTheDesktopTakesLocalFilesOnly() {
+    // As a desktop shell calls it: URIs, percent-encoded, and not all of them local.
+    const QString local = m_media.filePath(u"from shell #1.wav"_s);
+    QVERIFY(SonoriaTest::makeTone(local, 1.0));
+    const QStringList before = listedPaths(workspace());
+    QDBusConnection shell = QDBusConnection::connectToBus(m_bus.address(), u"shell"_s);
+    QDBusMessage open =
+        QDBusMessage::createMethodCall(SXSingleInstance::serviceName, SXSingleInstance::objectPath,
+                                       u"org.freedesktop.Application"_s, u"Open"_s);
+    open << QStringList{u"sftp://host/remote.wav"_s,
+                        QUrl::fromLocalFile(local).toString(QUrl::FullyEncoded)}
+         << QVariantMap{{u"desktop-startup-id"_s, u"test"_s}};
+    const QDBusPendingCall reply = shell.asyncCall(open);
+    QTRY_VERIFY(reply.isFinished());
+    QVERIFY2(!reply.isError(), qPrintable(reply.error().message()));
+    QDBusConnection::disconnectFromBus(u"shell"_s);
+
+    const QStringList expected = before + QStringList{local};
     QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
     QTRY_COMPARE(workspace().enumAppState(), int(AppStateIdle));
 }
