@@ -1,19 +1,19 @@
+#include "Desktop/SXSingleInstance.h"
 #include "Gui/App/SXAppDelegate.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
+#include "WindowScreenshot.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDir>
+#include <QFileInfo>
 
-int main(int argc, char** argv) {
-    QApplication app(argc, argv);
-    QApplication::setApplicationName(QStringLiteral("Sonoria"));
-    QApplication::setApplicationDisplayName(SXBundle::productName());
-    QApplication::setApplicationVersion(SXBundle::shortVersionString());
-    QApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
+#include <cstdio>
 
-    QCommandLineParser parser;
+namespace {
+
+QCommandLineOption declareOptions(QCommandLineParser& parser) {
     parser.setApplicationDescription(QStringLiteral("Converts audio and video files."));
     parser.addHelpOption();
     parser.addVersionOption();
@@ -23,13 +23,61 @@ int main(int argc, char** argv) {
     parser.addPositionalArgument(QStringLiteral("files"),
                                  QStringLiteral("Audio or video files and folders to add."),
                                  QStringLiteral("[FILE…]"));
+    return verbose;
+}
+
+// --help and --version are answered before the application object exists, so they need no
+// display. Anything else (Qt's own options, mistakes) waits for the full parse.
+bool answeredWithoutDisplay(QCommandLineParser& parser, int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    (void)parser.parse(arguments);
+    if (parser.isSet(QStringLiteral("help"))) {
+        // Without an application object Qt cannot know the program's name for the usage line.
+        QString help = parser.helpText();
+        help.replace(QStringLiteral("<executable_name>"), QFileInfo(arguments.first()).fileName());
+        std::fputs(qPrintable(help), stdout);
+        return true;
+    }
+    if (parser.isSet(QStringLiteral("version"))) {
+        std::printf("%s %s (build %s)\n", qPrintable(SXBundle::productName()),
+                    qPrintable(SXBundle::shortVersionString()),
+                    qPrintable(SXBundle::bundleVersion()));
+        return true;
+    }
+    return false;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QApplication::setApplicationName(QStringLiteral("Sonoria"));
+    QApplication::setApplicationVersion(SXBundle::shortVersionString());
+    QCommandLineParser parser;
+    const QCommandLineOption verbose = declareOptions(parser);
+    if (answeredWithoutDisplay(parser, argc, argv))
+        return 0;
+
+    QApplication app(argc, argv);
+    QApplication::setApplicationDisplayName(SXBundle::productName());
+    QApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
     parser.process(app);
     SXLog::install(parser.isSet(verbose) || SXLog::verboseFromEnvironment());
 
     QStringList files;
     for (const QString& path : parser.positionalArguments())
         files.append(QDir::cleanPath(QDir::current().absoluteFilePath(path)));
+    // A second start hands its files to the running Sonoria and ends; without a bus, or when
+    // that one does not answer, it carries on as a program of its own.
+    SXSingleInstance instance;
+    if (!instance.claim() && SXSingleInstance::handOver(files))
+        return 0;
+
     SXAppDelegate delegate;
+    QObject::connect(&instance, &SXSingleInstance::openRequested, &delegate,
+                     &SXAppDelegate::openFiles);
     delegate.start(files);
+    saveWindowScreenshotFromEnvironment(delegate);
     return QApplication::exec();
 }

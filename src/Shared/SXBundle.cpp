@@ -22,8 +22,10 @@ QStringList SXBundle::resourceDirectories() {
     if (!fromEnv.isEmpty())
         dirs << fromEnv;
     const QString exeDir = executableDirectory();
+    // The build stages the resources in <build>/share/sonoria, so the same relative place serves
+    // the installed programs and every program of the build tree.
     dirs << QDir::cleanPath(exeDir + QStringLiteral("/../share/sonoria"))
-         << exeDir + QStringLiteral("/Resources") << QStringLiteral(SONORIA_SOURCE_RESOURCES_DIR);
+         << exeDir + QStringLiteral("/Resources");
     return dirs;
 }
 

@@ -10,8 +10,8 @@ public:
     static QString executableDirectory();
 
     // Full path of resource `name` with extension `type` ("Formats", "plist"), or an empty
-    // string. Looked up, in order: $SONORIA_RESOURCES_DIR, <exe>/../share/sonoria (installed),
-    // <exe>/Resources, then the source tree's src/Resources (build tree and tests).
+    // string. Looked up, in order: $SONORIA_RESOURCES_DIR, <exe>/../share/sonoria (installed, and
+    // the build tree's staged copy), <exe>/Resources. No path of the build is compiled in.
     static QString pathForResource(const QString& name, const QString& type);
     static QStringList resourceDirectories();
 

@@ -17,6 +17,8 @@
 
 #include <QApplication>
 
+#include <utility>
+
 SXAppDelegate::SXAppDelegate(QObject* parent)
     : QObject(parent)
     , m_menus(new SXMenuHandleCltr(this)) {
@@ -60,6 +62,9 @@ void SXAppDelegate::newWindow() {
             [this] { validateMenus(); });
     connect(&m_coreMainWndCtlr->workspace(), &SXWorkspace::lastWorkspaceClosing, this,
             [this] { configerMenuForState(false); });
+    // Queued: the workspace finishes its own reaction to the state before another run starts.
+    connect(&m_coreMainWndCtlr->workspace(), &SXWorkspace::appStateChanged, this,
+            &SXAppDelegate::loadPendingFiles, Qt::QueuedConnection);
     m_coreMainWndCtlr->show();
     m_coreMainWndCtlr->workspace().addDefaultTabs();
     validateMenus();
@@ -140,6 +145,25 @@ void SXAppDelegate::clickNewWindow() {
     m_coreMainWndCtlr->activateWindow();
     core.registerAgain();
     configerMenuForState(true);
+}
+
+void SXAppDelegate::openFiles(const QStringList& paths) {
+    if (!m_primaryOpen)
+        clickNewWindow();
+    m_coreMainWndCtlr->setWindowState(m_coreMainWndCtlr->windowState() & ~Qt::WindowMinimized);
+    m_coreMainWndCtlr->raise();
+    m_coreMainWndCtlr->activateWindow();
+    // A new add run would orphan the batch being probed, and none may start during a run.
+    m_pendingFiles.append(paths);
+    loadPendingFiles();
+}
+
+void SXAppDelegate::loadPendingFiles() {
+    SXWorkspace& core = m_coreMainWndCtlr->workspace();
+    if (m_pendingFiles.isEmpty() || core.enumAppState() == AppStateLoading ||
+        core.enumAppState() == AppStateConverting)
+        return;
+    core.loadAndParseFiles(std::exchange(m_pendingFiles, {}));
 }
 
 void SXAppDelegate::clickPreference() {

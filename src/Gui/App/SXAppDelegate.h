@@ -4,6 +4,7 @@
 
 #include <QObject>
 #include <QPointer>
+#include <QStringList>
 
 class MacAppHelper;
 class SXMainAppController;
@@ -31,6 +32,11 @@ public:
     // The workspace window whose window is key, if any.
     SXMainAppController* keyWindowController() const;
 
+    // Files handed over by another start ("Open With", `sonoria FILE`): the primary window,
+    // revived when it was closed, comes forward and adds them to its selected container, once
+    // a load or a run in progress is over. Empty: only the window comes forward.
+    void openFiles(const QStringList& paths);
+
     void perform(SXCommand command);
     void clickNewWindow();
     void clickPreference();
@@ -43,10 +49,12 @@ private:
     void newWindow();
     void applicationDidFinishLaunching(bool contactService);
     void clickCloseTab(SXMainAppController* key);
+    void loadPendingFiles();
 
     SXMenuHandleCltr* m_menus = nullptr;
     QPointer<SXMainAppController> m_coreMainWndCtlr;
     QPointer<SXPreferenceCtlr> m_preferenceCltr;
     MacAppHelper* m_appHelper = nullptr;
     bool m_primaryOpen = true;
+    QStringList m_pendingFiles;
 };
