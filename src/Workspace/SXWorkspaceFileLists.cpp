@@ -3,6 +3,7 @@
 #include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXWorkspaceTexts.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -150,17 +151,12 @@ void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
 }
 
 QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
-    QString text;
-    for (int i = 0; i < failed.size(); ++i) {
-        const LSMediaPtr media = failed.at(i)->mediaInfo();
-        text +=
-            QStringLiteral("%1\n").arg(QFileInfo(media ? media->filePath() : QString()).fileName());
-        if (i == 10) {
-            text += QStringLiteral("...");
-            break;
-        }
+    QStringList names;
+    for (const SXMusicInfoPtr& item : failed) {
+        const LSMediaPtr media = item->mediaInfo();
+        names.append(QFileInfo(media ? media->filePath() : QString()).fileName());
     }
-    return text;
+    return SXWorkspaceTexts::cappedNameLines(names);
 }
 
 void SXWorkspaceFileLists::clickCancel() {

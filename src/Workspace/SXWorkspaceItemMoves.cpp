@@ -123,6 +123,8 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
             target.insert(at + i, copies.at(i));
     }
     refreshListView();
+    // The source may be in another window, whose removal counts only its own containers.
+    refreshTabCount();
     SXWorkspaceNotifier::defaultCenter()->postTableViewAcceptDragIn(this, items, fromFormat);
 }
 
@@ -146,4 +148,21 @@ void SXWorkspaceItemMoves::refrushTabelAfterDragMusicInfos(const SXMusicInfoList
             rows.append(index);
     }
     setSelectedRows(rows);
+}
+
+void SXWorkspaceItemMoves::listViewRowDoubleClicked(int row) {
+    const SXMusicInfoList list = getCurTableDatasource();
+    if (row < 0 || row >= list.size() || enumAppState() == AppStateConverting)
+        return;
+    Q_EMIT playMusicRequested(list.at(row));
+}
+
+void SXWorkspaceItemMoves::clickRowPlayButton(const SXMusicInfoPtr& item) {
+    if (!item || enumAppState() == AppStateConverting)
+        return;
+    const SXMusicInfoPtr playing = enumAppState() == AppStatePlaying ? appStateItem() : nullptr;
+    if (playing && playing->isEqualToMusic(*item))
+        Q_EMIT stopMusicRequested(item);
+    else
+        Q_EMIT playMusicRequested(item);
 }

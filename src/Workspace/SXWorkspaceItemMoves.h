@@ -33,6 +33,16 @@ public:
     // Selects the rows of the shown list that hold the moved items.
     void refrushTabelAfterDragMusicInfos(const SXMusicInfoList& items, int toRow);
 
+    // A double-click on row `row`: the preview plays its item, but never during a run.
+    void listViewRowDoubleClicked(int row);
+    // A row's play button: plays its item, or stops it when it is the one playing.
+    void clickRowPlayButton(const SXMusicInfoPtr& item);
+
+Q_SIGNALS:
+    // Requests to the preview player.
+    void playMusicRequested(const SXMusicInfoPtr& item);
+    void stopMusicRequested(const SXMusicInfoPtr& item);
+
 protected:
     // Listens to moves out of other workspaces (again after a closed window is revived).
     void connectNotifier();

@@ -33,3 +33,15 @@ QString SXWorkspaceTexts::countNoun(int count) {
 QString SXWorkspaceTexts::tabAccessibleName(const QString& label, int count) {
     return QStringLiteral("%1, %2 %3").arg(label).arg(count).arg(countNoun(count));
 }
+
+QString SXWorkspaceTexts::cappedNameLines(const QStringList& names) {
+    QString text;
+    for (int i = 0; i < names.size(); ++i) {
+        text += names.at(i) + QLatin1Char('\n');
+        if (i == 10) {
+            text += QStringLiteral("...");
+            break;
+        }
+    }
+    return text;
+}

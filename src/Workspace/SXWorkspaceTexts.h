@@ -3,6 +3,7 @@
 #include "Model/SXFormatSetting.h"
 
 #include <QString>
+#include <QStringList>
 
 class SXWorkspaceData;
 
@@ -18,4 +19,6 @@ public:
     static QString countNoun(int count);
     // What a screen reader says for a tab: its label and its count ("MP3, 3 items").
     static QString tabAccessibleName(const QString& label, int count);
+    // One name per line ("%@\n"), and "..." after the 11th: how alerts list files.
+    static QString cappedNameLines(const QStringList& names);
 };

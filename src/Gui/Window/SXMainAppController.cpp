@@ -1,20 +1,21 @@
 #include "Gui/Window/SXMainAppController.h"
 
 #include "App/SXPreferences.h"
+#include "Gui/Dialogs/SXAddFilesDialog.h"
+#include "Gui/Dialogs/SXLoadingSheet.h"
 #include "Gui/List/SXItemListView.h"
+#include "Gui/List/SXWindowDrops.h"
 #include "Gui/Panels/SXHelpView.h"
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXSettingsPanel.h"
 #include "Gui/Window/SXContainerTabBar.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Gui/Window/SXWindowToolbar.h"
-#include "Shared/GlobalFun.h"
 #include "Workspace/SXWorkspace.h"
 #include "Workspace/SXWorkspaceTexts.h"
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
@@ -32,6 +33,8 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
     m_toolbar = new SXWindowToolbar(*this, *m_workspace);
     setCentralWidget(buildCentral());
+    new SXLoadingSheet(*m_workspace, *this);
+    new SXWindowDrops(*this, *_tabBar, *m_workspace);
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
@@ -164,17 +167,7 @@ void SXMainAppController::perform(SXCommand command) {
 }
 
 void SXMainAppController::clickAddFiles() {
-    QStringList patterns;
-    for (const QString& ext : GlobalFun::getSupportedFmts())
-        patterns.append(QStringLiteral("*.") + ext);
-    auto* dialog = new QFileDialog(this, tr("Add Files"));
-    dialog->setObjectName(QStringLiteral("openFiles"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setNameFilter(tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))));
-    connect(dialog, &QFileDialog::filesSelected, m_workspace, &SXWorkspace::loadAndParseFiles);
-    dialog->open();
+    SXAddFilesDialog::openFor(*m_workspace, *this);
 }
 
 void SXMainAppController::closeEvent(QCloseEvent* event) {
