@@ -184,7 +184,10 @@ void SXWorkspaceFileLists::clickDeleteFile() {
         beep();
         return;
     }
+    // The row that moves into the place of the first removed one is selected next.
+    const int first = selectedRows().first();
     removeFile(items, getSelectedMusicFormat());
+    setSelectedRows({first});
     refreshListView();
 }
 

@@ -76,13 +76,30 @@ void SXItemRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
 
     const SXItemRowLook look = SXItemRowLookRules::rowLook(
         m_workspace, itemOf(index), index.row() == m_hoveredRow, m_draggingRows, isKey(option));
-    if (!look.playImage.isEmpty())
-        icon(look.playImage).paint(painter, geometry.play);
-    icon(look.state.image).paint(painter, geometry.state);
+    // On the selection colour the grey and blue pictures would vanish: they sit on a disc of
+    // the list's own background there.
+    const bool selected = option.state & QStyle::State_Selected;
+    const auto button = [&](const QString& image, const QRect& rect) {
+        if (image.isEmpty())
+            return;
+        if (selected)
+            paintDisc(painter, rect, option.palette.color(QPalette::Base));
+        icon(image).paint(painter, rect);
+    };
+    button(look.playImage, geometry.play);
+    button(look.state.image, geometry.state);
     if (look.state.pieFraction >= 0)
         paintPie(painter, geometry.state, look.state.pieFraction);
-    if (!look.rightImage.isEmpty())
-        icon(look.rightImage).paint(painter, geometry.right);
+    button(look.rightImage, geometry.right);
+}
+
+void SXItemRowDelegate::paintDisc(QPainter* painter, const QRect& button, const QColor& colour) {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(colour);
+    painter->drawEllipse(QRectF(button).adjusted(-1, -1, 1, 1));
+    painter->restore();
 }
 
 void SXItemRowDelegate::paintLabels(QPainter* painter, const QStyleOptionViewItem& option,

@@ -53,6 +53,7 @@ private:
                          const QPoint& at) const;
     void paintLabels(QPainter* painter, const QStyleOptionViewItem& option,
                      const SXItemRowGeometry& geometry, const QModelIndex& index) const;
+    static void paintDisc(QPainter* painter, const QRect& button, const QColor& colour);
     static void paintPie(QPainter* painter, const QRect& button, double fraction);
 
     const SXWorkspaceData& m_workspace;

@@ -1,0 +1,96 @@
+#include "support/gui/GuiTestSupport.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSlider>
+#include <QAccessible>
+#include <QComboBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTabBar>
+
+namespace SonoriaGuiTest {
+
+void prepareGuiEnvironment() {
+    SonoriaTest::prepareEnvironment();
+    qputenv("SONORIA_NO_DESKTOP_OPEN", "1");
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+QStringList messageTexts(QMessageBox* box) {
+    QStringList texts{box->text(), box->informativeText()};
+    for (QAbstractButton* button : box->buttons())
+        texts.append(button->text());
+    return texts;
+}
+
+bool clickMessageButton(QMessageBox* box, const QString& text) {
+    for (QAbstractButton* button : box->buttons()) {
+        if (button->text() == text) {
+            button->click();
+            return true;
+        }
+    }
+    return false;
+}
+
+void grab(QWidget* widget, const QString& name) {
+    const QString folder = qEnvironmentVariable("SONORIA_GRAB_DIR");
+    if (folder.isEmpty() || !widget)
+        return;
+    QDir().mkpath(folder);
+    widget->grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
+}
+
+namespace {
+
+bool isControl(QWidget* widget) {
+    return qobject_cast<QAbstractButton*>(widget) || qobject_cast<QComboBox*>(widget) ||
+           qobject_cast<QLineEdit*>(widget) || qobject_cast<QAbstractSlider*>(widget) ||
+           qobject_cast<QAbstractItemView*>(widget) || qobject_cast<QTabBar*>(widget);
+}
+
+QString nameOf(QWidget* widget) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face ? face->text(QAccessible::Name) : QString();
+}
+
+} // namespace
+
+QStringList accessibilityProblems(QWidget* root) {
+    QStringList problems;
+    QList<QWidget*> focusable;
+    const QList<QWidget*> all = root->findChildren<QWidget*>();
+    for (QWidget* widget : all) {
+        if (!widget->isVisibleTo(root) || !isControl(widget))
+            continue;
+        // The line edit inside an editable combo box is named by its box.
+        if (qobject_cast<QComboBox*>(widget->parentWidget()))
+            continue;
+        if (nameOf(widget).trimmed().isEmpty())
+            problems.append(QStringLiteral("unnamed %1 \"%2\"")
+                                .arg(QString::fromLatin1(widget->metaObject()->className()),
+                                     widget->objectName()));
+        if (widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus))
+            focusable.append(widget);
+    }
+    if (focusable.isEmpty())
+        return problems;
+    // Follow the focus chain once around from the first focusable control.
+    QList<QWidget*> reached;
+    QWidget* current = focusable.first();
+    for (int step = 0; step < 4 * all.size() && current; ++step) {
+        reached.append(current);
+        current = current->nextInFocusChain();
+        if (current == focusable.first())
+            break;
+    }
+    for (QWidget* widget : std::as_const(focusable)) {
+        if (!reached.contains(widget))
+            problems.append(QStringLiteral("Tab never reaches \"%1\"").arg(nameOf(widget)));
+    }
+    return problems;
+}
+
+} // namespace SonoriaGuiTest

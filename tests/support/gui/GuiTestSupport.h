@@ -1,0 +1,57 @@
+#pragma once
+
+#include "support/TestSupport.h"
+
+#include <QApplication>
+#include <QStringList>
+#include <QTest>
+#include <QWidget>
+
+class QMessageBox;
+
+// Helpers of the window tests: an offscreen application, the dialogs a window opened with
+// open(), pictures for human eyes, and the accessibility walk.
+namespace SonoriaGuiTest {
+
+// Prepares a temporary home and settings store, suppresses opening files and pages on the
+// desktop, then builds the application. Call from main() only (the macro does).
+void prepareGuiEnvironment();
+
+// The visible window-modal dialog of type T over `window` (its newest), waiting up to 5 s.
+template <class T> T* openDialog(QWidget* window) {
+    T* found = nullptr;
+    (void)QTest::qWaitFor(
+        [&] {
+            const QList<T*> dialogs = window->findChildren<T*>();
+            for (T* dialog : dialogs) {
+                if (dialog->isVisible())
+                    found = dialog;
+            }
+            return found != nullptr;
+        },
+        5000);
+    return found;
+}
+
+// The texts of a message box: its text, informative text and button texts.
+QStringList messageTexts(QMessageBox* box);
+// Clicks the button of a message box that reads `text`; false when there is none.
+bool clickMessageButton(QMessageBox* box, const QString& text);
+
+// Writes a picture of `widget` to $SONORIA_GRAB_DIR/<name>.png when that variable is set.
+void grab(QWidget* widget, const QString& name);
+
+// Every visible control under `root` without an accessible name or text, and every focusable
+// control that Tab does not reach from the first: empty when all is well.
+QStringList accessibilityProblems(QWidget* root);
+
+} // namespace SonoriaGuiTest
+
+#define SONORIA_GUI_TEST_MAIN(TestObject)                                                          \
+    int main(int argc, char** argv) {                                                              \
+        SonoriaGuiTest::prepareGuiEnvironment();                                                   \
+        QApplication app(argc, argv);                                                              \
+        QApplication::setApplicationDisplayName(QStringLiteral("Sonoria"));                        \
+        TestObject tc;                                                                             \
+        return QTest::qExec(&tc, argc, argv);                                                      \
+    }
