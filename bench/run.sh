@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
-#   bench/run.sh [all|flac|wav|load|memory|list]     (ROUNDS=3 by default)
+#   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default)
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 build="$root/build/release"
@@ -110,50 +110,13 @@ bench_memory() {
          "2000 files ${m} KB: $(awk -v o="$o" -v m="$m" 'BEGIN { printf "%.1f", (m - o) / 2000 }') KB per item (target <= 16)"
 }
 
-# The window's list: 10,000 files (hard links of four short files under distinct names) dropped
-# on an offscreen window, against sonoria-cli --dry-run on the same folder.
-bench_list() {
-    mkdir -p "$work/listsrc" "$work/list"
-    ffm -f lavfi -i "sine=f=440:d=1" -metadata artist="Bench" "$work/listsrc/a.mp3"
-    ffm -f lavfi -i "sine=f=330:d=1" "$work/listsrc/b.wav"
-    ffm -f lavfi -i "sine=f=550:d=1" "$work/listsrc/c.flac"
-    ffm -f lavfi -i "sine=f=660:d=1" "$work/listsrc/d.ogg"
-    local sources=(a.mp3 b.wav c.flac d.ogg) i
-    for ((i = 0; i < 10000; i++)); do
-        ln "$work/listsrc/${sources[i % 4]}" "$work/list/track$(printf %05d "$i").${sources[i % 4]#*.}"
-    done
-    cmake --build "$build" --target sonoria-bench-list >/dev/null
-    local ta=() tb=() blocked=() scrolled=() memory=() t out a b
-    value() { printf '%s\n' "$out" | sed -n "s/^$1=//p"; }
-    for ((i = 1; i <= rounds; i++)); do
-        out=$(QT_QPA_PLATFORM=offscreen SONORIA_RESOURCES_DIR="$root/src/Resources" \
-            "$build/bench/sonoria-bench-list" "$work/list" 2>/dev/null)
-        [ "$(value items)" = 10000 ] || { echo "5. list: the window showed $(value items) rows"; return 1; }
-        ta+=("$(value add_ms)"); blocked+=("$(value add_blocked_ms)")
-        scrolled+=("$(value scroll_blocked_ms)"); memory+=("$(value kb_per_item)")
-        t=$(now_ms)
-        "$cli" -n -o "$work/never" "$work/list" >/dev/null
-        tb+=($(( $(now_ms) - t )))
-    done
-    a=$(printf '%s\n' "${ta[@]}" | median)
-    b=$(printf '%s\n' "${tb[@]}" | median)
-    echo "5. list of 10000 files: window ${a} ms from the drop to the last row shown," \
-         "sonoria-cli --dry-run ${b} ms, ratio $(ratio "$a" "$b") (target <= 1.2)"
-    echo "    main thread blocked at most $(printf '%s\n' "${blocked[@]}" | sort -n | tail -n 1) ms" \
-         "during the add, $(printf '%s\n' "${scrolled[@]}" | sort -n | tail -n 1) ms while" \
-         "scrolling the whole list (target < 50); $(printf '%s\n' "${memory[@]}" | median)" \
-         "KB resident per item with the window (target <= 16)"
-    echo "    rounds: window ${ta[*]} ms / cli ${tb[*]} ms; blocked ${blocked[*]} / ${scrolled[*]} ms"
-}
-
 echo "machine: $(nproc) cores, $(grep -m1 'model name' /proc/cpuinfo | cut -d: -f2 | sed 's/^ //'); load: $(cut -d' ' -f1-3 /proc/loadavg)"
 case "$which" in
-    all) bench_flac; bench_wav; bench_load; bench_memory; bench_list ;;
+    all) bench_flac; bench_wav; bench_load; bench_memory ;;
     flac) bench_flac ;;
     wav) bench_wav ;;
     load) bench_load ;;
     memory) bench_memory ;;
-    list) bench_list ;;
     *) echo "unknown benchmark: $which" >&2; exit 2 ;;
 esac
 echo "load after: $(cut -d' ' -f1-3 /proc/loadavg)"

@@ -2,7 +2,7 @@
 // does, and measures: the wall time from the drop to the last row shown, the longest time the
 // main thread was blocked (a 5 ms timer that notices its own lateness) during the add and while
 // the whole list scrolls by pages, and the resident memory per item with the window.
-//   sonoria-bench-list FOLDER        (run by bench/run.sh, which prepares the environment)
+//   sonoria-bench-list FOLDER        (run by bench/list.sh, which prepares the environment)
 
 #include "Gui/List/SXItemListView.h"
 #include "Gui/Window/SXMainAppController.h"
