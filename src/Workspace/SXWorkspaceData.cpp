@@ -154,7 +154,9 @@ void SXWorkspaceData::refreshListView() {
         QMutexLocker locker(&m_dataLock);
         const QList<int> before = m_selectedRows;
         clampSelection(before);
-        selectionShrank = m_selectedRows != before;
+        // std::equal: Qt 6.4's list comparison hands memcmp a null pointer for empty lists.
+        selectionShrank = !std::equal(m_selectedRows.cbegin(), m_selectedRows.cend(),
+                                      before.cbegin(), before.cend());
     }
     Q_EMIT listChanged();
     if (selectionShrank)

@@ -54,7 +54,8 @@ void SXItemListView::showSelection(const QList<int>& rows) {
     for (const QModelIndex& index : selectionModel()->selectedRows())
         shown.append(index.row());
     std::sort(shown.begin(), shown.end());
-    if (shown == rows)
+    // std::equal: Qt 6.4's list comparison hands memcmp a null pointer for empty lists.
+    if (std::equal(shown.cbegin(), shown.cend(), rows.cbegin(), rows.cend()))
         return;
     const QScopedValueRollback guard(m_showingSelection, true);
     // Runs of neighbouring rows become one range: selecting all of a long list stays cheap.
