@@ -132,8 +132,9 @@ QList<int> SXWorkspaceData::selectedRows() const {
 void SXWorkspaceData::setSelectedRows(const QList<int>& rows) {
     {
         QMutexLocker locker(&m_dataLock);
+        const QList<int> previous = m_selectedRows;
         m_selectedRows = rows;
-        clampSelection();
+        clampSelection(previous);
     }
     Q_EMIT selectionChanged(selectedRows());
 }
@@ -151,9 +152,11 @@ void SXWorkspaceData::refreshListView() {
     bool selectionShrank = false;
     {
         QMutexLocker locker(&m_dataLock);
-        const qsizetype before = m_selectedRows.size();
-        clampSelection();
-        selectionShrank = m_selectedRows.size() != before;
+        const QList<int> before = m_selectedRows;
+        clampSelection(before);
+        // std::equal: Qt 6.4's list comparison hands memcmp a null pointer for empty lists.
+        selectionShrank = !std::equal(m_selectedRows.cbegin(), m_selectedRows.cend(),
+                                      before.cbegin(), before.cend());
     }
     Q_EMIT listChanged();
     if (selectionShrank)
@@ -202,14 +205,21 @@ void SXWorkspaceData::dropContainer(const QString& label) {
     _fmtSettingInfos.remove(label);
 }
 
-// Rows are kept sorted, unique and inside the shown list; the caller holds the lock.
-void SXWorkspaceData::clampSelection() {
+// Rows are kept sorted, unique and inside the shown list. A list with rows always has one
+// selected: a selection that would become empty keeps what is left of the previous one, else
+// the row nearest its first row. The caller holds the lock.
+void SXWorkspaceData::clampSelection(const QList<int>& previous) {
     const int count = int(getCurTableDatasource().size());
-    QList<int> rows;
-    for (int row : std::as_const(m_selectedRows)) {
-        if (row >= 0 && row < count && !rows.contains(row))
-            rows.append(row);
-    }
-    std::sort(rows.begin(), rows.end());
-    m_selectedRows = rows;
+    const auto clamped = [count](QList<int> rows) {
+        rows.removeIf([count](int row) { return row < 0 || row >= count; });
+        std::sort(rows.begin(), rows.end());
+        rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
+        return rows;
+    };
+    m_selectedRows = clamped(m_selectedRows);
+    if (!m_selectedRows.isEmpty() || count == 0)
+        return;
+    m_selectedRows = clamped(previous);
+    if (m_selectedRows.isEmpty())
+        m_selectedRows = {previous.isEmpty() ? 0 : std::clamp(previous.first(), 0, count - 1)};
 }

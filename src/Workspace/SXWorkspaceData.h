@@ -99,7 +99,7 @@ protected:
     QList<int> m_selectedRows;
 
 private:
-    void clampSelection();
+    void clampSelection(const QList<int>& previous);
 
     SXWorkspacePresenter* m_presenter = nullptr;
     std::atomic<int> m_progressType{AppStateIdle};

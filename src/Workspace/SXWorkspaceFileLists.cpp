@@ -3,12 +3,15 @@
 #include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXWorkspaceTexts.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <cstdio>
 #include <sys/stat.h>
+#include <system_error>
+#include <thread>
 
 namespace {
 // The way the system log has always shown a list of items.
@@ -23,7 +26,14 @@ QString describeItems(const SXMusicInfoList& items) {
 } // namespace
 
 SXWorkspaceFileLists::SXWorkspaceFileLists(QObject* parent)
-    : SXWorkspaceContainers(parent) {}
+    : SXWorkspaceContainers(parent)
+    , m_loadProgress(
+          *this, [this](const std::optional<QString>& text, const std::optional<double>& value) {
+              if (text)
+                  Q_EMIT loadProgressText(*text);
+              if (value)
+                  Q_EMIT loadProgressValue(*value);
+          }) {}
 
 SXWorkspaceFileLists::~SXWorkspaceFileLists() {
     // A worker that still runs must not report to a workspace that is gone.
@@ -38,6 +48,7 @@ SXWorkspaceFileLists::~SXWorkspaceFileLists() {
 
 void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     stopPlayerWithRefreshUI();
+    m_loadProgress.clear();
     Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
     Q_EMIT loadProgressValue(0.0);
     setAppState(AppStateLoading);
@@ -47,16 +58,29 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     m_mediaLoader = LSMediaLoader::create();
     m_mediaLoader->setDelegate(this);
 
-    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths), getCurTableDatasource());
-
+    // Scanning folders and making the items of a large drop takes a while: the batch is made
+    // on a thread of its own from what the container holds now, then handed to the loader.
+    // The thread keeps only the loader and the values it was given.
     const QString container = getSelectedMusicFormat();
-    _loadingFileArray.clear();
-    _loadingFileArray.reserve(10);
-    for (const QString& path : candidates)
-        _loadingFileArray.append(SXMusicInfo::newForSource(path, container));
-    // Keep our own reference: an empty batch completes inside this call.
+    const SXMusicInfoList current = getCurTableDatasource();
     const LSMediaLoaderPtr loader = m_mediaLoader;
-    loader->loadMediasWithMediaArray(_loadingFileArray);
+    try {
+        std::thread([loader, paths, container, current] {
+            loader->loadMediasWithMediaArray(makeBatch(paths, container, current));
+        }).detach();
+    } catch (const std::system_error&) {
+        loader->loadMediasWithMediaArray(makeBatch(paths, container, current));
+    }
+}
+
+SXMusicInfoList SXWorkspaceFileLists::makeBatch(const QStringList& paths, const QString& container,
+                                                const SXMusicInfoList& current) {
+    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths), current);
+    SXMusicInfoList batch;
+    batch.reserve(candidates.size());
+    for (const QString& path : candidates)
+        batch.append(SXMusicInfo::newForSource(path, container));
+    return batch;
 }
 
 QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths) {
@@ -101,13 +125,11 @@ QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
 void SXWorkspaceFileLists::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
     const QString name = item ? QFileInfo(item->strFilePath()).fileName() : QString();
     const QString text = name.isEmpty() ? QString() : QStringLiteral("Importing %1...").arg(name);
-    QMetaObject::invokeMethod(
-        this, [this, text] { Q_EMIT loadProgressText(text); }, Qt::QueuedConnection);
+    m_loadProgress.reportText(text);
 }
 
 void SXWorkspaceFileLists::mediaLoaderDidReceiveProgress(LSMediaLoader*, double progress) {
-    QMetaObject::invokeMethod(
-        this, [this, progress] { Q_EMIT loadProgressValue(progress); }, Qt::QueuedConnection);
+    m_loadProgress.reportValue(progress);
 }
 
 void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
@@ -137,6 +159,7 @@ void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
 }
 
 void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
+    m_loadProgress.flush();
     refreshListView();
     if (selectedRows().isEmpty() && getCurentTabMusicCount() > 0)
         setSelectedRows({0});
@@ -151,17 +174,12 @@ void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
 }
 
 QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
-    QString text;
-    for (int i = 0; i < failed.size(); ++i) {
-        const LSMediaPtr media = failed.at(i)->mediaInfo();
-        text +=
-            QStringLiteral("%1\n").arg(QFileInfo(media ? media->filePath() : QString()).fileName());
-        if (i == 10) {
-            text += QStringLiteral("...");
-            break;
-        }
+    QStringList names;
+    for (const SXMusicInfoPtr& item : failed) {
+        const LSMediaPtr media = item->mediaInfo();
+        names.append(QFileInfo(media ? media->filePath() : QString()).fileName());
     }
-    return text;
+    return SXWorkspaceTexts::cappedNameLines(names);
 }
 
 void SXWorkspaceFileLists::clickCancel() {
@@ -190,7 +208,10 @@ void SXWorkspaceFileLists::clickDeleteFile() {
         return;
     }
     stopPreviewAmong(items);
+    // The row that moves into the place of the first removed one is selected next.
+    const int first = selectedRows().first();
     removeFile(items, getSelectedMusicFormat());
+    setSelectedRows({first});
     refreshListView();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Media/LSMediaLoader.h"
+#include "Workspace/SXLoadProgressRelay.h"
 #include "Workspace/SXMetadataEditing.h"
 #include "Workspace/SXWorkspaceContainers.h"
 
@@ -18,7 +19,8 @@ public:
 
     // --- Adding ---
     // The add run for the selected container: expands folders, filters, drops paths already in
-    // the container and probes the rest. Ends with loadFinished() (state back to idle).
+    // the container and probes the rest, all off the main thread. Ends with loadFinished()
+    // (state back to idle).
     void loadAndParseFiles(const QStringList& paths);
     // The loading sheet's cancel button.
     void clickCancel();
@@ -31,6 +33,9 @@ public:
     // Drops from `candidates` the paths already in `current`, with the walk that skips the path
     // moving into a dropped one's place.
     static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);
+    // The items of an add run for `container`: the paths expanded, without those in `current`.
+    static SXMusicInfoList makeBatch(const QStringList& paths, const QString& container,
+                                     const SXMusicInfoList& current);
     // "%@\n" per name, "..." after the 11th.
     static QString loadFailureText(const SXMusicInfoList& failed);
 
@@ -58,7 +63,8 @@ public:
 
 Q_SIGNALS:
     // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader
-    // reports on its worker thread; these are re-emitted on the main thread in the same order.
+    // reports on its worker thread; the newest of its reports reach the main thread at most
+    // every 25 ms.
     void loadStarted(const QString& text);
     void loadProgressText(const QString& text);
     void loadProgressValue(double fraction);
@@ -68,5 +74,5 @@ Q_SIGNALS:
 
 private:
     LSMediaLoaderPtr m_mediaLoader;
-    SXMusicInfoList _loadingFileArray;
+    SXLoadProgressRelay m_loadProgress;
 };

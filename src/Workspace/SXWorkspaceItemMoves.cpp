@@ -123,6 +123,8 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
             target.insert(at + i, copies.at(i));
     }
     refreshListView();
+    // The source may be in another window, whose removal counts only its own containers.
+    refreshTabCount();
     SXWorkspaceNotifier::defaultCenter()->postTableViewAcceptDragIn(this, items, fromFormat);
     // Only now: the source still compared the items by their old container when it let go.
     // A duplicate left no copy behind, but its source item is gone all the same.

@@ -42,3 +42,15 @@ QString SXWorkspaceTexts::windowTitle(const QString& appName, int state, double 
     const int whole = std::isnan(percent) ? 0 : int(std::clamp(percent, 0.0, 100.0));
     return QStringLiteral("%1% \u2014 %2").arg(whole).arg(appName);
 }
+
+QString SXWorkspaceTexts::cappedNameLines(const QStringList& names) {
+    QString text;
+    for (int i = 0; i < names.size(); ++i) {
+        text += names.at(i) + QLatin1Char('\n');
+        if (i == 10) {
+            text += QStringLiteral("...");
+            break;
+        }
+    }
+    return text;
+}

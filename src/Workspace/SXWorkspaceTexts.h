@@ -3,6 +3,7 @@
 #include "Model/SXFormatSetting.h"
 
 #include <QString>
+#include <QStringList>
 
 class SXWorkspaceData;
 
@@ -21,4 +22,6 @@ public:
     // The window title: the application's name, and during a run the total in whole per cent
     // first, so that a task bar that cuts titles short still shows it ("42% — Sonoria").
     static QString windowTitle(const QString& appName, int state, double percent);
+    // One name per line ("%@\n"), and "..." after the 11th: how alerts list files.
+    static QString cappedNameLines(const QStringList& names);
 };

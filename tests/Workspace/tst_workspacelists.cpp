@@ -228,10 +228,11 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     QCOMPARE(started.first().first().toString(), u"Loading Media Files..."_s);
     // The folder's files follow the loose file, in the order the folder scan gives them.
     QStringList names = fileNames(workspace.getCurTableDatasource());
+    // Reports are thinned out on their way to the main thread, but the last one always arrives.
+    QCOMPARE(texts.last().first().toString(), u"Importing %1..."_s.arg(names.last()));
     QCOMPARE(names.takeFirst(), u"a.mp3"_s);
     names.sort();
     QCOMPARE(names, (QStringList{u"e.ogg"_s, u"f.vob"_s}));
-    QCOMPARE(texts.first().first().toString(), u"Importing a.mp3..."_s);
     QCOMPARE(fractions.last().first().toDouble(), 1.0);
     QCOMPARE(states.count(), 2);
     QCOMPARE(states.at(0).first().toInt(), int(AppStateLoading));

@@ -1,12 +1,179 @@
 #include "Gui/List/SXItemListView.h"
 
-#include "Workspace/SXWorkspaceItemMoves.h"
+#include "Gui/List/SXItemListModel.h"
+#include "Gui/List/SXItemRowDelegate.h"
+#include "Workspace/SXWorkspaceScheduler.h"
 
-SXItemListView::SXItemListView(SXWorkspaceItemMoves& workspace, QWidget* parent)
+#include <QKeyEvent>
+#include <QScopedValueRollback>
+
+SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
     : QListView(parent)
     , m_workspace(workspace) {
     setObjectName(QStringLiteral("itemList"));
     setAccessibleName(tr("Files"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);
+    setMouseTracking(true);
+    viewport()->setMouseTracking(true);
+    setDragDropMode(QAbstractItemView::DragDrop);
+    setDefaultDropAction(Qt::CopyAction);
+    setDropIndicatorShown(true);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+
+    m_model = new SXItemListModel(workspace, this);
+    m_delegate = new SXItemRowDelegate(workspace, this);
+    setModel(m_model);
+    setItemDelegate(m_delegate);
+
+    connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
+            &SXItemListView::reportSelection);
+    connect(m_model, &QAbstractItemModel::modelReset, this,
+            [this] { showSelection(m_workspace.selectedRows()); });
+    connect(&m_workspace, &SXWorkspaceData::selectionChanged, this, &SXItemListView::showSelection);
+    connect(&m_workspace, &SXWorkspaceScheduler::rowsRedrawRequested, m_model,
+            &SXItemListModel::redrawRows);
+    connect(&m_workspace, &SXWorkspaceData::appStateChanged, viewport(),
+            qOverload<>(&QWidget::update));
+    connect(&m_workspace, &SXWorkspacePreview::previewChanged, viewport(),
+            qOverload<>(&QWidget::update));
+    connect(this, &QAbstractItemView::doubleClicked, this,
+            [this](const QModelIndex& index) { m_workspace.playRow(index.row()); });
+    connect(m_delegate, &SXItemRowDelegate::playButtonClicked, this,
+            [this](const QModelIndex& index) {
+                m_workspace.clickPlayButton(m_model->itemAt(index.row()));
+            });
+    connect(m_delegate, &SXItemRowDelegate::rightButtonClicked, this,
+            [this](const QModelIndex& index) {
+                m_workspace.didMyListViewCellRightButtonClick(m_model->itemAt(index.row()));
+            });
+    showSelection(m_workspace.selectedRows());
+}
+
+void SXItemListView::showSelection(const QList<int>& rows) {
+    QList<int> shown;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        shown.append(index.row());
+    std::sort(shown.begin(), shown.end());
+    // std::equal: Qt 6.4's list comparison hands memcmp a null pointer for empty lists.
+    if (std::equal(shown.cbegin(), shown.cend(), rows.cbegin(), rows.cend()))
+        return;
+    const QScopedValueRollback guard(m_showingSelection, true);
+    // Runs of neighbouring rows become one range: selecting all of a long list stays cheap.
+    QItemSelection selection;
+    for (int i = 0; i < rows.size();) {
+        int last = i;
+        while (last + 1 < rows.size() && rows.at(last + 1) == rows.at(last) + 1)
+            ++last;
+        selection.select(m_model->index(rows.at(i)), m_model->index(rows.at(last)));
+        i = last + 1;
+    }
+    selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (!rows.isEmpty() && !rows.contains(currentIndex().row())) {
+        selectionModel()->setCurrentIndex(m_model->index(rows.first()),
+                                          QItemSelectionModel::NoUpdate);
+        scrollTo(currentIndex());
+    }
+}
+
+void SXItemListView::reportSelection() {
+    if (m_showingSelection)
+        return;
+    QList<int> rows;
+    for (const QModelIndex& index : selectionModel()->selectedRows())
+        rows.append(index.row());
+    m_workspace.setSelectedRows(rows);
+}
+
+void SXItemListView::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+        m_workspace.clickDeleteFile();
+        event->accept();
+        return;
+    }
+    if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
+        event->modifiers() == Qt::NoModifier) {
+        Q_EMIT startRequested();
+        event->accept();
+        return;
+    }
+    QListView::keyPressEvent(event);
+}
+
+void SXItemListView::mousePressEvent(QMouseEvent* event) {
+    if (event->button() == Qt::RightButton) {
+        // The workspace decides: select and edit the tags, cancel a conversion, or nothing.
+        if (const QModelIndex index = indexAt(event->position().toPoint()); index.isValid())
+            m_workspace.didMyListViewCellRightButtonClick(m_model->itemAt(index.row()));
+        event->accept();
+        return;
+    }
+    QListView::mousePressEvent(event);
+}
+
+void SXItemListView::mouseMoveEvent(QMouseEvent* event) {
+    setHoveredRow(indexAt(event->position().toPoint()).row());
+    QListView::mouseMoveEvent(event);
+}
+
+void SXItemListView::mouseDoubleClickEvent(QMouseEvent* event) {
+    // Two quick clicks on a row's button are two clicks of that button, not a double-click.
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (index.isValid()) {
+        QStyleOptionViewItem option;
+        initViewItemOption(&option);
+        option.rect = visualRect(index);
+        if (m_delegate->isOnButton(option, index, event->position().toPoint())) {
+            QMouseEvent press(QEvent::MouseButtonPress, event->position(), event->globalPosition(),
+                              event->button(), event->buttons(), event->modifiers());
+            mousePressEvent(&press);
+            return;
+        }
+    }
+    QListView::mouseDoubleClickEvent(event);
+}
+
+bool SXItemListView::viewportEvent(QEvent* event) {
+    if (event->type() == QEvent::Leave)
+        setHoveredRow(-1);
+    return QListView::viewportEvent(event);
+}
+
+void SXItemListView::setHoveredRow(int row) {
+    const int before = m_delegate->hoveredRow();
+    if (row == before)
+        return;
+    m_delegate->setHoveredRow(row);
+    for (int changed : {before, row}) {
+        if (changed >= 0)
+            update(m_model->index(changed));
+    }
+}
+
+bool SXItemListView::refuseDrag(QDropEvent* event) {
+    if (SXListDrop::acceptsDrops(m_workspace))
+        return false;
+    event->ignore();
+    return true;
+}
+
+void SXItemListView::dragEnterEvent(QDragEnterEvent* event) {
+    if (refuseDrag(event))
+        return;
+    QListView::dragEnterEvent(event);
+}
+
+void SXItemListView::dragMoveEvent(QDragMoveEvent* event) {
+    if (refuseDrag(event))
+        return;
+    QListView::dragMoveEvent(event);
+    // Files from outside are copied, never moved away from where they are.
+    if (event->isAccepted())
+        event->setDropAction(Qt::CopyAction);
+}
+
+void SXItemListView::startDrag(Qt::DropActions supportedActions) {
+    m_delegate->setDraggingRows(true);
+    QListView::startDrag(supportedActions & Qt::CopyAction);
+    m_delegate->setDraggingRows(false);
 }

@@ -1,8 +1,11 @@
 #include "Gui/Window/SXMainAppController.h"
 
 #include "App/SXPreferences.h"
+#include "Gui/Dialogs/SXAddFilesDialog.h"
+#include "Gui/Dialogs/SXLoadingSheet.h"
 #include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemListView.h"
+#include "Gui/List/SXWindowDrops.h"
 #include "Gui/Panels/SXFileInfoViewController.h"
 #include "Gui/Panels/SXHelpView.h"
 #include "Gui/Panels/SXIcons.h"
@@ -19,7 +22,6 @@
 
 #include <QApplication>
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QScreen>
@@ -40,6 +42,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     new SXRunFeedback(*this, *m_workspace);
     m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
     new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    connect(_listView, &SXItemListView::startRequested, this, &SXMainAppController::startFromList);
     new SXFileInfoViewController(*this, *m_workspace);
     connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
@@ -51,6 +54,8 @@ SXMainAppController::SXMainAppController(QWidget* parent)
                 editor->setMusicInfo(item);
                 editor->open();
             });
+    new SXLoadingSheet(*m_workspace, *this);
+    new SXWindowDrops(*this, *_tabBar, *m_workspace);
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
@@ -190,18 +195,17 @@ void SXMainAppController::perform(SXCommand command) {
     }
 }
 
+void SXMainAppController::startFromList() {
+    // Enter is the Start item, never Stop: a key pressed by accident must not end a run.
+    const SXCommandContext context = SXCommandContext::of(m_workspace, m_workspace, true);
+    if (sxValidateMenuCommand(SXCommand::Start, context).enabled)
+        perform(SXCommand::Start);
+    else
+        m_presenter->beep();
+}
+
 void SXMainAppController::clickAddFiles() {
-    QStringList patterns;
-    for (const QString& ext : GlobalFun::getSupportedFmts())
-        patterns.append(QStringLiteral("*.") + ext);
-    auto* dialog = new QFileDialog(this, tr("Add Files"));
-    dialog->setObjectName(QStringLiteral("openFiles"));
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    dialog->setWindowModality(Qt::WindowModal);
-    dialog->setFileMode(QFileDialog::ExistingFiles);
-    dialog->setNameFilter(tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))));
-    connect(dialog, &QFileDialog::filesSelected, m_workspace, &SXWorkspace::loadAndParseFiles);
-    dialog->open();
+    SXAddFilesDialog::openFor(*m_workspace, *this);
 }
 
 void SXMainAppController::closeEvent(QCloseEvent* event) {

@@ -31,6 +31,8 @@ public:
     // A command of the menus or the toolbar meant for this window.
     void perform(SXCommand command);
     void clickAddFiles();
+    // Enter on the list: Start when it is allowed, otherwise the beep.
+    void startFromList();
 
 Q_SIGNALS:
     // Commands that belong to the application rather than to one window (preferences, help).

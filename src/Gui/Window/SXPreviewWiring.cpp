@@ -21,8 +21,6 @@ SXPreviewWiring::SXPreviewWiring(QWidget& window, QAbstractItemView& list, SXIte
                                  SXWorkspace& workspace)
     : QObject(&window) {
     SXWorkspace* ws = &workspace;
-    connect(&list, &QAbstractItemView::doubleClicked, ws,
-            [ws](const QModelIndex& index) { ws->playRow(index.row()); });
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), &list);
     space->setContext(Qt::WidgetWithChildrenShortcut);
     connect(space, &QShortcut::activated, ws, &SXWorkspace::clickPlaySelected);

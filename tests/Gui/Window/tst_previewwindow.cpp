@@ -1,6 +1,9 @@
 #include "support/PulseServer.h"
 #include "support/TestSupport.h"
+#include "support/gui/GuiTestSupport.h"
 
+#include "Gui/List/SXItemListView.h"
+#include "Gui/List/SXItemRowDelegate.h"
 #include "Gui/Panels/SXFileInfoViewController.h"
 #include "Gui/Panels/SXItemStateView.h"
 #include "Gui/Window/SXMainAppController.h"
@@ -30,14 +33,10 @@ private Q_SLOTS:
     void cleanup();
     void infoPanelFollowsTheSelectionWithItsFallbacks();
     void stripShowsThePreviewPlayedFromTheKeyboard();
+    void rowGesturesPlayAndStopButNeverDuringARun();
 
 private:
     SXMusicInfoList addFiles(const QStringList& names);
-    void grab(QWidget* widget, const QString& name) const {
-        const QString folder = qEnvironmentVariable("SONORIA_GRAB_DIR");
-        if (!folder.isEmpty())
-            widget->grab().save(folder + u'/' + name + u".png"_s);
-    }
 
     QTemporaryDir m_dir;
     SonoriaTest::PulseServer m_pulse;
@@ -102,7 +101,7 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     QCOMPARE(panel->labelText(u"tfInfoTitle"_s), u"Morning"_s);
     QCOMPARE(panel->labelText(u"tfInfoArtist"_s), u"Ann"_s);
     QVERIFY(!panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
-    grab(m_window.get(), u"window-info-panel"_s);
+    SonoriaGuiTest::grab(m_window.get(), u"window-info-panel"_s);
 
     workspace.setSelectedRows({1}); // it follows the selection
     const QList<QPair<QString, QString>> fallbacks{
@@ -129,7 +128,7 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     SXWorkspace& workspace = m_window->workspace();
     workspace.setSelectedRows({0});
     QSignalSpy progress(&workspace, &SXWorkspace::previewProgress);
-    auto* list = m_window->findChild<QAbstractItemView*>();
+    auto* list = m_window->findChild<SXItemListView*>();
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Space);
     QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
@@ -140,7 +139,7 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     QCOMPARE(look.name, u"Morning - Ann"_s);
     QVERIFY2(look.playTime != u"00:00"_s, qPrintable(look.playTime));
     QVERIFY(look.slider > 0 && look.musicTime.startsWith(u'-'));
-    grab(m_window->toolbar().toolBar(), u"strip-playing"_s);
+    SonoriaGuiTest::grab(m_window->toolbar().toolBar(), u"strip-playing"_s);
 
     strip->findChild<QToolButton*>(u"btnPause"_s)->click();
     QVERIFY(workspace.isPreviewPaused());
@@ -151,10 +150,44 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     QVERIFY(!workspace.isPlayingMusic(workspace.getCurTableDatasource().first()));
 }
 
-int main(int argc, char** argv) {
-    SonoriaTest::prepareEnvironment();
-    QApplication app(argc, argv);
-    TestPreviewWindow test;
-    return QTest::qExec(&test, argc, argv);
+void TestPreviewWindow::rowGesturesPlayAndStopButNeverDuringARun() {
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
+    const SXMusicInfoList rows = addFiles({u"tagged.mp3"_s, u"surround.flac"_s});
+    SXWorkspace& workspace = m_window->workspace();
+    auto* list = m_window->findChild<SXItemListView*>();
+    QWidget* viewport = list->viewport();
+    const auto centre = [list](int row) {
+        return list->visualRect(list->model()->index(row, 0)).center();
+    };
+    const auto playButton = [list](int row) {
+        return SXItemRowGeometry::of(list->visualRect(list->model()->index(row, 0))).play.center();
+    };
+    const auto doubleClick = [viewport](const QPoint& at) {
+        QTest::mouseClick(viewport, Qt::LeftButton, {}, at);
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, at);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, at);
+    };
+
+    doubleClick(centre(1));
+    QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
+    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    doubleClick(centre(1)); // a double-click never stops the row it plays
+    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(1)); // its button does
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(!workspace.isPlayingMusic(rows.at(1)));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
+    QVERIFY(workspace.isPlayingMusic(rows.at(0)));
+
+    workspace.stopPlayerWithRefreshUI();
+    workspace.setAppState(AppStateConverting);
+    doubleClick(centre(1));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
+    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
+    QVERIFY(!workspace.isPlayingMusic(rows.at(0)) && !workspace.isPlayingMusic(rows.at(1)));
+    workspace.setAppState(AppStateIdle);
 }
+
+SONORIA_GUI_TEST_MAIN(TestPreviewWindow)
 #include "tst_previewwindow.moc"

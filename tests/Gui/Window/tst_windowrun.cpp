@@ -1,6 +1,8 @@
 #include "Gui/Dialogs/SXOutputFolderDialog.h"
+#include "Gui/List/SXItemListView.h"
 #include "Gui/Window/SXContainerTabBar.h"
 #include "Gui/Window/SXMainAppController.h"
+#include "Gui/Window/SXWindowPresenter.h"
 #include "Gui/Window/SXWindowToolbar.h"
 #include "Model/SXDataEngine.h"
 #include "Shared/SXSettings.h"
@@ -18,6 +20,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
@@ -70,7 +73,7 @@ private:
     // Adds generated sources to the selected container and waits until they are listed.
     void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
     // Presses Start and answers the folder sheet with `folder`, organised by format.
-    void startInto(const QString& folder);
+    void startInto(const QString& folder, bool byEnterOnTheList = false);
     static QStringList filesUnder(const QString& folder);
     QAction* startAction() const;
 
@@ -130,10 +133,16 @@ QAction* TestWindowRun::startAction() const {
     return nullptr;
 }
 
-void TestWindowRun::startInto(const QString& folder) {
+void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     QAction* start = startAction();
     QVERIFY(start && start->isEnabled());
-    start->trigger();
+    if (byEnterOnTheList) {
+        auto* list = m_window->findChild<SXItemListView*>();
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Return);
+    } else {
+        start->trigger();
+    }
     auto* sheet = openDialog<SXOutputFolderDialog>(m_window.get());
     QVERIFY(sheet);
     QVERIFY(sheet->findChildren<QLabel*>().size() > 0);
@@ -215,8 +224,13 @@ void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
     const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
                             QStringLiteral("c.wav"), QStringLiteral("d.wav")};
     addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
-    startInto(m_output->path());
+    startInto(m_output->path(), true);
     QTRY_VERIFY_WITH_TIMEOUT(!filesUnder(m_output->path()).isEmpty(), 20000);
+    // Enter is Start only: during a run it beeps and the run goes on.
+    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
+    QTest::keyClick(m_window->findChild<SXItemListView*>(), Qt::Key_Enter);
+    QCOMPARE(beeps.count(), 1);
+    QCOMPARE(m_window->workspace().enumAppState(), int(AppStateConverting));
     startAction()->trigger(); // it reads Stop now
     for (const SXMusicInfoPtr& item : m_window->workspace().getCurTableDatasource())
         QCOMPARE(item->dConvertProgress(), -3.0);

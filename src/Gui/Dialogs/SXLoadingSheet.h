@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QDialog>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+class SXWorkspaceFileLists;
+
+// The sheet over a workspace window while an add run probes its files: "Loading Media
+// Files...", then "Importing <name>..." per file, a determinate bar and Cancel. It is
+// window-modal and follows the workspace's load signals; Cancel (or Escape) asks the workspace
+// to cancel, which hides the sheet at once.
+class SXLoadingSheet final : public QDialog {
+    Q_OBJECT
+public:
+    SXLoadingSheet(SXWorkspaceFileLists& workspace, QWidget& window);
+
+    QString progressText() const;
+    double progressValue() const; // 0..1
+
+public Q_SLOTS:
+    void reject() override;
+
+private:
+    void beginSheet(const QString& text);
+    void showText(const QString& text);
+    void showValue(double fraction);
+    void endSheet();
+
+    SXWorkspaceFileLists& m_workspace;
+    QLabel* _tfProgressName = nullptr;
+    QProgressBar* _piIndicator = nullptr;
+    QPushButton* m_cancel = nullptr;
+};
