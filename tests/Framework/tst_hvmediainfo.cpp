@@ -60,7 +60,10 @@ private Q_SLOTS:
                     .arg(size),
                 args("-frames:v 1 -q:v 1")));
         QVERIFY(QFileInfo(photo).size() > 250'000 && QFileInfo(poster).size() > 1'100'000);
-        const QString withPhoto = "-i " + photo + " -map 0:a -map 1:v -c:v copy ";
+        const auto with = [](const QString& picture) {
+            return "-i " + picture + " -map 0:a -map 1:v -c:v copy ";
+        };
+        const QString withPhoto = with(photo);
         const QString id3Cover = " -id3v2_version 3 -disposition:v attached_pic";
 
         // trueSuffix: the file's real kind when its name says otherwise.
@@ -90,12 +93,11 @@ private Q_SLOTS:
         row("photo.mp3", 44100, withPhoto + "-ac 2" + id3Cover);
         // Without the Xing header the duration comes from the size of what follows the tag.
         row("photo-cbr.mp3", 44100, withPhoto + "-write_xing 0" + id3Cover);
-        row("photo.flac", 48000, withPhoto + "-ac 2 -disposition:v attached_pic");
+        row("poster.flac", 48000, with(poster) + "-ac 2 -disposition:v attached_pic");
         row("photo-flac.mp3", 44100, withPhoto + "-c:a flac -disposition:v attached_pic -f flac",
             HVMediaTypeAudio, "flac");
         // ffprobe itself goes by the extension when a tag fills its whole look at the file.
-        row("poster-mp3.m4a", 44100,
-            "-i " + poster + " -map 0:a -map 1:v -c:a libmp3lame -c:v copy -f mp3" + id3Cover,
+        row("poster-mp3.m4a", 44100, with(poster) + "-c:a libmp3lame -f mp3" + id3Cover,
             HVMediaTypeAudio, "mp3");
     }
 
