@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
-#   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default)
+#   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default; BASELINE_CLI=path to an
+#   earlier sonoria-cli adds it to the loading benchmark)
 set -euo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
 build="$root/build/release"
@@ -23,6 +24,7 @@ unset SONORIA_VERBOSE
 now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
 median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
+per_file() { awk -v t="$1" -v n="$2" 'BEGIN { printf "%.2f", t / n }'; } # ms in all, files
 
 ffm() { ffmpeg -nostdin -hide_banner -loglevel error -y "$@"; }
 
@@ -68,37 +70,95 @@ bench_wav() {
     compare_conversion "2. 200 WAV x 2 s -> MP3 128k, 2 jobs" "$work/wav" wav 1.10
 }
 
-bench_load() {
-    mkdir -p "$work/load"
-    ffm -f lavfi -i "sine=f=440:d=1" -metadata title="Short" "$work/load/short0001.mp3"
-    for i in $(seq 2 1000); do cp "$work/load/short0001.mp3" "$work/load/short$(printf %04d "$i").mp3"; done
-    local ta=() tb=() t i f a b
+# A picture of random noise, which does not compress: its size follows its dimensions.
+noise_picture() { # output file, width and height in pixels, extra ffmpeg options
+    local out="$1" side="$2"; shift 2
+    ffm -f lavfi -i "nullsrc=s=${side}x${side},geq=r='random(1)*255':g='random(2)*255':b='random(3)*255'" \
+        -frames:v 1 "$@" "$out"
+}
+
+# Runs a command, output discarded; appends its wall-clock and CPU milliseconds (user and
+# system, its child processes included) to the arrays named first and second.
+measure() { # wall array, CPU array, command...
+    local -n wall_ms="$1" cpu_ms="$2"
+    shift 2
+    local out
+    out=$(mktemp)
+    /usr/bin/time -f '%e %U %S' -o "$out" "$@" >/dev/null
+    wall_ms+=($(awk '{ printf "%d", $1 * 1000 }' "$out"))
+    cpu_ms+=($(awk '{ printf "%d", ($2 + $3) * 1000 }' "$out"))
+    rm -f "$out"
+}
+
+# One ffprobe per file of a folder; arguments: the folder and the files' extension.
+ffprobe_each=(bash -c
+    'for f in "$0"/*."$1"; do ffprobe -v error -show_format -show_streams "$f"; done')
+
+# Alternates a dry run over one folder with one ffprobe per file (and, when BASELINE_CLI names
+# an earlier build of the tool, a dry run of that one); prints per-file medians of wall-clock
+# and CPU time. On a shared machine the CPU times are the steadier comparison.
+compare_load() { # label, folder, extension, number of files
+    local label="$1" src="$2" ext="$3" count="$4" i a b c
+    local wa=() ca=() wb=() cb=() wc=() cc=()
     for ((i = 1; i <= rounds; i++)); do
-        t=$(now_ms)
-        "$cli" -n -o "$work/never" "$work/load" >/dev/null
-        ta+=($(( $(now_ms) - t )))
-        t=$(now_ms)
-        for f in "$work"/load/*.mp3; do ffprobe -v error -show_format -show_streams "$f" >/dev/null; done
-        tb+=($(( $(now_ms) - t )))
+        measure wa ca "$cli" -n -o "$work/never" "$src"
+        measure wb cb "${ffprobe_each[@]}" "$src" "$ext"
+        if [ -n "${BASELINE_CLI:-}" ]; then
+            measure wc cc "$BASELINE_CLI" -n -o "$work/never" "$src"
+        fi
     done
-    a=$(printf '%s\n' "${ta[@]}" | median)
-    b=$(printf '%s\n' "${tb[@]}" | median)
-    echo "3. load 1000 files: sonoria-cli --dry-run $(awk -v a="$a" 'BEGIN { printf "%.2f", a / 1000 }') ms/file," \
-         "ffprobe per file $(awk -v b="$b" 'BEGIN { printf "%.2f", b / 1000 }') ms/file," \
-         "$(ratio "$b" "$a")x faster (target >= 20x)"
-    echo "    rounds: cli ${ta[*]} ms / ffprobe ${tb[*]} ms"
+    a=$(printf '%s\n' "${wa[@]}" | median) b=$(printf '%s\n' "${wb[@]}" | median)
+    echo "$label: sonoria-cli --dry-run $(per_file "$a" "$count") ms/file," \
+         "ffprobe per file $(per_file "$b" "$count") ms/file: $(ratio "$b" "$a")x faster"
+    echo "    rounds (wall ms): cli ${wa[*]} / ffprobe ${wb[*]}"
+    a=$(printf '%s\n' "${ca[@]}" | median) b=$(printf '%s\n' "${cb[@]}" | median)
+    echo "    CPU: cli $(per_file "$a" "$count") ms/file, ffprobe $(per_file "$b" "$count") ms/file:" \
+         "$(ratio "$b" "$a")x less (rounds: cli ${ca[*]} / ffprobe ${cb[*]} ms)"
+    if [ -n "${BASELINE_CLI:-}" ]; then
+        c=$(printf '%s\n' "${wc[@]}" | median)
+        echo "    baseline build: $(per_file "$c" "$count") ms/file (rounds ${wc[*]} ms), CPU" \
+             "$(per_file "$(printf '%s\n' "${cc[@]}" | median)" "$count") ms/file (rounds ${cc[*]} ms)"
+    fi
+}
+
+# Copies one file to `count` numbered names in a folder of its own.
+fill_folder() { # source file, folder, name stem, count
+    local i ext="${1##*.}"
+    mkdir -p "$2"
+    for i in $(seq 1 "$4"); do cp "$1" "$2/$3$(printf %04d "$i").$ext"; done
+}
+
+bench_load() {
+    mkdir -p "$work/load-src"
+    # Covers as large as real libraries carry, as JPEG like most of them: 650x650 of noise at the
+    # best quality is about 300 KB, 1200x1200 about 1 MB.
+    noise_picture "$work/load-src/cover300k.jpg" 650 -q:v 1
+    noise_picture "$work/load-src/cover1m.jpg" 1200 -q:v 1
+    ffm -f lavfi -i "sine=f=440:d=1" -metadata title="Short" "$work/load-src/short.mp3"
+    ffm -f lavfi -i "sine=f=440:d=1" -i "$work/load-src/cover300k.jpg" -map 0 -map 1 -c:v copy \
+        -id3v2_version 3 -disposition:v attached_pic -metadata title="Short" "$work/load-src/art.mp3"
+    ffm -f lavfi -i "sine=f=440:d=1" -i "$work/load-src/cover1m.jpg" -map 0 -map 1 -c:v copy \
+        -disposition:v attached_pic -metadata title="Short" "$work/load-src/art.flac"
+    fill_folder "$work/load-src/short.mp3" "$work/load" short 1000
+    fill_folder "$work/load-src/art.mp3" "$work/load-art" art 1000
+    fill_folder "$work/load-src/art.flac" "$work/load-flac" art 200
+    echo "3. loading (covers of $(stat -c %s "$work/load-src/cover300k.jpg") and" \
+         "$(stat -c %s "$work/load-src/cover1m.jpg") bytes; target >= 50x with covers," \
+         "no slower than before without)"
+    compare_load "   a. 1000 MP3 without art" "$work/load" mp3 1000
+    compare_load "   b. 1000 MP3 with a 300 KB ID3v2 cover" "$work/load-art" mp3 1000
+    compare_load "   c. 200 FLAC with a 1 MB picture block" "$work/load-flac" flac 200
 }
 
 peak_kb() { /usr/bin/time -f %M "$cli" -n -o "$work/never" "$@" 2>&1 >/dev/null | tail -n 1; }
 
 bench_memory() {
     mkdir -p "$work/mem1" "$work/mem"
-    # Noise does not compress: a 460x460 RGB PNG of random noise is about 300 KB.
-    ffm -f lavfi -i "nullsrc=s=460x460,geq=r='random(1)*255':g='random(2)*255':b='random(3)*255'" \
-        -frames:v 1 "$work/cover.png"
+    # A 460x460 RGB PNG of random noise is about 300 KB.
+    noise_picture "$work/cover.png" 460
     ffm -f lavfi -i "sine=f=440:d=1" -i "$work/cover.png" -map 0 -map 1 -c:a libmp3lame -c:v copy \
         -id3v2_version 3 -metadata:s:v comment="Cover (front)" "$work/mem1/art0001.mp3"
-    for i in $(seq 1 2000); do cp "$work/mem1/art0001.mp3" "$work/mem/art$(printf %04d "$i").mp3"; done
+    fill_folder "$work/mem1/art0001.mp3" "$work/mem" art 2000
     local one=() many=() i o m
     for ((i = 1; i <= rounds; i++)); do
         one+=("$(peak_kb "$work/mem1")")

@@ -3,8 +3,10 @@
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
 #include <memory>
 #include <mutex>
+#include <vector>
 
 extern "C" {
 #include <libavcodec/avcodec.h>
@@ -13,6 +15,7 @@ extern "C" {
 #include <libavutil/dict.h>
 #include <libavutil/error.h>
 #include <libavutil/log.h>
+#include <libavutil/pixfmt.h>
 }
 
 namespace {
@@ -62,6 +65,108 @@ bool fail(QString* error, const QString& text) {
     return false;
 }
 
+// An ID3v2 tag: a 10-byte header ("ID3", version, flags, then the size of what follows in four
+// 7-bit bytes), frames and padding, and a 10-byte footer when flag bit 4 says so.
+constexpr qint64 id3v2HeaderSize = 10;
+
+// Length of the ID3v2 tag whose header `header` is, 0 when it is none. The header test is the
+// one libavformat applies.
+qint64 id3v2TagLength(const QByteArray& header) {
+    if (header.size() < id3v2HeaderSize || !header.startsWith("ID3"))
+        return 0;
+    const auto byte = [&header](int index) { return quint8(header[index]); };
+    if (byte(3) == 0xff || byte(4) == 0xff)
+        return 0;
+    qint64 size = 0;
+    for (int index = 6; index < id3v2HeaderSize; ++index) {
+        if (byte(index) & 0x80)
+            return 0;
+        size = (size << 7) | byte(index);
+    }
+    const bool hasFooter = byte(5) & 0x10;
+    return id3v2HeaderSize + size + (hasFooter ? id3v2HeaderSize : 0);
+}
+
+// Bytes of the ID3v2 tags the file starts with (some writers put several in a row).
+qint64 leadingTagsLength(QFile& file) {
+    qint64 offset = 0;
+    while (file.seek(offset)) {
+        const qint64 length = id3v2TagLength(file.read(id3v2HeaderSize));
+        if (length == 0)
+            break;
+        offset += length;
+    }
+    return offset;
+}
+
+// libavformat's own format detection over the bytes from `offset` on: windows doubling from
+// 2 KiB until a demuxer is sure, the last one (1 MiB, or the end of the file) taking the best
+// guess. The file name gives demuxers that know its extension a say, as libavformat does.
+const AVInputFormat* detectFormatAt(QFile& file, qint64 offset, const QByteArray& fileName) {
+    constexpr qint64 firstWindow = 2048;
+    constexpr qint64 lastWindow = 1 << 20;
+    if (!file.seek(offset))
+        return nullptr;
+    std::vector<unsigned char> window;
+    qint64 filled = 0;
+    for (qint64 size = firstWindow; size <= lastWindow; size *= 2) {
+        window.resize(size + AVPROBE_PADDING_SIZE);
+        const qint64 got =
+            file.read(reinterpret_cast<char*>(window.data()) + filled, size - filled);
+        if (got < 0)
+            return nullptr;
+        filled += got;
+        std::fill(window.begin() + filled, window.end(), 0);
+        const bool lastTry = filled < size || size == lastWindow;
+        AVProbeData data = {fileName.constData(), window.data(), int(filled), nullptr};
+        int score = lastTry ? 0 : AVPROBE_SCORE_RETRY;
+        if (const AVInputFormat* format = av_probe_input_format2(&data, 1, &score))
+            return format;
+        if (lastTry)
+            break;
+    }
+    return nullptr;
+}
+
+// Where the demuxer should start reading, and which one.
+struct MediaStart {
+    const AVInputFormat* format = nullptr; // none: libavformat detects it from the first byte
+    qint64 offset = 0;
+};
+
+// libavformat detects a file's format over a window that grows from 2 KiB and skips a leading
+// ID3v2 tag only once the window holds all of it: behind a 300 KB cover every format detector
+// ran nine times over up to 512 KB (20 ms a file), and behind a cover over 1 MiB the extension
+// alone decided. Skipping the tags by their own header makes detection cost the same as for an
+// untagged file. The tags are tag-library business, so the demuxer starts after them too.
+MediaStart findMediaStart(const QString& path) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return {};
+    const qint64 tagsLength = leadingTagsLength(file);
+    if (tagsLength == 0)
+        return {};
+    // Nothing recognisable after the tags: leave it all to libavformat, as for any other file.
+    const AVInputFormat* format = detectFormatAt(file, tagsLength, QFile::encodeName(path));
+    return format ? MediaStart{format, tagsLength} : MediaStart{};
+}
+
+// avformat_find_stream_info decodes a cover picture only to learn its size and pixel format,
+// which nobody here reads: 2 to 20 ms for a 300 KB to 1 MB cover, ten times the rest of the
+// probe. Marking them known spares the decode; the context is closed right after the probe.
+void skipCoverDecoding(AVFormatContext& context) {
+    for (unsigned i = 0; i < context.nb_streams; ++i) {
+        AVStream& stream = *context.streams[i];
+        if ((stream.disposition & AV_DISPOSITION_ATTACHED_PIC) == 0)
+            continue;
+        AVCodecParameters& picture = *stream.codecpar;
+        if (picture.width <= 0 || picture.height <= 0)
+            picture.width = picture.height = 1;
+        if (picture.format < 0)
+            picture.format = AV_PIX_FMT_RGB24;
+    }
+}
+
 // Opens the file and reads just enough packets to know its streams (libav's default probe size
 // and analysis duration bound that read; nothing is decoded beyond it).
 FormatContextPtr openMedia(const QString& path, QString* error) {
@@ -74,8 +179,11 @@ FormatContextPtr openMedia(const QString& path, QString* error) {
     // packets, in case it hides another codec; that costs ten times a whole MP3 probe. The rare
     // hidden stream is still found by ffmpeg itself when it converts.
     av_dict_set(&options, "max_probe_packets", "0", 0);
+    const MediaStart start = findMediaStart(path);
+    if (start.offset > 0)
+        av_dict_set_int(&options, "skip_initial_bytes", start.offset, 0);
     AVFormatContext* raw = nullptr;
-    const int opened = avformat_open_input(&raw, url.constData(), nullptr, &options);
+    const int opened = avformat_open_input(&raw, url.constData(), start.format, &options);
     av_dict_free(&options);
     if (opened < 0) {
         fail(error,
@@ -83,6 +191,7 @@ FormatContextPtr openMedia(const QString& path, QString* error) {
         return nullptr;
     }
     FormatContextPtr context(raw);
+    skipCoverDecoding(*context);
     const int found = avformat_find_stream_info(context.get(), nullptr);
     if (found < 0) {
         fail(error,

@@ -4,9 +4,11 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <sys/stat.h>
 #include <thread>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -42,17 +44,38 @@ private Q_SLOTS:
         QTest::addColumn<QString>("source");
         QTest::addColumn<QStringList>("extra");
         QTest::addColumn<int>("mediaType");
+        QTest::addColumn<QString>("trueSuffix");
 
         const QString cover = path(QStringLiteral("cover.png"));
         QVERIFY(SonoriaTest::makeMedia(cover, "color=c=red:size=64x64", args("-frames:v 1")));
+        // Covers as large as real ones: noise keeps the JPEG from shrinking. The larger one is
+        // over the 1 MiB that libavformat looks at to tell a format.
+        const QString photo = path(QStringLiteral("photo.jpg"));
+        const QString poster = path(QStringLiteral("poster.jpg"));
+        for (const auto& [picture, size] : {std::pair{photo, 640}, std::pair{poster, 1280}})
+            QVERIFY(SonoriaTest::makeMedia(
+                picture,
+                QStringLiteral("nullsrc=s=%1x%1,geq=r='random(1)*255':g='random(2)*255':"
+                               "b='random(3)*255'")
+                    .arg(size),
+                args("-frames:v 1 -q:v 1")));
+        QVERIFY(QFileInfo(photo).size() > 250'000 && QFileInfo(poster).size() > 1'100'000);
+        const auto with = [](const QString& picture) {
+            return "-i " + picture + " -map 0:a -map 1:v -c:v copy ";
+        };
+        const QString withPhoto = with(photo);
+        const QString id3Cover = " -id3v2_version 3 -disposition:v attached_pic";
+
+        // trueSuffix: the file's real kind when its name says otherwise.
         const auto row = [](const char* name, int rate, const QString& extra,
-                            int type = HVMediaTypeAudio) {
+                            int type = HVMediaTypeAudio, const QString& trueSuffix = {}) {
             QString source =
                 QStringLiteral("sine=frequency=440:sample_rate=%1:duration=2").arg(rate);
             if (type == HVMediaTypeVideo)
                 source.prepend(QStringLiteral("testsrc=duration=2:size=160x120:rate=10[out0];"))
                     .append(QStringLiteral("[out1]"));
-            QTest::newRow(name) << QString::fromLatin1(name) << source << args(extra) << type;
+            QTest::newRow(name) << QString::fromLatin1(name) << source << args(extra) << type
+                                << trueSuffix;
         };
         row("stereo.mp3", 44100, "-ac 2 -b:a 192k");
         row("tone.m4a", 44100, "-c:a aac -ac 2");
@@ -67,18 +90,31 @@ private Q_SLOTS:
         row("cover.mp3", 44100,
             "-i " + cover +
                 " -map 0:a -map 1:v -c:v png -id3v2_version 3 -disposition:v attached_pic");
+        row("photo.mp3", 44100, withPhoto + "-ac 2" + id3Cover);
+        // Without the Xing header the duration comes from the size of what follows the tag.
+        row("photo-cbr.mp3", 44100, withPhoto + "-write_xing 0" + id3Cover);
+        row("poster.flac", 48000, with(poster) + "-ac 2 -disposition:v attached_pic");
+        row("photo-flac.mp3", 44100, withPhoto + "-c:a flac -disposition:v attached_pic -f flac",
+            HVMediaTypeAudio, "flac");
+        // ffprobe itself goes by the extension when a tag fills its whole look at the file.
+        row("poster-mp3.m4a", 44100, with(poster) + "-c:a libmp3lame -f mp3" + id3Cover,
+            HVMediaTypeAudio, "mp3");
     }
 
-    // Every accepted kind of input against the command-line prober's view of the same file.
+    // Every accepted kind of input against the command-line prober's view of the same file,
+    // under its true name when its own misleads.
     void probesLikeFfprobe() {
         QFETCH(QString, fileName);
         QFETCH(QString, source);
         QFETCH(QStringList, extra);
         QFETCH(int, mediaType);
+        QFETCH(QString, trueSuffix);
 
         const QString file = path(fileName);
         QVERIFY(SonoriaTest::makeMedia(file, source, extra));
-        const ProbeReference reference = ProbeReference::read(file);
+        const QString trulyNamed = trueSuffix.isEmpty() ? file : file + '.' + trueSuffix;
+        QVERIFY(trulyNamed == file || QFile::copy(file, trulyNamed));
+        const ProbeReference reference = ProbeReference::read(trulyNamed);
         QVERIFY(reference.ok && reference.bitRate > 8000);
 
         HVMediaInfoItem item;
