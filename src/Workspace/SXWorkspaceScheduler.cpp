@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QRegularExpression>
 
+#include <utility>
+
 SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
     : SXWorkspaceItemMoves(parent)
     , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
@@ -77,6 +79,9 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     // Every item is queued again at each Start, whatever an earlier run made of it.
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
+        const QString output =
+            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+        bool outputMade = false; // once per container: no disk access per item on this thread
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             item->setDConvertProgress(SXProgress::Waiting);
             // Without a media record or a format there is nothing to convert: it stays waiting.
@@ -84,10 +89,9 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
                 continue;
             copyChoicesInto(item, *setting, playlist);
             auto operation = std::make_shared<ConvertOperation>(item);
-            const QString output =
-                m_bOrganized ? folder + QLatin1Char('/') + setting->fmtName() : folder;
             SXLog::line(QStringLiteral("the path = %1").arg(output));
-            GlobalFun::MakeSureFolderExsist(output);
+            if (!std::exchange(outputMade, true))
+                GlobalFun::MakeSureFolderExsist(output);
             operation->setStrOutFilePath(output);
             operation->setDelegate(this);
             _queueConvertTask->addOperation(operation);
