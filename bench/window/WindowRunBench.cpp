@@ -6,12 +6,15 @@
 #include "Gui/Window/SXMainAppController.h"
 #include "MainThreadWatch.h"
 #include "Model/SXDataEngine.h"
+#include "Shared/SXLog.h"
 #include "Workspace/SXWorkspace.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QElapsedTimer>
 #include <QTimer>
+
+#include <sys/resource.h>
 
 #include <cstdio>
 
@@ -57,6 +60,7 @@ int main(int argc, char** argv) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("SONORIA_NO_DESKTOP_OPEN", "1");
     QApplication app(argc, argv);
+    SXLog::install(false); // the journal, as the program logs, not standard error
     const Options options = parse(app);
     if (options.output.isEmpty() || options.files.isEmpty()) {
         std::fprintf(stderr, "usage: sonoria-bench-window [-f FORMAT] [-j JOBS] -o DIR FILE...\n");
@@ -93,12 +97,13 @@ int main(int argc, char** argv) {
                          QTimer::singleShot(0, &app, [] { QCoreApplication::exit(0); });
                      });
     if (!qEnvironmentVariableIsEmpty("BENCHDEBUG")) {
-        QObject::connect(&workspace, &SXWorkspace::totalProgressChanged, &app,
-                         [](double p) { std::fprintf(stderr, "progress %.1f\n", p); });
-        QObject::connect(&workspace, &SXWorkspace::appStateChanged, &app,
-                         [](int s) { std::fprintf(stderr, "state %d\n", s); });
-        QObject::connect(&workspace, &SXWorkspace::loadFinished, &app,
-                         [] { std::fprintf(stderr, "loaded\n"); });
+        watch.reportBlocksOver(30.0);
+        QObject::connect(&workspace, &SXWorkspace::totalProgressChanged, &app, [&](double p) {
+            std::fprintf(stderr, "%.3f s progress %.1f\n", clock.elapsed() / 1e3, p);
+        });
+        QObject::connect(&workspace, &SXWorkspace::appStateChanged, &app, [&](int s) {
+            std::fprintf(stderr, "%.3f s state %d\n", clock.elapsed() / 1e3, s);
+        });
     }
     QTimer::singleShot(0, &app, [&] {
         watch.start();
@@ -107,8 +112,13 @@ int main(int argc, char** argv) {
     });
     app.exec();
     const qint64 wall = clock.elapsed();
-    std::printf("wall_ms=%lld longest_block_ms=%.1f blocks_over_50ms=%d succeeded=%d failed=%d\n",
+    rusage self{};
+    getrusage(RUSAGE_SELF, &self);
+    const long long cpuMs = (self.ru_utime.tv_sec + self.ru_stime.tv_sec) * 1000LL +
+                            (self.ru_utime.tv_usec + self.ru_stime.tv_usec) / 1000;
+    std::printf("wall_ms=%lld longest_block_ms=%.1f blocks_over_50ms=%d succeeded=%d failed=%d "
+                "own_cpu_ms=%lld\n",
                 static_cast<long long>(wall), watch.longestBlockMs(), watch.blocksOver(50.0),
-                succeeded, failed);
+                succeeded, failed, cpuMs);
     return failed == 0 ? 0 : 1;
 }
