@@ -38,7 +38,13 @@ void TaskWrapper::startProcess() {
     // An inherited terminal would let the child swallow keystrokes, and a child in a background
     // process group that reads the terminal gets stopped.
     m_task->setStandardInputFile(QProcess::nullDevice());
-    m_task->setChildProcessModifier([] { ::setpgid(0, 0); });
+    // Conversions are background work: a little below the program itself, so that the window
+    // stays quick to answer while several encoders keep every core busy. Alone on the machine
+    // they still get all of it.
+    m_task->setChildProcessModifier([] {
+        ::setpgid(0, 0);
+        [[maybe_unused]] const int niceness = ::nice(kChildNicenessIncrement);
+    });
 
     connect(m_task, &QProcess::readyRead, this, &TaskWrapper::getData, Qt::DirectConnection);
     connect(m_task, &QProcess::readChannelFinished, this, &TaskWrapper::handleEndOfOutput,

@@ -48,6 +48,8 @@ public:
 
     // Grace between the terminate request and the kill when a wrapper is destroyed.
     static constexpr int kDestroyGraceMs = 2000;
+    // How much nicer than this process the children run.
+    static constexpr int kChildNicenessIncrement = 4;
 
 private:
     void getData();

@@ -12,6 +12,7 @@
 #include <QRegularExpression>
 
 #include <utility>
+#include <vector>
 
 SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
     : SXWorkspaceItemMoves(parent)
@@ -76,7 +77,10 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     startConvertOperation();
     const QString playlist = SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
 
-    // Every item is queued again at each Start, whatever an earlier run made of it.
+    // Every item is queued again at each Start, whatever an earlier run made of it. All are
+    // prepared before the first is queued: the first conversions' start-up would otherwise
+    // compete with this thread for the cores while it prepares the rest.
+    std::vector<ConvertOperationPtr> operations;
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
         const QString output =
@@ -94,9 +98,11 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
                 GlobalFun::MakeSureFolderExsist(output);
             operation->setStrOutFilePath(output);
             operation->setDelegate(this);
-            _queueConvertTask->addOperation(operation);
+            operations.push_back(std::move(operation));
         }
     }
+    for (ConvertOperationPtr& operation : operations)
+        _queueConvertTask->addOperation(std::move(operation));
 
     if (_timerToRefresh) {
         _timerToRefresh->stop();

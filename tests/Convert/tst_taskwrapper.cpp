@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <csignal>
 #include <memory>
+#include <sys/resource.h>
 
 using namespace Qt::StringLiterals;
 
@@ -125,6 +126,12 @@ private Q_SLOTS:
             << u"printf 'ok\\n'\nsleep 0.4\nprintf '\\303'\nsleep 0.4\n"
                "printf '\\303\\251t\\303\\251\\n'\n"_s
             << true << u"ok\nété\n"_s << 0 << 1;
+        // The child runs nicer than the program, so the window stays responsive.
+        const int expectedNiceness =
+            std::min(19, ::getpriority(PRIO_PROCESS, 0) + TaskWrapper::kChildNicenessIncrement);
+        QTest::newRow("a lower priority than the program")
+            << u"niceness.sh"_s << u"nice\n"_s << true << QString::number(expectedNiceness) + u'\n'
+            << 0 << 0;
         // A failed launch is reported as a shell would: status 127.
         QTest::newRow("missing program")
             << u"missing"_s << QString() << false << QString() << 127 << 0;
