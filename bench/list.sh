@@ -4,28 +4,9 @@
 # thread during the add and while the whole list scrolls, and the resident memory per item.
 #   bench/list.sh     (ROUNDS=3 by default)
 set -euo pipefail
-root="$(cd "$(dirname "$0")/.." && pwd)"
-build="$root/build/release"
-rounds="${ROUNDS:-3}"
-
-if [ ! -f "$build/build.ninja" ]; then
-    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-fi
-cmake --build "$build" --target sonoria-cli sonoria-bench-list >/dev/null
-cli="$build/cli/sonoria-cli"
+source "$(dirname "$0")/common.sh"
+bench_prepare list sonoria-cli sonoria-bench-list
 list="$build/bench/sonoria-bench-list"
-
-work="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-bench-list.XXXXXX")"
-trap 'rm -rf "$work"' EXIT
-export XDG_CONFIG_HOME="$work/config" SONORIA_HOME="$work/home" HOME="$work/home"
-mkdir -p "$SONORIA_HOME"
-unset SONORIA_VERBOSE
-
-now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
-median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
-largest() { sort -n | tail -n 1; }
-ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
-ffm() { ffmpeg -nostdin -hide_banner -loglevel error -y "$@"; }
 
 # 10,000 files: hard links of four one-second files under distinct names.
 mkdir -p "$work/sources" "$work/list"

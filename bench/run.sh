@@ -4,29 +4,11 @@
 #   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default; BASELINE_CLI=path to an
 #   earlier sonoria-cli adds it to the loading benchmark)
 set -euo pipefail
-root="$(cd "$(dirname "$0")/.." && pwd)"
-build="$root/build/release"
-rounds="${ROUNDS:-3}"
+source "$(dirname "$0")/common.sh"
 which="${1:-all}"
+bench_prepare cli sonoria-cli
 
-if [ ! -f "$build/build.ninja" ]; then
-    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-fi
-cmake --build "$build" --target sonoria-cli >/dev/null
-cli="$build/cli/sonoria-cli"
-
-work="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-bench.XXXXXX")"
-trap 'rm -rf "$work"' EXIT
-# The tool reads the settings store: give it an empty one of its own.
-export XDG_CONFIG_HOME="$work/config"
-unset SONORIA_VERBOSE
-
-now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
-median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
-ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
 per_file() { awk -v t="$1" -v n="$2" 'BEGIN { printf "%.2f", t / n }'; } # ms in all, files
-
-ffm() { ffmpeg -nostdin -hide_banner -loglevel error -y "$@"; }
 
 # The argument list the conversion operation builds for MP3 at 128 kbit/s, 44.1 kHz, stereo.
 bare_mp3() { # folder of sources, extension, output folder

@@ -3,27 +3,10 @@
 # alternate, medians of ROUNDS rounds), and the longest block of the window's main thread.
 #   bench/window.sh [all|ratio|block]     (ROUNDS=3 by default)
 set -euo pipefail
-root="$(cd "$(dirname "$0")/.." && pwd)"
-build="$root/build/release"
-rounds="${ROUNDS:-3}"
+source "$(dirname "$0")/common.sh"
 which="${1:-all}"
-
-if [ ! -f "$build/build.ninja" ]; then
-    cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
-fi
-cmake --build "$build" --target sonoria-cli sonoria-bench-window >/dev/null
-cli="$build/cli/sonoria-cli"
+bench_prepare window sonoria-cli sonoria-bench-window
 window="$build/bench/sonoria-bench-window"
-
-work="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-bench-window.XXXXXX")"
-trap 'rm -rf "$work"' EXIT
-export XDG_CONFIG_HOME="$work/config" SONORIA_HOME="$work/home"
-mkdir -p "$SONORIA_HOME"
-unset SONORIA_VERBOSE
-
-now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
-median() { sort -n | awk '{ v[NR] = $1 } END { print v[int((NR + 1) / 2)] }'; }
-ratio() { awk -v a="$1" -v b="$2" 'BEGIN { printf "%.3f", a / b }'; }
 
 make_wavs() { # folder, count, seconds
     mkdir -p "$1"
