@@ -1,4 +1,5 @@
 #include "support/TestSupport.h"
+#include "support/gui/GuiTestSupport.h"
 
 #include "Framework/MTEAudioFileMgr.h"
 #include "Gui/Dialogs/SXArtworkDropView.h"
@@ -119,9 +120,7 @@ SXMusicInfoList TestMetadataEditor::addFiles(const QString& container, const QSt
 }
 
 void TestMetadataEditor::grab(const QString& name) {
-    const QString folder = qEnvironmentVariable("SONORIA_GRAB_DIR");
-    if (!folder.isEmpty())
-        m_editor->grab().save(folder + u'/' + name + u".png"_s);
+    SonoriaGuiTest::grab(m_editor, name);
 }
 
 void TestMetadataEditor::fillingWritesNothingAndTypingWritesOnlyItsField() {
@@ -132,8 +131,12 @@ void TestMetadataEditor::fillingWritesNothingAndTypingWritesOnlyItsField() {
     m_editor->open();
     QCOMPARE(line("tfTitle")->text(), u"Old a.mp3"_s);
     QCOMPARE(m_editor->windowTitle(), u"a.mp3"_s);
-    for (int tab : {2, 1, 0})
+    for (int tab : {2, 1, 0}) {
         m_editor->findChild<QTabWidget*>(u"tabView"_s)->setCurrentIndex(tab);
+        // Every control of the page has a name a screen reader says, and Tab reaches it.
+        const QStringList problems = SonoriaGuiTest::accessibilityProblems(m_editor);
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    }
     QCOMPARE(tags->dicReadInfo(), before); // shown, not written back
 
     QTest::keyClicks(line("tfGrouping"), u"Live"_s);
@@ -289,10 +292,5 @@ void TestMetadataEditor::editsReachTheConvertedFileOnce() {
     QCOMPARE(tagCount(output, "LYRICS"), 1);
 }
 
-int main(int argc, char** argv) {
-    SonoriaTest::prepareEnvironment();
-    QApplication app(argc, argv);
-    TestMetadataEditor test;
-    return QTest::qExec(&test, argc, argv);
-}
+SONORIA_GUI_TEST_MAIN(TestMetadataEditor)
 #include "tst_metadataeditor.moc"

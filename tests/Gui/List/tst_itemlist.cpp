@@ -176,6 +176,7 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
     QStringList seen;
     SXLoadingSheet* sheet = window->findChild<SXLoadingSheet*>();
     int stateWhileShown = -1;
+    QStringList sheetProblems;
     connect(&workspace, &SXWorkspace::loadStarted, this,
             [&] { seen.append(sheet->progressText()); });
     QMetaObject::Connection clickCancel;
@@ -183,6 +184,7 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
         disconnect(clickCancel);
         seen.append(sheet->progressText());
         stateWhileShown = sheet->isVisible() ? workspace.enumAppState() : -1;
+        sheetProblems = SonoriaGuiTest::accessibilityProblems(sheet);
         QTest::mouseClick(sheet->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
         seen.append(sheet->isVisible() ? u"still shown"_s : u"hidden"_s);
     });
@@ -193,6 +195,7 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
              qPrintable(seen.at(1)));
     QCOMPARE(seen.at(2), u"hidden"_s);
     QCOMPARE(stateWhileShown, int(AppStateLoading));
+    QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
     QCOMPARE(sheet->windowModality(), Qt::WindowModal);
     QCOMPARE(workspace.getCurentTabMusicCount(), 0);
     QCOMPARE(workspace.enumAppState(), int(AppStateIdle));

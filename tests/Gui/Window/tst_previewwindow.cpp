@@ -102,6 +102,8 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     QCOMPARE(panel->labelText(u"tfInfoArtist"_s), u"Ann"_s);
     QVERIFY(!panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
     SonoriaGuiTest::grab(m_window.get(), u"window-info-panel"_s);
+    const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
 
     workspace.setSelectedRows({1}); // it follows the selection
     const QList<QPair<QString, QString>> fallbacks{
