@@ -6,6 +6,7 @@
 
 #include "Gui/List/SXItemListView.h"
 #include "Gui/Window/SXMainAppController.h"
+#include "MainThreadWatch.h"
 #include "Workspace/SXWorkspace.h"
 
 #include <QApplication>
@@ -30,29 +31,6 @@ long residentKb() {
     }
     return -1;
 }
-
-// The longest gap between the ticks of a 5 ms timer, less the 5 ms, since the last reset.
-class BlockMonitor : public QObject {
-public:
-    BlockMonitor() {
-        m_timer.setTimerType(Qt::PreciseTimer);
-        m_timer.setInterval(5);
-        connect(&m_timer, &QTimer::timeout, this,
-                [this] { m_longest = std::max(m_longest, m_clock.restart() - 5); });
-        m_clock.start();
-        m_timer.start();
-    }
-    void reset() {
-        m_longest = 0;
-        m_clock.restart();
-    }
-    qint64 longest() const { return m_longest; }
-
-private:
-    QTimer m_timer;
-    QElapsedTimer m_clock;
-    qint64 m_longest = 0;
-};
 
 // Calls `done` once the viewport has painted after `armed` was set.
 class PaintWatch : public QObject {
@@ -96,7 +74,8 @@ int main(int argc, char** argv) {
     window.resize(980, 640);
     window.show();
     auto* view = window.findChild<SXItemListView*>(QStringLiteral("itemList"));
-    BlockMonitor monitor;
+    MainThreadWatch monitor;
+    monitor.start();
     PaintWatch watch;
     view->viewport()->installEventFilter(&watch);
     QElapsedTimer clock;
@@ -112,8 +91,8 @@ int main(int argc, char** argv) {
             std::printf("items=%d\nadd_ms=%lld\nadd_blocked_ms=%lld\nscroll_blocked_ms=%lld\n"
                         "scroll_pages=%d\nrss_before_kb=%ld\nrss_after_kb=%ld\n"
                         "kb_per_item=%.2f\n",
-                        items, addMs, addBlocked, monitor.longest(), step, before, after,
-                        items ? double(after - before) / items : 0.0);
+                        items, addMs, addBlocked, qint64(monitor.longestBlockMs()), step, before,
+                        after, items ? double(after - before) / items : 0.0);
             // Not quit(): that asks the windows to close, and a window with items asks back.
             QCoreApplication::exit(0);
             return;
@@ -124,11 +103,11 @@ int main(int argc, char** argv) {
     };
     const auto lastRowShown = [&] {
         addMs = clock.elapsed();
-        addBlocked = monitor.longest();
+        addBlocked = qint64(monitor.longestBlockMs());
         // Back to the top, then page by page to the end.
         watch.done = scrollStep;
         view->scrollToTop();
-        monitor.reset();
+        monitor.start();
         scrollStep();
     };
     QObject::connect(&window.workspace(), &SXWorkspace::loadFinished, &window, [&] {
@@ -139,7 +118,7 @@ int main(int argc, char** argv) {
     });
     QTimer::singleShot(500, &window, [&] {
         before = residentKb();
-        monitor.reset();
+        monitor.start();
         clock.start();
         dropFolder(view, folder);
     });

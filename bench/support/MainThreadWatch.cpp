@@ -9,8 +9,11 @@ MainThreadWatch::MainThreadWatch(QObject* parent)
     : QObject(parent) {}
 
 void MainThreadWatch::start() {
+    stop();
     m_clock.start();
     m_lastNs = 0;
+    m_longestNs = 0;
+    m_longGapsNs.clear();
     // A 5 ms precise timer: a finer one wakes the thread so often that the watch itself takes a
     // share of the two cores away from the conversions it is meant to leave alone.
     m_timerId = startTimer(int(kIntervalNs / 1'000'000), Qt::PreciseTimer);

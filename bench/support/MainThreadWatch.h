@@ -9,6 +9,7 @@ class MainThreadWatch final : public QObject {
     Q_OBJECT
 public:
     explicit MainThreadWatch(QObject* parent = nullptr);
+    // Starts afresh: what an earlier start measured is forgotten.
     void start();
     void stop();
     // The longest gap seen, in milliseconds, and how many gaps exceeded `limitMs`.
