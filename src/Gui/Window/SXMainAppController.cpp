@@ -43,7 +43,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
     new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
     connect(_listView, &SXItemListView::startRequested, this, &SXMainAppController::startFromList);
-    new SXFileInfoViewController(*this, *m_workspace);
+    m_fileInfo = new SXFileInfoViewController(*this, *m_workspace);
     connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
                 auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
@@ -182,7 +182,7 @@ void SXMainAppController::perform(SXCommand command) {
             ws.didMyListViewCellRightButtonClick(items.first());
         break;
     case SXCommand::FileInfo:
-        findChild<SXFileInfoViewController*>()->clickInfo();
+        m_fileInfo->clickInfo();
         break;
     case SXCommand::NewContainer:
     case SXCommand::Preferences:

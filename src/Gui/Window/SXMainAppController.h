@@ -6,6 +6,7 @@
 
 class QPushButton;
 class SXContainerTabBar;
+class SXFileInfoViewController;
 class SXHelpView;
 class SXItemListView;
 class SXSettingsPanel;
@@ -58,6 +59,7 @@ private:
     SXItemListView* _listView = nullptr;
     SXHelpView* _viewHelpBar = nullptr;
     SXSettingsPanel* m_settingsPanel = nullptr;
+    SXFileInfoViewController* m_fileInfo = nullptr;
     QPushButton* _btnAddFile = nullptr;
     QPushButton* _btnDelete = nullptr;
     QPushButton* _btnClear = nullptr;
