@@ -215,7 +215,11 @@ private Q_SLOTS:
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(m_dir.filePath(u"stubborn.sh.term"_s)), 5000);
         settle(300);
         QVERIFY(!controller.terminated());
-        QVERIFY(processState(child) == 'S' || processState(child) == 'R');
+        // Still alive and not stopped; on a busy machine it may be caught for a moment in
+        // another state (waiting for the disk while it starts its next sleep).
+        QTRY_VERIFY2_WITH_TIMEOUT(
+            processState(child) == 'S' || processState(child) == 'R',
+            qPrintable(u"state %1"_s.arg(QChar::fromLatin1(processState(child)))), 2000);
 
         QElapsedTimer timer;
         timer.start();
