@@ -14,6 +14,8 @@ SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
     setAccessibleName(tr("Files"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
     setUniformItemSizes(true);
+    // Rows follow the list's width when the window or the information panel changes it.
+    setResizeMode(QListView::Adjust);
     setMouseTracking(true);
     viewport()->setMouseTracking(true);
     setDragDropMode(QAbstractItemView::DragDrop);

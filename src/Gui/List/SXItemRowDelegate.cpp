@@ -58,8 +58,9 @@ QIcon SXItemRowDelegate::icon(const QString& name) const {
     return *found;
 }
 
-QSize SXItemRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex&) const {
-    return QSize(option.rect.width(), kRowHeight);
+QSize SXItemRowDelegate::sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const {
+    // Rows take the list's width (the view stretches them); the hint is only the least of it.
+    return QSize(kMinimumRowWidth, kRowHeight);
 }
 
 void SXItemRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& option,

@@ -22,6 +22,8 @@ class SXItemRowDelegate final : public QStyledItemDelegate {
     Q_OBJECT
 public:
     static constexpr int kRowHeight = 30;
+    // Narrower than this the columns would overlap; the list scrolls sideways instead.
+    static constexpr int kMinimumRowWidth = 360;
     // The state button's pie, red 246, green 144, blue 45.
     static QColor pieColor() { return QColor(246, 144, 45); }
 
