@@ -185,6 +185,7 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
         seen.append(sheet->progressText());
         stateWhileShown = sheet->isVisible() ? workspace.enumAppState() : -1;
         sheetProblems = SonoriaGuiTest::accessibilityProblems(sheet);
+        SonoriaGuiTest::grab(sheet, u"loading-sheet"_s);
         QTest::mouseClick(sheet->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
         seen.append(sheet->isVisible() ? u"still shown"_s : u"hidden"_s);
     });
