@@ -38,6 +38,7 @@ SX_LOCKED_STRING(vOACodecName, setVOACodecName, m_vOACodecName)
 SX_LOCKED_STRING(strDescription, setStrDescription, m_strDescription)
 SX_LOCKED_STRING(strOutFileName, setStrOutFileName, m_strOutFileName)
 SX_LOCKED_STRING(strOutFileExt, setStrOutFileExt, m_strOutFileExt)
+SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
 
 #undef SX_LOCKED_STRING
 
@@ -55,6 +56,7 @@ std::shared_ptr<LSMedia> LSMedia::copy() const {
     result->setStrDescription(strDescription());
     result->setStrOutFileName(strOutFileName());
     result->setStrOutFileExt(strOutFileExt());
+    result->setFailReason(failReason());
     result->setStrLastModified(strLastModified());
     result->setDFileSize(dFileSize());
     return result;

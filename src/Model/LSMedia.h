@@ -48,6 +48,10 @@ public:
     void setStrOutFileName(const QString& value);
     QString strOutFileExt() const;
     void setStrOutFileExt(const QString& value);
+    // Why the last conversion failed, in plain words for the user ("No space left on device");
+    // empty unless the state is CvtStateFailed. Cleared when a new run prepares the item.
+    QString failReason() const;
+    void setFailReason(const QString& value);
 
     std::shared_ptr<LSMedia> copy() const;
     QString description() const;
@@ -70,6 +74,7 @@ private:
     QString m_strDescription;
     QString m_strOutFileName;
     QString m_strOutFileExt;
+    QString m_failReason;
 };
 
 using LSMediaPtr = std::shared_ptr<LSMedia>;

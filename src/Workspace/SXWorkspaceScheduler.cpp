@@ -120,6 +120,7 @@ void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
     const LSMediaPtr media = item->mediaInfo();
     const QString useSource = QStringLiteral("Use Source");
     media->setDProgress(0);
+    media->setFailReason(QString());
     media->setDAOBitrate(setting.biteRate() == useSource ? media->audioBitrate() / 1000
                                                          : choiceValue(setting.biteRate()));
     media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
