@@ -2,7 +2,7 @@
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
 #   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default; BASELINE_CLI=path to an
-#   earlier sonoria-cli adds it to the loading benchmark)
+#   earlier sonoria-cli adds it to the conversion and loading benchmarks)
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
 which="${1:-all}"
@@ -17,23 +17,29 @@ bare_mp3() { # folder of sources, extension, output folder
             "$0/$(basename "$1").mp3" </dev/null >/dev/null 2>&1' "$3"
 }
 
-# Alternates the tool and bare ffmpeg over one source folder; prints the medians and the ratio.
+# Alternates the tool and bare ffmpeg over one source folder (and, when BASELINE_CLI names an
+# earlier build of the tool, that one too); prints the medians of wall-clock and CPU time (the
+# children's included) and the ratios.
 compare_conversion() { # label, folder, extension, target
-    local label="$1" src="$2" ext="$3" target="$4" a b t i
-    local ta=() tb=()
+    local label="$1" src="$2" ext="$3" target="$4" a b c i
+    local ta=() ca=() tb=() cb=() tc=() cc=()
     for ((i = 1; i <= rounds; i++)); do
-        rm -rf "$work/outA" "$work/outB"; mkdir -p "$work/outA" "$work/outB"
-        t=$(now_ms)
-        "$cli" -f MP3 -b 128 -j 2 --no-organize -o "$work/outA" "$src" >/dev/null
-        ta+=($(( $(now_ms) - t )))
-        t=$(now_ms)
-        bare_mp3 "$src" "$ext" "$work/outB"
-        tb+=($(( $(now_ms) - t )))
+        rm -rf "$work/outA" "$work/outB" "$work/outC"; mkdir -p "$work/outA" "$work/outB" "$work/outC"
+        measure ta ca "$cli" -f MP3 -b 128 -j 2 --no-organize -o "$work/outA" "$src"
+        measure tb cb bash -c "$(declare -f bare_mp3); bare_mp3 \"\$@\"" _ "$src" "$ext" "$work/outB"
+        if [ -n "${BASELINE_CLI:-}" ]; then
+            measure tc cc "$BASELINE_CLI" -f MP3 -b 128 -j 2 --no-organize -o "$work/outC" "$src"
+        fi
     done
     a=$(printf '%s\n' "${ta[@]}" | median)
     b=$(printf '%s\n' "${tb[@]}" | median)
     echo "$label: sonoria-cli ${a} ms, ffmpeg+xargs ${b} ms, ratio $(ratio "$a" "$b") (target <= $target)"
     echo "    rounds: cli ${ta[*]} / ffmpeg ${tb[*]}"
+    echo "    CPU ms: cli $(printf '%s\n' "${ca[@]}" | median) (${ca[*]}) / ffmpeg $(printf '%s\n' "${cb[@]}" | median) (${cb[*]})"
+    if [ -n "${BASELINE_CLI:-}" ]; then
+        c=$(printf '%s\n' "${tc[@]}" | median)
+        echo "    baseline build: ${c} ms (${tc[*]}), CPU $(printf '%s\n' "${cc[@]}" | median) ms (${cc[*]}); this build / baseline $(ratio "$a" "$c")"
+    fi
 }
 
 bench_flac() {

@@ -131,6 +131,9 @@ void CliRun::printDryRun() {
 
 void CliRun::startConversion() {
     m_phase = Phase::Converting;
+    connect(m_workspace.get(), &SXWorkspaceScheduler::runRefused, this, [](const QString& message) {
+        CliOutput::line(stderr, QStringLiteral("sonoria-cli: %1").arg(message));
+    });
     m_total = int(items().size());
     connect(m_workspace.get(), &SXWorkspaceScheduler::runFinished, this,
             [this](const QString& summary, int, int) { runFinished(summary); });
@@ -140,7 +143,12 @@ void CliRun::startConversion() {
         m_bar.start();
     }
     connect(m_workspace.get(), &SXWorkspaceScheduler::itemFinished, this, &CliRun::report);
-    m_workspace->doRealConverterTask(m_outputFolder);
+    if (!m_workspace->doRealConverterTask(m_outputFolder)) {
+        // Not a single file was touched: the folder is named with the system's reason.
+        if (m_terminal)
+            m_bar.clear();
+        finish(1);
+    }
 }
 
 void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {

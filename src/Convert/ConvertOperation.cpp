@@ -1,7 +1,9 @@
 #include "Convert/ConvertOperation.h"
 
 #include "Convert/ConvertCommandLine.h"
+#include "Convert/ConvertFailure.h"
 #include "Convert/ConvertOutputFile.h"
+#include "Convert/ConvertVerification.h"
 #include "Convert/SXLibraryScript.h"
 #include "Convert/ScriptBridgeHelper.h"
 #include "Convert/TaskWrapper.h"
@@ -11,8 +13,10 @@
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
 
+#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFileInfo>
 #include <QMutexLocker>
 #include <QTimer>
 
@@ -26,6 +30,14 @@ constexpr int kSliceMs = 1000;
 // After a cancel the child was asked to stop; ffmpeg closes its file first. A child that is
 // still there after this long is killed so the run can end.
 constexpr int kStopGraceMs = 10000;
+constexpr qsizetype kConsoleKeep = 16 * 1024;
+
+// The output kinds that carry tags, so that a tag copy into them must succeed.
+const QStringList& kindsWithTags() {
+    static const QStringList kinds{"mp3", "m4a", "m4r", "mp4", "flac", "ogg",  "oga", "opus",
+                                   "wma", "asf", "wv",  "wav", "aif",  "aiff", "ape"};
+    return kinds;
+}
 } // namespace
 
 ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
@@ -94,39 +106,45 @@ void ConvertOperation::main() {
     }
     const QString ffmpeg = ConvertCommandLine::ffmpegPath();
     if (ffmpeg.isEmpty()) {
-        SXLog::line(QStringLiteral("ffmpeg not found"));
-        setState(CvtStateFailed);
+        fail(ConvertFailure::ffmpegMissing());
         tellFinish();
         return;
     }
-    QString outputFile;
-    chooseOutputFile(&outputFile);
-    const QStringList arguments = ConvertCommandLine::arguments(ffmpeg, *media, outputFile);
-    SXLog::line(QStringLiteral("tOutFile:") + outputFile);
+    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
+    const QString problem =
+        m_output.prepare(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
+    if (!problem.isEmpty()) {
+        // No child is started for a folder that cannot take the file.
+        if (isCancelled())
+            return;
+        fail(problem);
+        tellFinish();
+        return;
+    }
+    setStrOutFilePath(m_output.finalPath());
+    const QStringList arguments =
+        ConvertCommandLine::arguments(ffmpeg, *media, m_output.temporaryPath());
+    SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
 
     if (!startChild(arguments)) {
         // Cancelled after the queue let it run but before the child started: like a waiting
-        // operation, it reports nothing; only the name it reserved is given back.
-        m_output.removeIfOwn(outputFile);
+        // operation, it reports nothing; only the name it claimed is given back.
+        m_output.discard();
         return;
     }
     waitForChild();
-    decideOutcome(outputFile);
-    const int state = media->eumCvtState();
-    if (state == CvtStateFinished)
-        handleMetadataSave();
-    moveRingtone();
-    deliverToLibrary(outputFile);
+    decideOutcome();
+    deliverToLibrary(strOutFilePath());
     tellFinish();
 }
 
-void ConvertOperation::chooseOutputFile(QString* outputFile) {
-    const LSMediaPtr media = musicToConvert()->mediaInfo();
-    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
-    setStrOutFilePath(folder);
-    *outputFile = m_output.reserve(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
-    setStrOutFilePath(*outputFile);
+void ConvertOperation::fail(const QString& reason) {
+    SXLog::line(QStringLiteral("conversion failed: %1").arg(reason));
+    if (const SXMusicInfoPtr item = musicToConvert(); item && item->mediaInfo())
+        item->mediaInfo()->setFailReason(reason);
+    setState(CvtStateFailed);
+    m_output.discard();
 }
 
 bool ConvertOperation::startChild(const QStringList& arguments) {
@@ -194,7 +212,7 @@ void ConvertOperation::waitForChild() {
     m_waitLoop.clear();
 }
 
-void ConvertOperation::decideOutcome(const QString& outputFile) {
+void ConvertOperation::decideOutcome() {
     bool cancelled = false;
     TaskWrapper* finishedWrapper = nullptr;
     {
@@ -211,32 +229,47 @@ void ConvertOperation::decideOutcome(const QString& outputFile) {
         // A cancelled run never counts as finished, even when the child managed to exit 0
         // before the cancel reached it: the user asked for no file.
         setState(CvtStateCanceled);
-        m_output.removeIfOwn(outputFile);
+        m_output.discard();
         return;
     }
-    if (iExitCode == 0) {
-        if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToiTunes)) {
-            setState(CvtStateSending);
-            SXLibraryScript::run(outputFile);
-        }
-        setState(CvtStateFinished);
+    const QString reason = finishOutput();
+    if (!reason.isEmpty()) {
+        fail(reason);
         return;
     }
-    setState(CvtStateFailed);
-    m_output.removeIfOwn(outputFile);
+    if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToiTunes)) {
+        setState(CvtStateSending);
+        SXLibraryScript::run(strOutFilePath());
+    }
+    setState(CvtStateFinished);
 }
 
-void ConvertOperation::moveRingtone() {
+QString ConvertOperation::finishOutput() {
+    // ffmpeg exits 0 after some failures (a full disk while the trailer is written, nothing
+    // encoded), so its words count as much as its status; then the file itself is checked.
+    if (iExitCode != 0)
+        return ConvertFailure::fromExitStatus(iExitCode, m_console);
+    QString reason = ConvertFailure::fromFfmpegOutput(m_console);
+    if (!reason.isEmpty())
+        return reason;
+    // The tags go in first and the file is checked after them: a tag write that ran out of
+    // room can leave a file that no longer reads as audio.
+    reason = saveTags(m_output.temporaryPath());
+    if (!reason.isEmpty())
+        return reason;
     const LSMediaPtr media = musicToConvert()->mediaInfo();
-    const int state = media->eumCvtState();
-    if (state == CvtStateCanceled || state == CvtStateFailed || !isRingtone())
-        return;
-    const QString target =
-        ConvertOutputFile::moveToExtension(strOutFilePath(), media->strOutFileExt());
-    if (target.isEmpty())
-        setState(CvtStateFailed);
-    else
-        setStrOutFilePath(target);
+    reason = ConvertVerification::check(m_output.temporaryPath(), media->vOACodecName(),
+                                        media->durationExact() ? media->duration() : 0.0);
+    if (!reason.isEmpty()) {
+        // A source that would not decode is the better explanation of a short output.
+        const QString decoding = ConvertFailure::decodingIn(m_console);
+        return decoding.isEmpty() ? reason : decoding + QStringLiteral(" (") + reason + u')';
+    }
+    reason = m_output.commit();
+    if (!reason.isEmpty())
+        return reason;
+    setStrOutFilePath(m_output.finalPath());
+    return {};
 }
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {
@@ -254,24 +287,26 @@ void ConvertOperation::deliverToLibrary(const QString& outputFile) {
     setState(CvtStateFinished);
 }
 
-void ConvertOperation::handleMetadataSave() {
-    const QString path = strOutFilePath();
+QString ConvertOperation::saveTags(const QString& path) {
     const std::shared_ptr<MTEAudioFile> destination =
         MTEAudioFileMgr::createAudioFileWithPath(path, false);
-    if (!destination) {
-        SXLog::line(QStringLiteral("save metadate for file (%1) failed!").arg(path));
-        return;
+    // A kind without tags (AC3, MP2) has nothing to write, which is no failure. One that has
+    // them and cannot be opened is a file the encoder wrote broken (a WMA header that overflowed).
+    if (!destination || destination->eumFileType() == MTEAudioFile::FileTypeUnwritable) {
+        if (kindsWithTags().contains(QFileInfo(path).suffix().toLower()))
+            return ConvertFailure::tagsNotSaved(
+                QCoreApplication::translate("ConvertFailure", "the file cannot be opened"));
+        SXLog::line(QStringLiteral("no tags written for the file type of %1").arg(path));
+        return {};
     }
     destination->setStatus(1);
-    if (destination->eumFileType() == MTEAudioFile::FileTypeUnwritable) {
-        SXLog::line(
-            QStringLiteral("CAN'T WRITE ID3 FOR FILE TYPE %1").arg(destination->eumFileType()));
-        return;
-    }
     // The output gets the record and the source's other fields as its only tags.
     const SXMusicInfoPtr item = musicToConvert();
     const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
-    MTETagCopy::copy(source.get(), *destination, path);
+    QString error;
+    if (!MTETagCopy::copy(source.get(), *destination, path, &error))
+        return ConvertFailure::tagsNotSaved(error);
+    return {};
 }
 
 void ConvertOperation::cancel() {
@@ -318,6 +353,10 @@ void ConvertOperation::appendOutput(const QString& output) {
                 (output.isNull() ? QStringLiteral("(null)") : output));
     if (output.isEmpty())
         return;
+    // The end of what ffmpeg said tells why it failed; progress lines alone would fill this.
+    m_console += output;
+    if (m_console.size() > kConsoleKeep)
+        m_console.remove(0, m_console.size() - kConsoleKeep);
     const SXMusicInfoPtr item = musicToConvert();
     const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
     if (!media)

@@ -17,9 +17,11 @@ class QEventLoop;
 class TaskWrapper;
 
 // Converts one item into one output file with an ffmpeg child process: builds the command line
-// from the item's output settings, reserves an output name that replaces nothing, runs the child
-// while its console text drives the item's progress, decides the outcome from the exit status,
-// copies the tags, gives a ringtone its final extension and hands the file to the music library.
+// from the item's output settings, runs the child into a temporary file while its console text
+// drives the item's progress, and calls the item finished only when the child exited cleanly,
+// said nothing of a failure and its output reads back whole (ConvertVerification); then copies
+// the tags, moves the file to a final name that replaces nothing and hands it to the music
+// library. Every failure carries its reason on the item's record.
 //
 // Threads: main() and every delegate callback run on the queue's worker thread. cancel(),
 // pause() and resume() may come from any thread (normally the main one).
@@ -33,7 +35,7 @@ public:
     ConvertOperationDelegate* delegate() const { return m_delegate; }
     void setDelegate(ConvertOperationDelegate* delegate) { m_delegate = delegate; }
     // Before main(): the output folder (empty = beside the source). From the moment main() has
-    // chosen the output file: that file's full path.
+    // claimed the output's name: that final name (the file appears there only when whole).
     QString strOutFilePath() const;
     void setStrOutFilePath(const QString& path);
 
@@ -45,8 +47,9 @@ public:
     void pause();
     void resume();
 
-    // Gives the file at strOutFilePath() the source item's tags as its only tags (MTETagCopy).
-    void handleMetadataSave();
+    // Gives the file at `path` the source item's tags as its only tags (MTETagCopy). Empty, or
+    // why they could not be written.
+    QString saveTags(const QString& path);
 
     // TaskWrapperController
     void appendOutput(const QString& output) override;
@@ -56,11 +59,13 @@ public:
 
 private:
     bool isRingtone() const;
-    void chooseOutputFile(QString* outputFile);
     bool startChild(const QStringList& arguments);
     void waitForChild();
-    void decideOutcome(const QString& outputFile);
-    void moveRingtone();
+    void decideOutcome();
+    // Verifies the child's output, writes its tags and gives it its final name: empty on
+    // success, else the reason the conversion failed.
+    QString finishOutput();
+    void fail(const QString& reason);
     void deliverToLibrary(const QString& outputFile);
     void setState(int state);
     void setStateLocked(int state); // with m_lock held
@@ -82,6 +87,7 @@ private:
     bool m_childEnded = false;       // outcome decided: cancel comes too late
     std::atomic<bool> m_terminated{false};
     ConvertOutputFile m_output; // worker thread only
+    QString m_console;          // the end of the child's console text; worker thread only
 };
 
 using ConvertOperationPtr = std::shared_ptr<ConvertOperation>;

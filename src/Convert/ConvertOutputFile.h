@@ -4,27 +4,43 @@
 
 class LSMedia;
 
-// The file one conversion writes: a name reserved so that it replaces nothing, removed again
-// only when this run created it, and a ringtone's move to its own extension once encoded.
+// The file one conversion writes. The encoder writes under a hidden temporary name in the
+// destination folder (with the extension the encoder needs, so it picks the same container);
+// only a verified, tagged output is moved to its final name, and the move never replaces a file.
+// Anything that fails or is cancelled removes the temporary file, so no half-written file ever
+// carries a name a user would take for a result.
 class ConvertOutputFile {
 public:
+    ConvertOutputFile() = default;
+    ~ConvertOutputFile();
+    ConvertOutputFile(const ConvertOutputFile&) = delete;
+    ConvertOutputFile& operator=(const ConvertOutputFile&) = delete;
+
     // The folder the output goes to: `chosen` (empty: the source's folder), always absolute, so
     // ffmpeg can never take the output for an option.
     static QString folderFor(const QString& chosen, const LSMedia& media);
 
-    // Reserves the output name for `media` in `folder` (ConvertOutputPath::reserve); a ringtone
-    // is encoded under `encodeExt` first. When no file could be created there, logs why and
-    // returns the free name all the same.
-    QString reserve(const LSMedia& media, const QString& folder, const QString& encodeExt);
+    // Claims the final name for `media` in `folder` and creates the temporary file (named with
+    // `encodeExt` when given, e.g. a ringtone is encoded as .m4a). Empty on success, else why
+    // not (the folder is read-only, full, ...); nothing is left on disk then.
+    QString prepare(const LSMedia& media, const QString& folder, const QString& encodeExt);
+    QString temporaryPath() const { return m_temporary; }
+    // The final name claimed by prepare(); after commit() the name the file really got.
+    QString finalPath() const { return m_final; }
 
-    // Removes `path` if this run created it: a name that could not be reserved may belong to
-    // someone else. Afterwards this run owns no file.
-    void removeIfOwn(const QString& path);
+    // Moves the temporary file to its final name, or to the next free one when another program
+    // took that name meanwhile. Empty on success, else why not (the temporary file is removed).
+    QString commit();
+    // Removes the temporary file and gives up the claimed name. Harmless when nothing is held.
+    void discard();
 
-    // Moves `current` to the name with the extension `ext` under a free name and returns the
-    // new path; `current` itself when there is no such file; empty after logging a failure.
-    static QString moveToExtension(const QString& current, const QString& ext);
+    // Removes the temporary files of runs that were killed before they could clean up: ours are
+    // recognised by name, and only those whose process is gone are touched.
+    static void removeLeftovers(const QString& folder);
+    static bool isTemporaryName(const QString& fileName);
 
 private:
-    bool m_owns = false;
+    QString m_temporary;
+    QString m_final;
+    bool m_claimed = false;
 };

@@ -3,21 +3,20 @@
 #include <QString>
 
 // Output names that never replace an existing file, even when several conversions pick a name
-// in the same folder at the same moment: a name counts as taken once a file is created there,
-// and the creation itself is exclusive.
+// in the same folder at the same moment. While a conversion runs its name is only claimed in
+// this process (nothing carries it on disk until the output is whole); the final move refuses
+// to replace what another program put there meanwhile.
 class ConvertOutputPath {
 public:
-    // Picks a free name for `path` with extension `ext` (the counter rule of
-    // GlobalFun::makeSureFullPathIdentical) and creates it as an empty file, exclusively; a name
-    // lost to another writer between the check and the creation is picked again. Returns the
-    // reserved path. When the file cannot be created for another reason (missing or read-only
-    // folder), returns the free name without a file, sets *reserved to false and *error.
-    static QString reserve(const QString& path, const QString& ext, bool* reserved,
-                           QString* error = nullptr);
+    // Picks a name for `path` with extension `ext` (the counter rule of
+    // GlobalFun::makeSureFullPathIdentical) that names nothing on disk and that no other
+    // conversion of this process has claimed, and claims it until release().
+    static QString claim(const QString& path, const QString& ext);
+    static void release(const QString& path);
+    static bool isClaimed(const QString& path);
 
-    // Moves `from` to a free name for `wanted` (same counter rule, extension of `wanted`)
-    // without ever replacing a file that exists there, and returns the name it got; an empty
-    // string and *error on failure (then `from` is left where it was).
-    static QString moveWithoutReplacing(const QString& from, const QString& wanted,
-                                        QString* error = nullptr);
+    // rename(2) that never replaces: renameat2 with RENAME_NOREPLACE where the file system has
+    // it, else a hard link (which fails on an existing name) and removing the old name. 0 or the
+    // errno of the failure (EEXIST when the name is taken).
+    static int renameNoReplace(const QString& from, const QString& to);
 };

@@ -130,9 +130,9 @@ void TaskWrapper::handleEndOfOutput() {
 }
 
 void TaskWrapper::FFMpegDidTerminate(int exitCode, QProcess::ExitStatus exitStatus) {
-    // On Unix a child ended by a signal reports CrashExit with the signal number as exit code.
-    Q_UNUSED(exitStatus);
-    reportTermination(exitCode);
+    // On Unix a child ended by a signal reports CrashExit with the signal number as exit code;
+    // it is passed on as a shell would, 128 + the signal, so it never reads as an exit status.
+    reportTermination(exitStatus == QProcess::CrashExit ? kSignalStatusBase + exitCode : exitCode);
 }
 
 void TaskWrapper::handleProcessError(QProcess::ProcessError error) {

@@ -48,6 +48,8 @@ public:
 
     // Grace between the terminate request and the kill when a wrapper is destroyed.
     static constexpr int kDestroyGraceMs = 2000;
+    // A child ended by signal N is reported with status kSignalStatusBase + N.
+    static constexpr int kSignalStatusBase = 128;
     // How much nicer than this process the children run.
     static constexpr int kChildNicenessIncrement = 4;
 

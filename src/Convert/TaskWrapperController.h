@@ -16,7 +16,7 @@ public:
     virtual void processStarted() {}
     // The wrapper has stopped the child: its output ended or a stop was requested.
     virtual void processFinished() {}
-    // The child has terminated: its exit status, or the number of the signal that ended it.
+    // The child has terminated: its exit status, or 128 + the number of the signal that ended it.
     // 127 when the program could not be launched. The last callback a wrapper ever makes.
     virtual void launcherDidTerminatedWithCode(int /*code*/) {}
 };

@@ -231,7 +231,13 @@ bool HVMediaInfo::dumpMediaInfo(HVMediaInfoItem& item, QString* error) {
     item.setAudioSamplerate(double(codec.sample_rate));
     item.setAudioChannels(codec.ch_layout.nb_channels);
     item.setDuration(durationSeconds(*context, stream));
+    item.setDurationExact(context->duration_estimation_method != AVFMT_DURATION_FROM_BITRATE);
     item.setEumMediaType(hasRealVideoStream(*context) ? HVMediaTypeVideo : HVMediaTypeAudio);
     item.setStrAudioCodecName(QString::fromUtf8(avcodec_get_name(codec.codec_id)));
     return true;
+}
+
+QString HVMediaInfo::codecOfEncoder(const QString& encoder) {
+    const AVCodec* codec = avcodec_find_encoder_by_name(encoder.toUtf8().constData());
+    return codec ? QString::fromUtf8(avcodec_get_name(codec->id)) : QString();
 }

@@ -13,4 +13,7 @@ public:
     // *error when the file cannot be read as media or carries no usable audio stream; the item
     // is left untouched then.
     static bool dumpMediaInfo(HVMediaInfoItem& item, QString* error = nullptr);
+    // The short name of the codec the encoder `encoder` writes ("libmp3lame" -> "mp3"), as
+    // dumpMediaInfo reports it for the result; empty when libavcodec has no such encoder.
+    static QString codecOfEncoder(const QString& encoder);
 };

@@ -73,6 +73,17 @@ void HVMediaInfoItem::copyBaseTo(HVMediaInfoItem& target) const {
     target.setAudioSamplerate(audioSamplerate());
     target.setAudioChannels(audioChannels());
     target.setDuration(duration());
+    target.setDurationExact(durationExact());
     target.setEumMediaType(eumMediaType());
     target.setStrAudioCodecName(strAudioCodecName());
+}
+
+bool HVMediaInfoItem::durationExact() const {
+    QMutexLocker guard(&m_lock);
+    return m_durationExact;
+}
+
+void HVMediaInfoItem::setDurationExact(bool value) {
+    QMutexLocker guard(&m_lock);
+    m_durationExact = value;
 }

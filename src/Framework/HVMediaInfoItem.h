@@ -34,6 +34,10 @@ public:
     void setAudioChannels(int value);
     double duration() const; // seconds
     void setDuration(double value);
+    // False when the duration is only a guess from the bit rate (a variable-rate MP3 without a
+    // frame count): nothing should be measured against it then.
+    bool durationExact() const;
+    void setDurationExact(bool value);
     int eumMediaType() const;
     void setEumMediaType(int value);
     QString strAudioCodecName() const; // decoder's short name, "mp3", "flac", ...
@@ -52,6 +56,7 @@ private:
     double m_audioSamplerate = 0;
     int m_audioChannels = 0;
     double m_duration = 0;
+    bool m_durationExact = true;
     int m_eumMediaType = HVMediaTypeUnknown;
     QString m_strAudioCodecName;
 };

@@ -190,22 +190,28 @@ QString GlobalFun::getEstimateStrBySecond(double seconds) {
         .arg(rest > 119 ? QStringLiteral("minites") : QStringLiteral("minite"));
 }
 
-QString GlobalFun::makeSureFullPathIdentical(const QString& path, const QString& ext) {
+QString GlobalFun::makeSureFullPathIdentical(const QString& path, const QString& ext,
+                                             const std::function<bool(const QString&)>& taken) {
+    const auto isTaken = [&taken](const QString& candidate) {
+        return somethingExistsAt(candidate) || (taken && taken(candidate));
+    };
     const PathParts given = splitExtension(path);
     QString current = path;
     if (!given.hasExtension || given.extension != ext)
         current = path + QLatin1Char('.') + ext;
-    if (!somethingExistsAt(current))
+    if (!isTaken(current))
         return current;
 
-    // The counter text is looked for and replaced over the whole path, folders included, so a
-    // folder named like "Album(1)" is renamed in the candidate too. Callers rely on the result
-    // naming nothing that exists, which the loop guarantees whatever the candidate looks like.
+    // The counter belongs to the file's own name: a folder on the way that happens to be called
+    // "Album(1)" is the user's choice and stays as it is.
+    const qsizetype slash = current.lastIndexOf(QLatin1Char('/'));
+    const QString folder = current.left(slash + 1);
+    QString name = current.mid(slash + 1);
     int k = 1;
     for (;;) {
-        const PathParts parts = splitExtension(current);
+        const PathParts parts = splitExtension(name);
         QString candidate;
-        if (!current.contains(counterText(k))) {
+        if (!name.contains(counterText(k))) {
             candidate = parts.base + counterText(k);
         } else {
             const QString previous = counterText(k);
@@ -213,9 +219,9 @@ QString GlobalFun::makeSureFullPathIdentical(const QString& path, const QString&
             candidate = QString(parts.base).replace(previous, counterText(k));
         }
         candidate += QLatin1Char('.') + parts.extension;
-        if (!somethingExistsAt(candidate))
-            return candidate;
-        current = candidate;
+        if (!isTaken(folder + candidate))
+            return folder + candidate;
+        name = candidate;
     }
 }
 

@@ -24,8 +24,10 @@ public:
 
     // --- Paths and files ---
     // A path with extension `ext` (appended when the path's own extension is not exactly `ext`)
-    // where nothing exists yet; taken names get a counter "(1)", "(2)", ...
-    static QString makeSureFullPathIdentical(const QString& path, const QString& ext);
+    // where nothing exists yet and `taken` (when given) says no; taken names get a counter "(1)",
+    // "(2)", ... in the file's own name, never in the folders above it.
+    static QString makeSureFullPathIdentical(const QString& path, const QString& ext,
+                                             const std::function<bool(const QString&)>& taken = {});
     // True when a folder exists at `path` afterwards (created with its parents when missing).
     static bool MakeSureFolderExsist(const QString& path);
     // Full paths of the files below `dir` whose extension matches `filter` (case-insensitive),

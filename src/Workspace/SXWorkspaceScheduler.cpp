@@ -1,6 +1,8 @@
 #include "Workspace/SXWorkspaceScheduler.h"
 
 #include "Common/Util/SXFileLocalManager.h"
+#include "Convert/ConvertFailure.h"
+#include "Convert/ConvertOutputFile.h"
 #include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
@@ -67,7 +69,31 @@ void SXWorkspaceScheduler::outputFolderChosen(const std::optional<SXOutputFolder
     doRealConverterTask(choice->folder);
 }
 
-void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
+bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
+    // Every output folder is checked before a single child starts: a read-only or missing
+    // destination would otherwise fail every item one by one, each for the same reason.
+    QStringList folders;
+    for (const QString& name : containerNames()) {
+        const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
+        const QString output =
+            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+        if (setting && !getDataForFormat(name).isEmpty() && !folders.contains(output))
+            folders.append(output);
+    }
+    for (const QString& output : std::as_const(folders)) {
+        const QString problem = ConvertFailure::checkOutputFolder(output);
+        if (problem.isEmpty())
+            continue;
+        const QString message =
+            tr("Cannot write into the output folder \"%1\": %2").arg(output, problem);
+        SXLog::line(message);
+        runAlert({tr("The conversion did not start"), message, {tr("OK")}});
+        Q_EMIT runRefused(message);
+        return false;
+    }
+    for (const QString& output : std::as_const(folders))
+        ConvertOutputFile::removeLeftovers(output);
+
     stopPlayerWithRefreshUI();
     if (!_queueConvertTask)
         _queueConvertTask = std::make_unique<SXOperationQueue>();
@@ -85,7 +111,6 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
         const QString output =
             !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
-        bool outputMade = false; // once per container: no disk access per item on this thread
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             item->setDConvertProgress(SXProgress::Waiting);
             // Without a media record or a format there is nothing to convert: it stays waiting.
@@ -93,9 +118,6 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
                 continue;
             copyChoicesInto(item, *setting, playlist);
             auto operation = std::make_shared<ConvertOperation>(item);
-            SXLog::line(QStringLiteral("the path = %1").arg(output));
-            if (!std::exchange(outputMade, true))
-                GlobalFun::MakeSureFolderExsist(output);
             operation->setStrOutFilePath(output);
             operation->setDelegate(this);
             operations.push_back(std::move(operation));
@@ -112,6 +134,7 @@ void SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     _timerToRefresh->setInterval(400);
     connect(_timerToRefresh, &QTimer::timeout, this, &SXWorkspaceScheduler::refreshTimeFired);
     _timerToRefresh->start();
+    return true;
 }
 
 void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,

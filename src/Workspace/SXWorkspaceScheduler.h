@@ -24,7 +24,10 @@ public:
 
     // Start, or Stop during a run.
     void clickStart();
-    void doRealConverterTask(const QString& folder);
+    // Starts the run into `folder` (per container below it when organising by format). When an
+    // output folder cannot be made or written, no child starts: the user is told which folder
+    // and why (an alert, and runRefused) and this returns false.
+    bool doRealConverterTask(const QString& folder);
     void startConvertOperation();
     void setConvertOperationFinshed();
     int getTotalNeedConvertMusic() const;
@@ -69,6 +72,9 @@ Q_SIGNALS:
     void totalProgressChanged(double percent);
     // A run has drained. Emitted before the state returns to idle (that change is queued).
     void runFinished(const QString& summary, int succeeded, int failed);
+    // A run did not start because an output folder cannot take its files; `message` names the
+    // folder and the system's reason.
+    void runRefused(const QString& message);
     // One conversion has ended (done, failed or cancelled: the item's record says which);
     // `outputFile` is the file it wrote, or the folder it was to write into when it never got
     // that far.

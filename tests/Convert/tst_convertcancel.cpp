@@ -74,7 +74,9 @@ private Q_SLOTS:
         queue.addOperation(waiting);
         QTRY_VERIFY_WITH_TIMEOUT(recorder.count(u"progress"_s) > 0, 30000);
         QCOMPARE(stateOf(item), int(CvtStateConverting));
-        QVERIFY(QFileInfo::exists(running->strOutFilePath()));
+        // While it writes, only a hidden temporary file is there, never the final name.
+        QVERIFY(!QFileInfo::exists(running->strOutFilePath()));
+        QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden).size(), 1);
 
         waiting->cancel();
         QCOMPARE(stateOf(waitingItem), int(CvtStateCanceled));
@@ -95,6 +97,7 @@ private Q_SLOTS:
         QCOMPARE(waitingRecorder.events(), QStringList());
         QCOMPARE(stateOf(waitingItem), int(CvtStateCanceled));
         QCOMPARE(entries(folder), QStringList());
+        QCOMPARE(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList());
         QCOMPARE(queue.operationCount(), 0);
         QVERIFY(log.contains(u"stop process"_s));
         QVERIFY(!log.contains(u"exit code:0"_s));

@@ -126,6 +126,9 @@ private Q_SLOTS:
             << u"printf 'ok\\n'\nsleep 0.4\nprintf '\\303'\nsleep 0.4\n"
                "printf '\\303\\251t\\303\\251\\n'\n"_s
             << true << u"ok\nété\n"_s << 0 << 1;
+        // A child ended by a signal reads as a shell shows it, never as an exit status.
+        QTest::newRow("killed by a signal")
+            << u"killed.sh"_s << u"kill -9 $$\n"_s << true << QString() << 128 + 9 << 0;
         // The child runs nicer than the program, so the window stays responsive.
         const int expectedNiceness =
             std::min(19, ::getpriority(PRIO_PROCESS, 0) + TaskWrapper::kChildNicenessIncrement);
@@ -257,7 +260,7 @@ private Q_SLOTS:
 
         wrapper->stopProcess();
         QTRY_VERIFY_WITH_TIMEOUT(controller.terminated(), 10000);
-        QCOMPARE(controller.status(), 15);
+        QCOMPARE(controller.status(), TaskWrapper::kSignalStatusBase + SIGTERM);
         QTRY_VERIFY_WITH_TIMEOUT(!processExists(grandchild), 5000);
         QVERIFY(controller.hasRunShape());
         for (const Event& event : controller.events())

@@ -120,10 +120,14 @@ private Q_SLOTS:
         QVERIFY(QFile::link(dir.filePath("nowhere"), dir.filePath("song(3).mp3")));
         QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song(1).mp3"), "mp3"),
                  dir.filePath("song(4).mp3"));
-        // The counter is searched and replaced over the whole path: "Album(1)" becomes "Album(2)".
+        // The counter belongs to the file name: a folder called "Album(1)" stays the folder.
         touch(dir.filePath("Album(1)/take.wav"));
         QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("Album(1)/take"), "wav"),
-                 dir.filePath("Album(2)/take.wav"));
+                 dir.filePath("Album(1)/take(1).wav"));
+        // Names another writer of this program has claimed count as taken too.
+        const auto claimed = [&](const QString& p) { return p == dir.filePath("song(4).mp3"); };
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3", claimed),
+                 dir.filePath("song(5).mp3"));
     }
 
     void folderIsMadeSure() {

@@ -11,6 +11,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <cmath>
+#include <sys/mount.h>
 
 using namespace Qt::StringLiterals;
 
@@ -42,6 +43,8 @@ private Q_SLOTS:
     void emptyRunEndsAtTheFirstRefresh();
     void totalProgressWeights();
     void cancelOneFallsThroughThenCancelAllEndsTheRun();
+    void unusableOutputFolderStartsNothing_data();
+    void unusableOutputFolderStartsNothing();
 
 private:
     QString source(const QString& name) const { return m_sources.filePath(name); }
@@ -323,6 +326,53 @@ void TestWorkspaceRun::cancelOneFallsThroughThenCancelAllEndsTheRun() {
     QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QCOMPARE(items.at(1)->dConvertProgress(), SXProgress::Canceled);
+}
+
+void TestWorkspaceRun::unusableOutputFolderStartsNothing_data() {
+    QTest::addColumn<QString>("kind");
+    QTest::addColumn<QString>("reason");
+    QTest::newRow("a file in the way") << u"file"_s << u"name is taken by a file"_s;
+    QTest::newRow("read-only file system") << u"readonly"_s << u"read-only"_s;
+}
+
+// A destination that cannot take files stops the run before any child starts: the user reads
+// which folder and why, and nothing is written anywhere.
+void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
+    QFETCH(QString, kind);
+    QFETCH(QString, reason);
+    QTemporaryDir dir;
+    QString folder = dir.filePath(u"out"_s);
+    if (kind == "file"_L1) {
+        QVERIFY(SonoriaTest::writeFile(dir.filePath(u"blocker"_s), "mine"));
+        folder = dir.filePath(u"blocker/out"_s);
+    } else {
+        QVERIFY(QDir().mkpath(folder));
+        if (::mount("tmpfs", QFile::encodeName(folder).constData(), "tmpfs", MS_RDONLY,
+                    "size=64k") != 0)
+            QSKIP("mounting a tmpfs is not allowed here");
+    }
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
+    QSignalSpy refused(&workspace, &SXWorkspace::runRefused);
+    LogCapture log;
+    const bool started = workspace.doRealConverterTask(folder);
+    if (kind == "readonly"_L1)
+        ::umount2(QFile::encodeName(folder).constData(), MNT_DETACH);
+
+    QVERIFY(!started);
+    QCOMPARE(refused.count(), 1);
+    const QString message = refused.first().first().toString();
+    QVERIFY2(message.contains(folder + u"/MP3"_s) && message.contains(reason), qPrintable(message));
+    QCOMPARE(m_presenter.alerts.last().informativeText, message);
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(log.lines().filter(u"args:"_s).isEmpty());
+    QCOMPARE(workspace.getDataForFormat(u"MP3"_s).first()->mediaInfo()->eumCvtState(),
+             int(CvtStateReady));
+    QCOMPARE(SonoriaTest::readFile(dir.filePath(u"blocker"_s)), kind == "file"_L1 ? "mine" : "");
+    QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
+             kind == "file"_L1 ? QStringList{u"blocker"_s} : QStringList{u"out"_s});
 }
 
 SONORIA_TEST_MAIN(TestWorkspaceRun)

@@ -198,10 +198,15 @@ void TestCli::failuresAreNamedAndExitOne() {
     // The loadable file is still converted.
     QCOMPARE(filesBelow(out), (QStringList{u"MP3"_s, u"MP3/plain tone.mp3"_s}));
 
-    // A file that loads but cannot be converted (its output folder is a regular file).
-    result = runCli({"--no-organize", "-o", m_textAsMp3, wav});
+    // An output folder that cannot be made (a regular file stands there): no child starts, and
+    // the folder is named with the reason.
+    result = runCli({"-v", "--no-organize", "-o", m_textAsMp3, wav});
     QCOMPARE(result.exitCode, 1);
-    QCOMPARE(lines(result.out).first(), u"failed: "_s + wav);
+    QVERIFY2(result.err.contains(u"sonoria-cli: Cannot write into the output folder \""_s +
+                                 m_textAsMp3 +
+                                 u"\": The output folder's name is taken by a file"_s),
+             qPrintable(result.err));
+    QVERIFY(!result.err.contains(u"args:"_s));
 }
 
 void TestCli::dryRunCreatesNothing() {
