@@ -5,6 +5,7 @@
 #include <QGuiApplication>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -25,7 +26,8 @@ QString SXLauncherProgress::appUri() const {
 }
 
 void SXLauncherProgress::showProgress(double fraction) {
-    fraction = std::isnan(fraction) ? 0.0 : std::clamp(fraction, 0.0, 1.0);
+    // A run without items has no fraction to tell; the bar then stands at its start.
+    fraction = std::isfinite(fraction) ? std::clamp(fraction, 0.0, 1.0) : 0.0;
     // The refresh comes every 0.4 s; a bar that has not moved is not worth a bus message.
     if (m_visible && std::abs(fraction - m_lastFraction) < 0.001)
         return;

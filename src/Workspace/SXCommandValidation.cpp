@@ -90,6 +90,6 @@ bool sxSettingPanelEnabled(int state) {
     return state != AppStateConverting;
 }
 
-bool sxRemoveButtonsEnabled(int itemsInSelectedContainer) {
-    return itemsInSelectedContainer > 0;
+bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer) {
+    return state != AppStateConverting && itemsInSelectedContainer > 0;
 }

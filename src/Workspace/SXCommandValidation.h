@@ -67,7 +67,8 @@ struct SXToolbarLook {
 bool sxValidateToolbarCommand(SXCommand command, int state, int totalItems, bool hasSelection);
 SXToolbarLook sxStartToolbarLook(int state);
 
-// The settings panel and Add Files follow the run; Clear and Delete follow the list's content
-// in every state (a refresh during a run enables them again, as it always has).
+// The settings panel and Add Files follow the run; Clear and Delete need items in the shown
+// container and are off during a run, as their menu items are: nothing leaves a container
+// whose items are converting.
 bool sxSettingPanelEnabled(int state);
-bool sxRemoveButtonsEnabled(int itemsInSelectedContainer);
+bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer);

@@ -6,6 +6,9 @@
 
 #include <QFileInfo>
 
+#include <algorithm>
+#include <cmath>
+
 void SXStateStripModel::updateForAppState(int state, const SXMusicInfoPtr& item) {
     m_appType = state;
     if (item)
@@ -40,7 +43,11 @@ void SXStateStripModel::updateForAppState(int state, const SXMusicInfoPtr& item)
 }
 
 bool SXStateStripModel::updateConverterProgress(double percent) {
-    if (!m_look.progressShown || m_look.progress > percent)
+    // The strip shows whole per cents: a value that is no number never reaches it.
+    if (!std::isfinite(percent) || !m_look.progressShown)
+        return false;
+    percent = std::clamp(percent, 0.0, 100.0);
+    if (m_look.progress > percent)
         return false;
     m_look.progress = percent;
     return true;
@@ -51,7 +58,8 @@ bool SXStateStripModel::musicPlayingProgress(const SXMusicInfoPtr& item, double 
         return false;
     const LSMediaPtr media = m_playingMusic->mediaInfo();
     const double duration = media ? media->duration() : 0;
-    m_look.slider = duration > 0 ? seconds / duration * 100.0 : 0;
+    const double slider = duration > 0 ? seconds / duration * 100.0 : 0;
+    m_look.slider = std::isfinite(slider) ? std::clamp(slider, 0.0, 100.0) : 0;
     m_look.playTime = GlobalFun::getTimeStringBySecond(seconds);
     const QString left = GlobalFun::getTimeStringBySecond(duration - seconds);
     m_look.musicTime = left.isEmpty() ? QString() : QStringLiteral("-%1").arg(left);

@@ -19,8 +19,8 @@ public:
     // The workspace's state; an item replaces the shown one, null keeps it. Loading changes
     // nothing but the slider.
     void updateForAppState(int state, const SXMusicInfoPtr& item);
-    // A run's total: taken only while the bar shows and when it does not go back. True when it
-    // was taken.
+    // A run's total: taken only while the bar shows and when it does not go back, kept within
+    // 0..100; a value that is no number is dropped. True when it was taken.
     bool updateConverterProgress(double percent);
     // Seconds of the shown preview played; ignored for another item or a hidden slider.
     bool musicPlayingProgress(const SXMusicInfoPtr& item, double seconds);

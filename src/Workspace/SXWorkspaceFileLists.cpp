@@ -190,7 +190,18 @@ void SXWorkspaceFileLists::clickCancel() {
 
 // --- Removing and finding ---
 
+bool SXWorkspaceFileLists::refusedDuringRun() const {
+    if (enumAppState() != AppStateConverting)
+        return false;
+    beep();
+    return true;
+}
+
 void SXWorkspaceFileLists::removeFile(const SXMusicInfoList& items, const QString& fromFiles) {
+    // Silent: the gestures that end here beep themselves, and a move out of another window
+    // is no gesture of this one.
+    if (enumAppState() == AppStateConverting)
+        return;
     {
         QMutexLocker locker(&m_dataLock);
         auto list = _dicfmtFiles.find(fromFiles);
@@ -202,6 +213,8 @@ void SXWorkspaceFileLists::removeFile(const SXMusicInfoList& items, const QStrin
 }
 
 void SXWorkspaceFileLists::clickDeleteFile() {
+    if (refusedDuringRun())
+        return;
     const SXMusicInfoList items = selectedItems();
     if (items.isEmpty()) {
         beep();
@@ -216,6 +229,8 @@ void SXWorkspaceFileLists::clickDeleteFile() {
 }
 
 void SXWorkspaceFileLists::clickClear() {
+    if (refusedDuringRun())
+        return;
     const SXMusicInfoList items = getCurTableDatasource();
     if (items.isEmpty()) {
         beep();

@@ -48,7 +48,10 @@ public:
 
     // --- Removing and finding ---
     // Removes from the container named `fromFiles` the first item equal to each of `items`.
+    // Nothing is removed during a run (see refusedDuringRun).
     void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
+    // Delete and Clear, from the buttons, the menu and the list's keys: refused with a beep
+    // during a run.
     void clickDeleteFile();
     void clickClear();
     static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
@@ -71,6 +74,12 @@ Q_SIGNALS:
     // The sheet is to be hidden at once (the run still ends with loadFinished).
     void loadCancelled();
     void loadFinished(const SXMusicInfoList& failed);
+
+protected:
+    // Nothing leaves a container while a run converts the window's items: the operation of a
+    // removed item would go on converting it where nobody can stop it, and the summary would
+    // not count it. True, after a beep, when the state refuses the gesture.
+    bool refusedDuringRun() const;
 
 private:
     LSMediaLoaderPtr m_mediaLoader;

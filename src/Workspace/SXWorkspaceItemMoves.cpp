@@ -32,7 +32,7 @@ void SXWorkspaceItemMoves::moveSelectedTo(int direction) {
 }
 
 QByteArray SXWorkspaceItemMoves::dragDataForRows(const QList<int>& rows) const {
-    if (enumAppState() == AppStateConverting)
+    if (refusedDuringRun())
         return {};
     const SXMusicInfoList list = getCurTableDatasource();
     SXMusicInfoList items;
@@ -51,7 +51,7 @@ QByteArray SXWorkspaceItemMoves::dragDataForRows(const QList<int>& rows) const {
 }
 
 bool SXWorkspaceItemMoves::acceptDrop(const SXMusicInfoList& items, int row, int dropHighlight) {
-    if (enumAppState() == AppStateConverting)
+    if (refusedDuringRun())
         return false;
     if (items.isEmpty())
         return true;
@@ -94,7 +94,7 @@ void SXWorkspaceItemMoves::reorderWithinContainer(const SXMusicInfoList& items, 
 void SXWorkspaceItemMoves::acceptDropOnTab(const SXMusicInfoList& items, const QString& tabLabel) {
     SXLog::line(QStringLiteral("acceptedDraggingInfo: %1 onTabViewItem: %2")
                     .arg(QString::number(items.size()), tabLabel));
-    if (items.isEmpty() || enumAppState() == AppStateConverting)
+    if (items.isEmpty() || refusedDuringRun())
         return;
     const QString source = items.first()->getStrMusicType();
     if (source == tabLabel)
@@ -105,7 +105,7 @@ void SXWorkspaceItemMoves::acceptDropOnTab(const SXMusicInfoList& items, const Q
 
 void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QString& fromFormat,
                                           const QString& toFileContainer, int noRow) {
-    if (items.isEmpty())
+    if (items.isEmpty() || refusedDuringRun())
         return;
     {
         QMutexLocker locker(&m_dataLock);
@@ -138,7 +138,10 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
 
 void SXWorkspaceItemMoves::removeDragOutFiles(const SXMusicInfoList& dragInFiles,
                                               const QString& format) {
-    if (dragInFiles.isEmpty() || getDataForFormat(format).isEmpty())
+    // A window that converts keeps its items: the move took copies, so the source stays whole
+    // here and its run goes on with every item it counted.
+    if (dragInFiles.isEmpty() || enumAppState() == AppStateConverting ||
+        getDataForFormat(format).isEmpty())
         return;
     removeFile(dragInFiles, format);
     refreshListView();

@@ -18,6 +18,8 @@ public:
     ~SXWorkspaceItemMoves() override;
 
     void moveSelectedTo(int direction); // -1: next row, +1: previous row
+    // Every move is refused during a run, with a beep, and no item leaves a converting window's
+    // containers, not even for a move out of another window.
     // The drag source: an archive of the items of `rows` (SXMusicInfo::unarchiveItems reads it);
     // empty, meaning refused, during a conversion or when nothing can be archived.
     QByteArray dragDataForRows(const QList<int>& rows) const;

@@ -265,8 +265,9 @@ double SXWorkspaceScheduler::getTotalConvertProgress() const {
                 sum += value;
         }
     }
-    // Without items this is 0/0: the front ends get NaN and show no progress.
-    return sum / (double(count) * 100.0);
+    // Without items there is nothing to divide by: no progress, never NaN, which the state strip
+    // and the launcher would turn into an integer.
+    return count == 0 ? 0.0 : sum / (double(count) * 100.0);
 }
 
 int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
@@ -292,18 +293,28 @@ void SXWorkspaceScheduler::clickCancelAll() {
 }
 
 ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusicInfoPtr& item) {
-    if (!_queueConvertTask || _queueConvertTask->operationCount() == 0 || !item)
+    if (!_queueConvertTask || !item)
         return nullptr;
     QMutexLocker locker(&m_queueLock);
-    ConvertOperationPtr found;
-    // Walks to the end when nothing matches, so the last operation is the answer then.
+    QList<ConvertOperationPtr> operations;
     for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
-        found = std::dynamic_pointer_cast<ConvertOperation>(operation);
-        const SXMusicInfoPtr music = found ? found->musicToConvert() : nullptr;
-        if (music && music->isEqualToMusic(*item))
-            break;
+        if (auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation))
+            operations.append(std::move(convert));
     }
-    return found;
+    // The row's own item first: a container may hold one file twice, and a right-click must
+    // cancel the row it was made on.
+    for (const ConvertOperationPtr& operation : std::as_const(operations)) {
+        if (operation->musicToConvert() == item)
+            return operation;
+    }
+    // An equal item (a copy, as a drag carries) still names its operation; anything else names
+    // none, so that no other file is ever cancelled in its place.
+    for (const ConvertOperationPtr& operation : std::as_const(operations)) {
+        const SXMusicInfoPtr music = operation->musicToConvert();
+        if (music && music->isEqualToMusic(*item))
+            return operation;
+    }
+    return nullptr;
 }
 
 void SXWorkspaceScheduler::didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item) {
@@ -313,9 +324,26 @@ void SXWorkspaceScheduler::didMyListViewCellRightButtonClick(const SXMusicInfoPt
         setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
         Q_EMIT rowsRedrawRequested();
         Q_EMIT metadataEditorRequested(item);
-    } else if (state == AppStateConverting) {
-        if (const ConvertOperationPtr operation = findOperationForMusicInfo(item))
-            operation->cancel();
+        return;
+    }
+    if (state != AppStateConverting || !item)
+        return;
+    // A row whose conversion has ended has nothing left to cancel.
+    const double progress = item->dConvertProgress();
+    if (progress == SXProgress::Done || progress == SXProgress::Failed ||
+        progress == SXProgress::Canceled)
+        return;
+    const ConvertOperationPtr operation = findOperationForMusicInfo(item);
+    if (!operation)
+        return;
+    operation->cancel();
+    // As Stop does for every row: a waiting operation leaves the queue without a word, so the
+    // row says at once that it will not convert. One that had already ended keeps its outcome.
+    const SXMusicInfoPtr cancelled = operation->musicToConvert();
+    const LSMediaPtr media = cancelled ? cancelled->mediaInfo() : nullptr;
+    if (media && media->eumCvtState() == CvtStateCanceled) {
+        cancelled->setDConvertProgress(SXProgress::Canceled);
+        Q_EMIT rowsRedrawRequested();
     }
 }
 

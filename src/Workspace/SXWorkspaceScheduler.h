@@ -31,16 +31,18 @@ public:
     void startConvertOperation();
     void setConvertOperationFinshed();
     int getTotalNeedConvertMusic() const;
-    // Fraction 0..1 over every item (NaN without items).
+    // Fraction 0..1 over every item (0 without items).
     double getTotalConvertProgress() const;
     void clickCancelAll();
     // Ends a run for good, without its summary: every conversion is cancelled, the children are
     // waited for (their partial files are gone when this returns) and the state is idle. For a
     // window that closes or a program that quits during a run.
     void abandonRun();
-    // The queued operation of `item`; when none matches, the last queued one.
+    // The waiting or running operation of `item` (that very item, else an equal one); null
+    // when none matches.
     ConvertOperationPtr findOperationForMusicInfo(const SXMusicInfoPtr& item);
-    // A row's right button: the tag editor when idle or playing, cancel during a run.
+    // A row's right button: the tag editor when idle or playing; during a run it cancels that
+    // row's own conversion while it waits or converts, and does nothing once it has ended.
     void didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item);
 
     // The run's parallelism instead of the stored maximum, without storing it (nullopt: the

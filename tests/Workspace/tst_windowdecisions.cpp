@@ -19,6 +19,8 @@ private Q_SLOTS:
     void menuCommandsFollowTheState_data();
     void menuCommandsFollowTheState();
     void toolbarFollowsTheRun();
+    void removingFollowsTheRunAndTheList_data();
+    void removingFollowsTheRunAndTheList();
     void chooserResultSharesListsAndKeepsNoLibrary();
     void helpBarSumsEveryContainer();
     void stripBarNeverGoesBackAndNamesThePreview();
@@ -163,7 +165,33 @@ void TestWindowDecisions::toolbarFollowsTheRun() {
     QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
              (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
     QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
-    QVERIFY(!sxRemoveButtonsEnabled(0) && sxRemoveButtonsEnabled(1));
+}
+
+void TestWindowDecisions::removingFollowsTheRunAndTheList_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("idle, empty") << int(AppStateIdle) << 0 << false;
+    QTest::newRow("idle, items") << int(AppStateIdle) << 2 << true;
+    QTest::newRow("playing, items") << int(AppStatePlaying) << 1 << true;
+    QTest::newRow("loading, items") << int(AppStateLoading) << 1 << true;
+    QTest::newRow("converting, items") << int(AppStateConverting) << 3 << false;
+    QTest::newRow("converting, empty container") << int(AppStateConverting) << 0 << false;
+}
+
+void TestWindowDecisions::removingFollowsTheRunAndTheList() {
+    // The Delete and Clear buttons, their menu items and the items' shortcuts give one answer.
+    QFETCH(int, state);
+    QFETCH(int, count);
+    QFETCH(bool, enabled);
+    QCOMPARE(sxRemoveButtonsEnabled(state, count), enabled);
+    SXCommandContext context;
+    context.state = state;
+    context.count = count;
+    context.hasKeyWorkspace = context.keyHasSelection = true;
+    context.keySelectedFormat = u"MP3"_s;
+    for (SXCommand command : {SXCommand::Delete, SXCommand::Clear})
+        QCOMPARE(sxValidateMenuCommand(command, context).enabled, enabled);
 }
 
 void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
@@ -219,7 +247,12 @@ void TestWindowDecisions::stripBarNeverGoesBackAndNamesThePreview() {
     QCOMPARE(strip.look().name, u"Converting..."_s);
     QVERIFY(strip.updateConverterProgress(40));
     QVERIFY(!strip.updateConverterProgress(35));
+    // No number (a run over no items once gave 0/0) never reaches the bar's integer.
+    QVERIFY(!strip.updateConverterProgress(qQNaN()));
+    QVERIFY(!strip.updateConverterProgress(qInf()));
     QCOMPARE(strip.look().progress, 40.0);
+    QVERIFY(strip.updateConverterProgress(250));
+    QCOMPARE(strip.look().progress, 100.0);
     strip.updateForAppState(AppStateIdle, nullptr);
     QVERIFY(!strip.look().progressShown && strip.look().progress == 0);
 

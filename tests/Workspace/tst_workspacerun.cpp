@@ -1,4 +1,5 @@
 #include "support/LogCapture.h"
+#include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 
 #include "Common/Util/SXFileLocalManager.h"
@@ -12,6 +13,7 @@
 #include <QTemporaryDir>
 #include <cmath>
 #include <sys/mount.h>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -42,7 +44,8 @@ private Q_SLOTS:
     void summaryAndChoiceTexts();
     void emptyRunEndsAtTheFirstRefresh();
     void totalProgressWeights();
-    void cancelOneFallsThroughThenCancelAllEndsTheRun();
+    void rightClickCancelsItsOwnRowThenStopEndsTheRun();
+    void nothingLeavesTheListDuringARun();
     void unusableOutputFolderStartsNothing_data();
     void unusableOutputFolderStartsNothing();
 
@@ -66,6 +69,9 @@ void TestWorkspaceRun::initTestCase() {
     // Long enough that a run of several is still going when the test acts on it.
     QVERIFY(SonoriaTest::makeMedia(source(u"long.flac"_s),
                                    u"sine=frequency=200:duration=900:sample_rate=8000"_s));
+    // Converts in a few seconds: a run is still busy with it when the file before has ended.
+    QVERIFY(SonoriaTest::makeMedia(source(u"mid.flac"_s),
+                                   u"sine=frequency=250:duration=120:sample_rate=8000"_s));
 }
 
 void TestWorkspaceRun::init() {
@@ -255,12 +261,17 @@ void TestWorkspaceRun::emptyRunEndsAtTheFirstRefresh() {
     SXWorkspace workspace;
     workspace.addDefaultTabs();
     QSignalSpy states(&workspace, &SXWorkspace::appStateChanged);
+    QSignalSpy totals(&workspace, &SXWorkspace::totalProgressChanged);
     const QList<QVariant> summary = runInto(workspace, freshFolder(u"empty"_s));
     QVERIFY(!summary.isEmpty());
     QCOMPARE(summary.at(0).toString(), u"0 files has been successfully converted."_s);
     QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(states.size(), 2);
-    QVERIFY(std::isnan(workspace.getTotalConvertProgress()));
+    // No items: no progress, and never NaN (the strip and the launcher make integers of it).
+    QCOMPARE(workspace.getTotalConvertProgress(), 0.0);
+    QCOMPARE(totals.size(), 2);
+    for (const QList<QVariant>& total : std::as_const(totals))
+        QCOMPARE(total.first().toDouble(), 0.0);
 
     // A state set twice is announced twice, each time with its item: a preview moving on
     // from row to row stays AppStatePlaying.
@@ -289,7 +300,7 @@ void TestWorkspaceRun::totalProgressWeights() {
     QCOMPARE(workspace.getTotalConvertProgress(), (100.0 * 3 + 90 + 0 + 50) / 600);
 }
 
-void TestWorkspaceRun::cancelOneFallsThroughThenCancelAllEndsTheRun() {
+void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     SXWorkspace workspace;
     workspace.setPresenter(&m_presenter);
     workspace.addDefaultTabs();
@@ -304,23 +315,29 @@ void TestWorkspaceRun::cancelOneFallsThroughThenCancelAllEndsTheRun() {
     const QList<SXOperationPtr> queued = workspace.queueConvertTask()->operations();
     QCOMPARE(queued.size(), 3);
 
-    // The three items share a path, so the first operation answers for all of them; an item
-    // of no operation gets the last one.
-    QCOMPARE(workspace.findOperationForMusicInfo(items.at(2)), queued.first());
-    QCOMPARE(workspace.findOperationForMusicInfo(outsider), queued.last());
+    // The three rows share a path: each finds its own operation, a copy the first equal one,
+    // and an item of no operation none.
+    QCOMPARE(workspace.findOperationForMusicInfo(items.at(2)), queued.at(2));
+    QCOMPARE(workspace.findOperationForMusicInfo(items.at(1)->copy()), queued.first());
+    QVERIFY(!workspace.findOperationForMusicInfo(outsider));
     workspace.didMyListViewCellRightButtonClick(outsider);
-    QCOMPARE(items.at(2)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
-    QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateReady));
-    QCOMPARE(workspace.queueConvertTask()->operationCount(), 2);
+    QCOMPARE(workspace.queueConvertTask()->operationCount(), 3);
 
-    // Stop is the Start button during a run: the queued items are marked cancelled at once
-    // (the one cancelled alone left the queue and keeps waiting), and the run ends later,
-    // through the refresh.
+    // The waiting last row is cancelled, and only it; a second click finds nothing to do.
+    workspace.didMyListViewCellRightButtonClick(items.at(2));
+    QCOMPARE(items.at(2)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
+    QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Canceled);
+    QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateReady));
+    QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
+    workspace.didMyListViewCellRightButtonClick(items.at(2));
+    QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
+
+    // Stop is the Start button during a run: the queued items are marked cancelled at once,
+    // and the run ends later, through the refresh.
     workspace.clickStart();
     QVERIFY(m_presenter.folderRequests.isEmpty());
     QCOMPARE(items.at(0)->dConvertProgress(), SXProgress::Canceled);
     QCOMPARE(items.at(1)->dConvertProgress(), SXProgress::Canceled);
-    QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Waiting);
     QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
     QVERIFY(finished.wait(kRunTimeoutMs));
     QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
@@ -373,6 +390,64 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
     QCOMPARE(SonoriaTest::readFile(dir.filePath(u"blocker"_s)), kind == "file"_L1 ? "mine" : "");
     QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
              kind == "file"_L1 ? QStringList{u"blocker"_s} : QStringList{u"out"_s});
+}
+
+void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    QVERIFY(addFiles(workspace, u"MP3"_s,
+                     {source(u"s48.wav"_s), source(u"mid.flac"_s), source(u"m44.flac"_s)}));
+    const SXMusicInfoList items = workspace.getDataForFormat(u"MP3"_s);
+    QCOMPARE(fileNames(items), (QStringList{u"s48.wav"_s, u"mid.flac"_s, u"m44.flac"_s}));
+    workspace.setSelectedRows({0, 1, 2});
+    workspace.setMaxConcurrentOverride(1);
+    const QString folder = freshFolder(u"kept"_s);
+    QSignalSpy itemsDone(&workspace, &SXWorkspace::itemFinished);
+    QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
+    workspace.doRealConverterTask(folder);
+
+    // The first file has converted; the second converts, the third waits.
+    QVERIFY(itemsDone.wait(60000));
+    QCOMPARE(itemsDone.first().first().value<SXMusicInfoPtr>(), items.at(0));
+    QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Waiting);
+    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
+
+    // A right-click on the finished row cancels nothing (it once cancelled the last file).
+    QTRY_COMPARE(workspace.queueConvertTask()->operationCount(), 2);
+    workspace.didMyListViewCellRightButtonClick(items.at(0));
+    QCOMPARE(workspace.queueConvertTask()->operationCount(), 2);
+    // Every way out of the list is refused aloud; a move out of another window is refused
+    // quietly.
+    const int beeps = m_presenter.beeps;
+    workspace.clickDeleteFile();
+    workspace.clickClear();
+    QVERIFY(!workspace.acceptDrop({items.at(2)->copy()}, 0, SXWorkspace::DropAboveRow));
+    workspace.acceptDropOnTab({items.at(0)->copy()}, u"AAC"_s);
+    workspace.dragMusicInfos({items.at(1)->copy()}, u"MP3"_s, u"AAC"_s, -1);
+    QVERIFY(workspace.dragDataForRows({0, 1}).isEmpty());
+    QCOMPARE(m_presenter.beeps, beeps + 6);
+    workspace.removeDragOutFiles(items, u"MP3"_s);
+    QCOMPARE(workspace.getDataForFormat(u"MP3"_s), items);
+    QVERIFY(workspace.getDataForFormat(u"AAC"_s).isEmpty());
+    QCOMPARE(workspace.selectedRows(), (QList<int>{0, 1, 2}));
+
+    // Every child was reported and counted, and every output is whole on disk.
+    QVERIFY(finished.wait(kRunTimeoutMs));
+    QCOMPARE(finished.first().at(0).toString(), u"3 files has been successfully converted."_s);
+    QCOMPARE(itemsDone.size(), 3);
+    QCOMPARE(filesIn(folder + u"/MP3"_s), (QStringList{u"m44.mp3"_s, u"mid.mp3"_s, u"s48.mp3"_s}));
+    for (const auto& [name, seconds] :
+         {std::pair{u"s48"_s, 1.0}, std::pair{u"mid"_s, 120.0}, std::pair{u"m44"_s, 1.0}}) {
+        const ProbeReference output = ProbeReference::read(folder + u"/MP3/"_s + name + u".mp3"_s);
+        QVERIFY2(output.ok && qAbs(output.duration - seconds) < 0.5, qPrintable(name));
+    }
+
+    // Once the run is over the list may be cleared; an empty list has no progress.
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+    workspace.clickClear();
+    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.getTotalConvertProgress(), 0.0);
 }
 
 SONORIA_TEST_MAIN(TestWorkspaceRun)

@@ -9,10 +9,10 @@ class SXWorkspaceScheduler;
 // The item list of the selected container: one view for every container of the window, rows
 // painted by SXItemRowDelegate over SXItemListModel. The workspace holds the selection; the view
 // shows it and reports every change the user makes, so a list with rows never has an empty one.
-// Gestures: Delete removes the selection, Enter asks for a run (startRequested), a double-click or
-// the play button asks the preview to play, a right-click or the right button go to the workspace's
-// row-button rule, and rows drag within the list, onto tabs, into other windows and out to file
-// managers.
+// Gestures: Delete removes the selection (refused by the workspace during a run), Enter asks
+// for a run (startRequested), a double-click or the play button asks the preview to play, a
+// right-click or the right button go to the workspace's row-button rule, and rows drag within
+// the list, onto tabs, into other windows and out to file managers.
 class SXItemListView final : public QListView {
     Q_OBJECT
 public:

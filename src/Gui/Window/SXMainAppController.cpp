@@ -132,7 +132,8 @@ void SXMainAppController::connectWorkspace() {
 }
 
 void SXMainAppController::refreshListView() {
-    const bool removable = sxRemoveButtonsEnabled(m_workspace->getCurentTabMusicCount());
+    const bool removable =
+        sxRemoveButtonsEnabled(m_workspace->enumAppState(), m_workspace->getCurentTabMusicCount());
     _btnDelete->setEnabled(removable);
     _btnClear->setEnabled(removable);
     _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(*m_workspace));

@@ -268,8 +268,28 @@ void TestItemList::dropsAreRefusedDuringARun() {
     QVERIFY(!dragAndDrop(window.get(), QPoint(5, 5), files.get()));
     const QRect aac = window->tabBar().tabRect(1);
     QVERIFY(!dragAndDrop(&window->tabBar(), aac.center(), rows.get()));
+    // The list's own keys remove nothing either.
+    QSignalSpy beeps(&window->presenter(), &SXWindowPresenter::beeped);
+    window->workspace().setSelectedRows({0, 1});
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Delete);
+    QTest::keyClick(view, Qt::Key_Backspace);
+    QCOMPARE(beeps.count(), 2);
     QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
     QVERIFY(window->workspace().getDataForFormat(window->workspace().tabLabels().at(1)).isEmpty());
+
+    // A move in another window takes the file out of every container of its name, but not out
+    // of a window whose items are converting.
+    const auto other = openWindow();
+    QVERIFY(other);
+    QVERIFY(dropFilesOnList(other.get(), {path(u"a.mp3"_s)}));
+    const std::unique_ptr<QMimeData> moved = dragRows(listOf(other.get()), {0});
+    const QRect otherAac =
+        other->tabBar().tabRect(int(other->workspace().tabLabels().indexOf(u"AAC"_s)));
+    QVERIFY(dragAndDrop(&other->tabBar(), otherAac.center(), moved.get()));
+    QCOMPARE(other->workspace().getDataForFormat(u"AAC"_s).size(), 1);
+    QVERIFY(other->workspace().getDataForFormat(u"MP3"_s).isEmpty());
+    QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
     window->workspace().setAppState(AppStateIdle);
 }
 

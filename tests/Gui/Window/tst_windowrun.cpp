@@ -67,6 +67,7 @@ private Q_SLOTS:
     void cleanup();
     void runFromStartToTheSummary();
     void stopCancelsEveryItemAndLeavesNoFile();
+    void nothingLeavesTheListDuringARun();
     void closingDuringARunCancelsItAndLeavesNoFile();
 
 private:
@@ -244,6 +245,44 @@ void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
     QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
     QCOMPARE(filesUnder(m_output->path()), QStringList());
     QVERIFY(m_window->tabBar().addButton()->isVisible());
+}
+
+void TestWindowRun::nothingLeavesTheListDuringARun() {
+    addSources({QStringLiteral("a.wav"), QStringLiteral("b.wav")}, 240.0,
+               {QStringLiteral("-ar"), QStringLiteral("22050")});
+    SXWorkspace& ws = m_window->workspace();
+    auto* list = m_window->findChild<SXItemListView*>();
+    auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
+    auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
+    ws.setSelectedRows({0, 1});
+    startInto(m_output->path());
+    QVERIFY(!remove->isEnabled() && !clear->isEnabled());
+
+    // The keys reach the workspace, which refuses aloud; the greyed buttons take no click.
+    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Delete);
+    QTest::keyClick(list, Qt::Key_Backspace);
+    QCOMPARE(beeps.count(), 2);
+    QTest::mouseClick(remove, Qt::LeftButton);
+    QTest::mouseClick(clear, Qt::LeftButton);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QCOMPARE(ws.getCurentTabMusicCount(), 2);
+    QCOMPARE(ws.queueConvertTask()->operationCount(), 2);
+
+    // Stop still reaches both children, and the summary comes with both rows in place.
+    startAction()->trigger();
+    QMessageBox* summary = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
+    QCOMPARE(list->model()->rowCount(), 2);
+    for (const SXMusicInfoPtr& item : ws.getCurTableDatasource())
+        QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
+    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+    QTRY_COMPARE(ws.enumAppState(), int(AppStateIdle));
+    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QVERIFY(remove->isEnabled() && clear->isEnabled());
+    QTest::mouseClick(clear, Qt::LeftButton);
+    QCOMPARE(list->model()->rowCount(), 0);
 }
 
 void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
