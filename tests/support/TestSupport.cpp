@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <cstdio>
 #include <memory>
 
 namespace SonoriaTest {
@@ -66,6 +67,14 @@ bool makeTone(const QString& path, double seconds, const QStringList& extra) {
     return makeMedia(
         path, QStringLiteral("sine=frequency=440:sample_rate=44100:duration=%1").arg(seconds),
         extra);
+}
+
+QString makeToneWithRawName(const QString& folder, const QByteArray& rawName) {
+    const QString plain = folder + QStringLiteral("/raw-name-tone.wav");
+    const QByteArray target = QFile::encodeName(folder) + '/' + rawName;
+    if (!makeTone(plain, 0.5) || ::rename(QFile::encodeName(plain).constData(), target) != 0)
+        return {};
+    return QFile::decodeName(target);
 }
 
 QString writeScript(const QString& dir, const QString& name, const QString& body) {

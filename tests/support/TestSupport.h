@@ -29,6 +29,10 @@ bool makeMedia(const QString& path, const QString& source, const QStringList& ex
 // A sine tone of `seconds` with ffmpeg's default encoder for the path's extension.
 bool makeTone(const QString& path, double seconds = 2.0, const QStringList& extra = {});
 
+// A tone in `folder` under `rawName`, bytes that need not be valid UTF-8 (made under a plain
+// name, then renamed). The path as the program sees it (bad bytes replaced) or "" on failure.
+QString makeToneWithRawName(const QString& folder, const QByteArray& rawName);
+
 // Writes an executable shell script and returns its path.
 QString writeScript(const QString& dir, const QString& name, const QString& body);
 
