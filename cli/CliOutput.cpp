@@ -48,7 +48,8 @@ QString escaped(const QString& text) {
 }
 
 void usageError(const QString& reason) {
-    line(stderr, QStringLiteral("sonoria-cli: ") + reason);
+    // The reason may quote an argument, which can hold anything.
+    line(stderr, QStringLiteral("sonoria-cli: ") + escaped(reason));
 }
 
 bool stdoutIsTerminal() {

@@ -185,6 +185,8 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
         << QStringList{"-f", "Ringtone", "--library", in} << "music library";
     QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
     QTest::newRow("missing value") << QStringList{"-f"} << "-f";
+    // A quoted argument cannot drive the terminal.
+    QTest::newRow("hostile argument") << QStringList{"-f", "MP\x1b[2J3", in} << "MP\\e[2J3";
 }
 
 void TestCli::usageErrorsExitTwoWithOneLine() {
