@@ -40,14 +40,18 @@ int CliInfo::printInfo(const QString& path) {
     loader->loadMediasWithMediaArray({item});
     loader->waitUntilDone();
     if (verdict.failed) {
-        CliOutput::line(stderr,
-                        QStringLiteral("sonoria-cli: cannot read \"%1\" as media").arg(path));
+        CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot read \"%1\" as media")
+                                    .arg(CliOutput::escaped(path)));
         return 1;
     }
 
     QString text;
-    for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(*item))
-        text += QStringLiteral("%1 %2\n").arg(line.caption + QLatin1Char(':'), -15).arg(line.text);
+    for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(*item)) {
+        if (line.shown)
+            text += QStringLiteral("%1 %2\n")
+                        .arg(line.caption + QLatin1Char(':'), -15)
+                        .arg(CliOutput::escaped(line.text));
+    }
     text += QStringLiteral("%1 %2\n").arg(QStringLiteral("Artwork:"), -15).arg(artworkText(*item));
     CliOutput::write(stdout, text);
     return 0;

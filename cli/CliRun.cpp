@@ -5,13 +5,12 @@
 #include "Shared/GlobalFun.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXFailureTexts.h"
 #include "Workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QFile>
 #include <csignal>
-#include <sys/stat.h>
 
 namespace {
 
@@ -60,29 +59,16 @@ void CliRun::prepareWorkspace() {
     m_workspace->setMaxConcurrentOverride(jobs);
 }
 
-int CliRun::countUnreadablePaths() const {
-    int unreadable = 0;
-    for (const QString& path : m_options.inputs) {
-        struct stat status {};
-        if (::lstat(QFile::encodeName(absoluteClean(path)).constData(), &status) != 0) {
-            CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot examine \"%1\"").arg(path));
-            ++unreadable;
-        }
-    }
-    return unreadable;
-}
-
 void CliRun::start() {
     m_terminal = CliOutput::stdoutIsTerminal();
     m_outputFolder = outputFolderForRun();
     prepareWorkspace();
     connect(m_workspace.get(), &SXWorkspaceFileLists::loadFinished, this,
-            [this](const SXMusicInfoList& failed) { loadFinished(int(failed.size())); });
+            [this](const SXMusicInfoList& failed) { loadFinished(failed); });
 
     QStringList paths;
     for (const QString& input : std::as_const(m_options.inputs))
         paths.append(absoluteClean(input));
-    m_loadFailures = countUnreadablePaths();
     m_workspace->loadAndParseFiles(paths);
 }
 
@@ -92,8 +78,16 @@ SXMusicInfoList CliRun::items() const {
 
 // --- Loading ---
 
-void CliRun::loadFinished(int failedCount) {
-    m_loadFailures += failedCount;
+void CliRun::loadFinished(const SXMusicInfoList& failed) {
+    // Named with their folders, so that thirty bad files in several folders can be found.
+    for (const SXMusicInfoPtr& item : failed) {
+        const LSMediaPtr media = item->mediaInfo();
+        CliOutput::line(stderr,
+                        QStringLiteral("failed to load: %1: %2")
+                            .arg(CliOutput::escaped(item->strFilePath()),
+                                 CliOutput::escaped(SXFailureTexts::loadReason(media.get()))));
+    }
+    m_loadFailures += int(failed.size());
     if (m_interruptSignal) {
         finish(m_interruptSignal == SIGINT ? kStatusInterruptedByUser : 1);
         return;
@@ -118,12 +112,13 @@ void CliRun::printDryRun() {
         const QString name = media ? media->strOutFileName() : QString();
         const QString target = GlobalFun::makeSureFullPathIdentical(
             folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
-        text += QStringLiteral("would convert: %1 -> %2\n").arg(item->strFilePath(), target);
+        text += QStringLiteral("would convert: %1 -> %2\n")
+                    .arg(CliOutput::escaped(item->strFilePath()), CliOutput::escaped(target));
     }
     text += QStringLiteral("%1 files would be converted to %2 in %3 (each with the name it would "
                            "get now; nothing was converted or created)\n")
                 .arg(loaded.size())
-                .arg(m_setting->fmtName(), folder);
+                .arg(m_setting->fmtName(), CliOutput::escaped(folder));
     CliOutput::write(stdout, text);
 }
 
@@ -136,7 +131,7 @@ void CliRun::startConversion() {
     });
     m_total = int(items().size());
     connect(m_workspace.get(), &SXWorkspaceScheduler::runFinished, this,
-            [this](const QString& summary, int, int) { runFinished(summary); });
+            [this](const QString&, int succeeded, int) { runFinished(succeeded); });
     if (m_terminal) {
         connect(m_workspace.get(), &SXWorkspaceScheduler::totalProgressChanged, this,
                 &CliRun::totalProgressChanged);
@@ -156,17 +151,23 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
         return;
     const LSMediaPtr media = item->mediaInfo();
     const int state = media ? media->eumCvtState() : CvtStateReady;
+    const QString path = CliOutput::escaped(item->strFilePath());
     QString line;
     if (state == CvtStateFinished) {
         ++m_done;
         line = outputFile.isEmpty()
-                   ? QStringLiteral("done: %1").arg(item->strFilePath())
-                   : QStringLiteral("done: %1 -> %2").arg(item->strFilePath(), outputFile);
-    } else if (state == CvtStateFailed) {
+                   ? QStringLiteral("done: %1").arg(path)
+                   : QStringLiteral("done: %1 -> %2").arg(path, CliOutput::escaped(outputFile));
+    } else if (const std::optional<SXPathFailure> failure =
+                   SXFailureTexts::conversionFailure(*item)) {
         ++m_failed;
-        line = QStringLiteral("failed: %1").arg(item->strFilePath());
+        m_reported.insert(item.get());
+        // On a terminal the bar holds the line; the failures are listed after it at the end.
+        if (!m_terminal)
+            printFailed(*failure);
+        return;
     } else if (state == CvtStateCanceled || item->dConvertProgress() == SXProgress::Canceled) {
-        line = QStringLiteral("cancelled: %1").arg(item->strFilePath());
+        line = QStringLiteral("cancelled: %1").arg(path);
     } else {
         return;
     }
@@ -175,24 +176,41 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
         CliOutput::line(stdout, line);
 }
 
+void CliRun::printFailed(const SXPathFailure& failure) {
+    CliOutput::line(stdout,
+                    QStringLiteral("failed: %1: %2")
+                        .arg(CliOutput::escaped(failure.path), CliOutput::escaped(failure.reason)));
+}
+
 void CliRun::totalProgressChanged(double percent) {
     m_bar.update(percent, m_done, m_failed, m_total);
 }
 
-void CliRun::runFinished(const QString& summary) {
+void CliRun::runFinished(int succeeded) {
     bool allConverted = m_loadFailures == 0;
+    SXPathFailureList failures;
     for (const SXMusicInfoPtr& item : items()) {
         // An item whose end was never announced (cancelled while it waited) is named here.
         report(item, QString());
         const LSMediaPtr media = item->mediaInfo();
         if (!media || media->eumCvtState() != CvtStateFinished)
             allConverted = false;
+        if (const std::optional<SXPathFailure> failure = SXFailureTexts::conversionFailure(*item))
+            failures.append(
+                {CliOutput::escaped(failure->path), CliOutput::escaped(failure->reason)});
     }
     if (m_terminal) {
         m_bar.update(m_workspace->getTotalConvertProgress() * 100.0, m_done, m_failed, m_total);
         CliOutput::write(stdout, QStringLiteral("\n"));
+        for (const SXPathFailure& failure : std::as_const(failures))
+            CliOutput::line(stdout,
+                            QStringLiteral("failed: %1: %2").arg(failure.path, failure.reason));
     }
-    CliOutput::line(stdout, summary);
+    // The window's summary, built again from the escaped names so that none can break a line.
+    CliOutput::line(stdout, SXWorkspaceScheduler::summaryMessage(succeeded, failures));
+    if (!failures.isEmpty() || m_loadFailures > 0)
+        CliOutput::line(stdout,
+                        SXFailureTexts::runCounts(succeeded, int(failures.size()), m_loadFailures));
     if (m_interruptSignal)
         finish(m_interruptSignal == SIGINT ? kStatusInterruptedByUser : 1);
     else
@@ -225,17 +243,20 @@ void CliRun::finish(int status) {
 void CliRun::runModalAlert(const SXAlert& alert, Answer<int> chosenButton) {
     // The end of a run is reported through runFinished, which carries the same summary text;
     // every other alert (the load failures) goes to standard error.
+    // The names a load failure lists follow one a line from loadFinished, with their reasons.
     if (m_phase != Phase::Converting) {
-        QString text = alert.messageText + QLatin1Char('\n') + alert.informativeText;
-        if (!text.endsWith(QLatin1Char('\n')))
-            text += QLatin1Char('\n');
-        CliOutput::write(stderr, text);
+        CliOutput::line(stderr, CliOutput::escaped(alert.messageText));
+        if (alert.details.isEmpty() && !alert.informativeText.isEmpty()) {
+            for (const QString& line :
+                 alert.informativeText.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+                CliOutput::line(stderr, CliOutput::escaped(line));
+        }
     }
     chosenButton(0);
 }
 
 void CliRun::showSheetAlert(const SXAlert& alert) {
-    CliOutput::line(stderr, alert.messageText);
+    CliOutput::line(stderr, CliOutput::escaped(alert.messageText));
 }
 
 void CliRun::chooseOutputFolder(const SXOutputFolderRequest&,

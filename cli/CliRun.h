@@ -4,6 +4,7 @@
 #include "CliProgressBar.h"
 #include "Convert/ConvertOperation.h"
 #include "Model/SXFormatSetting.h"
+#include "Shared/SXPathFailure.h"
 #include "Workspace/SXWorkspacePresenter.h"
 
 #include <QHash>
@@ -41,13 +42,13 @@ private:
     enum class Phase { Loading, Converting, Finished };
 
     void prepareWorkspace();
-    int countUnreadablePaths() const;
-    void loadFinished(int failedCount);
+    void loadFinished(const SXMusicInfoList& failed);
     void printDryRun();
     void startConversion();
     void report(const SXMusicInfoPtr& item, const QString& outputFile);
     void totalProgressChanged(double percent);
-    void runFinished(const QString& summary);
+    void runFinished(int succeeded);
+    void printFailed(const SXPathFailure& failure);
     void finish(int status);
     QString outputFolderForRun() const;
     SXMusicInfoList items() const;

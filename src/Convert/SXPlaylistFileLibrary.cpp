@@ -135,7 +135,11 @@ SXDeliveryResult SXPlaylistFileLibrary::deliver(const QString& playlistName,
 
 QString SXPlaylistFileLibrary::entryFor(const QString& file) const {
     const QString relative = m_library.relativePath(file);
-    return relative.isNull() ? QDir::cleanPath(QFileInfo(file).absoluteFilePath()) : relative;
+    if (relative.isNull())
+        return QDir::cleanPath(QFileInfo(file).absoluteFilePath());
+    // Every reader takes a line that starts with '#' for a comment or a directive: a file named
+    // "#hash.mp3" would silently vanish from the playlist.
+    return relative.startsWith(QLatin1Char('#')) ? QStringLiteral("./") + relative : relative;
 }
 
 SXDeliveryResult SXPlaylistFileLibrary::addToPlaylist(const QString& path,

@@ -90,7 +90,13 @@ TagLib::String MTETagFamily::toTString(const QString& text) {
 }
 
 QString MTETagFamily::toQString(const TagLib::String& text) {
-    return QString::fromStdString(text.to8Bit(true));
+    QString value = QString::fromStdString(text.to8Bit(true));
+    // A NUL inside a value ("before\0after", as ID3v2.4 separates several values and other
+    // families store verbatim) would end it wherever a C string carries it on (ffmpeg, the
+    // clipboard, a terminal), silently dropping what follows. A space keeps both parts readable,
+    // the way TagLib itself joins several values of one ID3v2 frame.
+    value.replace(QChar(u'\0'), QLatin1Char(' '));
+    return value;
 }
 
 QByteArray MTETagFamily::toQByteArray(const TagLib::ByteVector& bytes) {

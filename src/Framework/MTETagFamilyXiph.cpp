@@ -8,6 +8,9 @@
 #include <taglib/vorbisfile.h>
 #include <taglib/xiphcomment.h>
 
+#include <QMap>
+#include <optional>
+
 namespace {
 
 constexpr MTEKeyTable kKeys{"TITLE",   "ARTIST", "ALBUMARTIST",           "COMPOSER",  "ALBUM",
@@ -40,6 +43,58 @@ TagLib::List<TagLib::FLAC::Picture*> picturesOf(TagLib::File& file,
     if (auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file))
         return flac->pictureList();
     return comment ? comment->pictureList() : TagLib::List<TagLib::FLAC::Picture*>();
+}
+
+// The fields of a FLAC file's comment block, read raw, by upper-case name. TagLib ends a value
+// at its first NUL ("before\0after" reads "before") although the block stores each field whole
+// with its length. A NUL becomes a space, as in toQString(). nullopt when the block cannot be
+// read this way (then TagLib's values stand).
+using RawFields = QMap<QString, QStringList>;
+// The comment block of a FLAC file (metadata block type 4), empty without one.
+TagLib::ByteVector flacCommentBlock(TagLib::FLAC::File& flac) {
+    const long long start = flac.find("fLaC");
+    for (long long position = start + 4; start >= 0;) {
+        flac.seek(position);
+        const TagLib::ByteVector header = flac.readBlock(4);
+        if (header.size() < 4)
+            break;
+        const unsigned int length = header.toUInt(1, 3, true);
+        if ((header[0] & 0x7f) == 4)
+            return flac.readBlock(length);
+        if (header[0] & 0x80)
+            break;
+        position += 4 + length;
+    }
+    return {};
+}
+
+std::optional<RawFields> rawFlacFields(TagLib::File& file) {
+    auto* flac = dynamic_cast<TagLib::FLAC::File*>(&file);
+    const TagLib::ByteVector block = flac ? flacCommentBlock(*flac) : TagLib::ByteVector();
+    const auto fits = [&block](unsigned int at, unsigned int size) {
+        return at <= block.size() && size <= block.size() - at;
+    };
+    unsigned int at = 0;
+    if (!fits(at, 4) || !fits(4, block.toUInt(0U, false)))
+        return std::nullopt;
+    at = 4 + block.toUInt(0U, false);
+    if (!fits(at, 4))
+        return std::nullopt;
+    const unsigned int count = block.toUInt(at, false);
+    at += 4;
+    RawFields fields;
+    for (unsigned int i = 0; i < count && fits(at, 4); ++i) {
+        const unsigned int size = block.toUInt(at, false);
+        if (!fits(at + 4, size))
+            return std::nullopt;
+        const QByteArray field(block.data() + at + 4, qsizetype(size));
+        at += 4 + size;
+        const qsizetype equals = field.indexOf('=');
+        if (equals > 0)
+            fields[QString::fromUtf8(field.left(equals)).toUpper()].append(
+                QString::fromUtf8(field.mid(equals + 1)).replace(QChar(u'\0'), QLatin1Char(' ')));
+    }
+    return fields;
 }
 
 } // namespace
@@ -79,9 +134,27 @@ QString MTETagFamilyXiph::readField(TagLib::File& file, MTETagField field) const
         QStringList texts;
         for (const TagLib::String& value : values)
             texts.append(toQString(value));
-        return joined(texts);
+        const std::optional<RawFields> raw = rawFlacFields(file);
+        const QStringList whole = raw ? raw->value(name.toUpper()) : QStringList();
+        return joined(whole.size() == texts.size() ? whole : texts);
     }
     return {};
+}
+
+TagLib::PropertyMap MTETagFamilyXiph::properties(TagLib::File& file) const {
+    TagLib::PropertyMap result = MTETagFamily::properties(file);
+    const std::optional<RawFields> raw = rawFlacFields(file);
+    if (!raw)
+        return result;
+    for (auto& [name, values] : result) {
+        const QStringList whole = raw->value(toQString(name).toUpper());
+        if (whole.size() != int(values.size()))
+            continue;
+        values.clear();
+        for (const QString& value : whole)
+            values.append(toTString(value));
+    }
+    return result;
 }
 
 void MTETagFamilyXiph::writeField(TagLib::File& file, MTETagField field,

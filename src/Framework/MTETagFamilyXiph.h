@@ -16,6 +16,8 @@ public:
     MTEArtworkList readArtwork(TagLib::File& file) const override;
     QString tagVersion(TagLib::File& file) const override;
     void removeAllButEncoder(TagLib::File& file) const override;
+    // TagLib's properties, with FLAC values that hold a NUL read whole (see readField).
+    TagLib::PropertyMap properties(TagLib::File& file) const override;
     TagLib::PropertyMap addProperties(TagLib::File& file,
                                       const TagLib::PropertyMap& properties) const override;
 

@@ -4,12 +4,18 @@
 #include "Framework/MTEAudioFileMgr.h"
 #include "Shared/SXLog.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
 #include <system_error>
 #include <thread>
+#include <unistd.h>
 
 namespace {
 
@@ -43,6 +49,23 @@ void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
     if (!handle)
         SXLog::line(QStringLiteral("load %1 failed!").arg(path));
     item.setMetHandler(handle);
+}
+
+// Why a probe failed, in the user's words: the system's reason when the file cannot even be
+// opened, else it holds nothing we can read as audio.
+QString unloadableReason(const QString& path) {
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        const QString error = QString::fromStdString(std::generic_category().message(errno));
+        return QCoreApplication::translate("LSMediaLoader", "The file cannot be opened: %1")
+            .arg(error);
+    }
+    struct stat status {};
+    const bool folder = ::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode);
+    ::close(fd);
+    return folder ? QCoreApplication::translate("LSMediaLoader", "This is a folder, not a file")
+                  : QCoreApplication::translate("LSMediaLoader",
+                                                "The file holds no audio that can be read");
 }
 
 } // namespace
@@ -111,7 +134,11 @@ void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
             target->mediaLoaderStartLoadMusic(this, item);
 
         const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
-        if (!media || !HVMediaInfo::dumpMediaInfo(*media)) {
+        // An item that comes with a reason was refused before the load (a folder that cannot
+        // be read, a name that is not valid UTF-8); there is nothing to probe.
+        if (!media || !media->failReason().isEmpty() || !HVMediaInfo::dumpMediaInfo(*media)) {
+            if (media && media->failReason().isEmpty())
+                media->setFailReason(unloadableReason(media->filePath()));
             failedIndex.insert(i);
             SXLog::line(QStringLiteral("Failed:index:%1").arg(i));
         } else {

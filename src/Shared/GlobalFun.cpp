@@ -4,8 +4,8 @@
 #include "SXFolderVisit.h"
 #include "SXSettings.h"
 
+#include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutex>
@@ -17,8 +17,10 @@
 #include <cstdio>
 #include <limits>
 
+#include <dirent.h>
 #include <sys/stat.h>
 #include <sys/utsname.h>
+#include <system_error>
 
 namespace {
 
@@ -103,24 +105,60 @@ QString counterText(int k) {
     return QStringLiteral("(%1)").arg(k);
 }
 
+QString scanText(const char* text) {
+    return QCoreApplication::translate("GlobalFun", text);
+}
+
+bool accepted(const QString& path, const QStringList& filter) {
+    const PathParts parts = splitExtension(path);
+    return parts.hasExtension && filter.contains(parts.extension, Qt::CaseInsensitive);
+}
+
+// A name QString cannot carry: decoding and encoding it again does not give its bytes back, so
+// the path we would make of it names another file or none.
+bool nameSurvivesDecoding(const QByteArray& name) {
+    return QFile::encodeName(QFile::decodeName(name)) == name;
+}
+
+bool isFolderAt(const QByteArray& encodedPath) {
+    struct stat status {};
+    return ::stat(encodedPath.constData(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+// Lists with readdir(3), which gives the names' raw bytes, so that a name that is not valid
+// UTF-8 is noticed and reported instead of vanishing; a folder that cannot be listed is
+// reported too. Unsorted: the entries come in the order the file system returns them.
 void collectFiles(const QString& dir, const QStringList& filter, SXFolderVisit& visit,
-                  QStringList& found) {
-    // Unsorted: the entries come in the order the file system returns them.
-    QDirIterator entries(dir,
-                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (entries.hasNext()) {
-        const QString path = entries.next();
+                  QStringList& found, SXPathFailureList* failures) {
+    const QByteArray encodedDir = QFile::encodeName(dir);
+    DIR* stream = ::opendir(encodedDir.constData());
+    if (!stream) {
+        const QString error = QString::fromStdString(std::generic_category().message(errno));
+        if (failures)
+            failures->append({dir, scanText("The folder cannot be read: %1").arg(error)});
+        return;
+    }
+    while (const dirent* entry = ::readdir(stream)) {
+        const QByteArray name(entry->d_name);
+        if (name == "." || name == "..")
+            continue;
+        const QString path = dir + QLatin1Char('/') + QFile::decodeName(name);
+        if (!nameSurvivesDecoding(name)) {
+            if (failures && (accepted(path, filter) || isFolderAt(encodedDir + '/' + name)))
+                failures->append({path, scanText("The file name is not valid UTF-8")});
+            continue;
+        }
         if (visit.enter(path)) {
-            collectFiles(path, filter, visit, found);
+            collectFiles(path, filter, visit, found, failures);
             continue;
         }
         const QFileInfo info(path);
         if (!info.exists() || info.isDir())
             continue; // a dangling link, or a folder this scan has already been through
-        const PathParts parts = splitExtension(path);
-        if (parts.hasExtension && filter.contains(parts.extension, Qt::CaseInsensitive))
+        if (accepted(path, filter))
             found << path;
     }
+    ::closedir(stream);
 }
 
 QMutex g_switchLock;
@@ -234,11 +272,12 @@ bool GlobalFun::MakeSureFolderExsist(const QString& path) {
     return QDir().mkpath(path);
 }
 
-QStringList GlobalFun::fileListAtDirenctory(const QString& dir, const QStringList& filter) {
+QStringList GlobalFun::fileListAtDirenctory(const QString& dir, const QStringList& filter,
+                                            SXPathFailureList* failures) {
     QStringList found;
     SXFolderVisit visit;
     if (visit.enter(dir))
-        collectFiles(dir, filter, visit, found);
+        collectFiles(dir, filter, visit, found, failures);
     return found;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Shared/SXPathFailure.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -32,7 +34,10 @@ public:
     static bool MakeSureFolderExsist(const QString& path);
     // Full paths of the files below `dir` whose extension matches `filter` (case-insensitive),
     // depth first. Symbolic links are followed, yet every folder is scanned at most once.
-    static QStringList fileListAtDirenctory(const QString& dir, const QStringList& filter);
+    // Folders that cannot be listed, and names that are not valid UTF-8 (files with a matching
+    // extension, folders), are added to `failures` with their reason.
+    static QStringList fileListAtDirenctory(const QString& dir, const QStringList& filter,
+                                            SXPathFailureList* failures = nullptr);
     // The accepted source extensions, a fresh list each call.
     static QStringList getSupportedFmts();
     // Registers the getter of the remote "experimental" switch; without one the switch is on.

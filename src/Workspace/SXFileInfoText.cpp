@@ -1,7 +1,9 @@
 #include "Workspace/SXFileInfoText.h"
 
 #include "Shared/GlobalFun.h"
+#include "Workspace/SXFailureTexts.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 namespace {
@@ -22,6 +24,14 @@ QString titleText(const MTEAudioFile* tags, const LSMedia* media) {
     if (!title.isEmpty() || !media)
         return title;
     return QFileInfo(media->filePath()).completeBaseName();
+}
+
+// Why the item's last run failed; shown only for an item that failed.
+SXFileInfoLine failureLine(const SXMusicInfo& item) {
+    const std::optional<SXPathFailure> failure = SXFailureTexts::conversionFailure(item);
+    return {QStringLiteral("tfInfoFailReason"),
+            QCoreApplication::translate("SXFileInfoText", "Failed because"),
+            failure ? failure->reason : QString(), failure.has_value()};
 }
 
 } // namespace
@@ -102,6 +112,7 @@ QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
         {QStringLiteral("tfInfoTagFmt"), QStringLiteral("Tag format"), tagVersion},
         {QStringLiteral("tfInfoTitle"), QStringLiteral("Title"), titleText(tags, media)},
         {QStringLiteral("tfInfoWhere"), QStringLiteral("Where"), path},
+        failureLine(item),
     };
 }
 

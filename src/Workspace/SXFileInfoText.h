@@ -13,6 +13,7 @@ struct SXFileInfoLine {
     QString labelName;
     QString caption;
     QString text;
+    bool shown = true; // false for a label that has nothing to say for this item
 };
 
 // The texts of the file information panel for one item, with every fallback the panel has

@@ -3,11 +3,14 @@
 #include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXFailureTexts.h"
 #include "Workspace/SXWorkspaceTexts.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
+#include <cerrno>
 #include <cstdio>
 #include <sys/stat.h>
 #include <system_error>
@@ -22,6 +25,15 @@ QString describeItems(const SXMusicInfoList& items) {
     return lines.isEmpty()
                ? QStringLiteral("(\n)")
                : QStringLiteral("(\n") + lines.join(QStringLiteral(",\n")) + QStringLiteral("\n)");
+}
+
+// Why a named path cannot be examined. A name that was not valid UTF-8 reached us with its bad
+// bytes replaced (U+FFFD), so it names no file: saying that is more use than "No such file".
+QString missingPathReason(const QString& path, int error) {
+    if (error == ENOENT && path.contains(QChar::ReplacementCharacter))
+        return QCoreApplication::translate("SXWorkspaceFileLists",
+                                           "The file name is not valid UTF-8");
+    return QString::fromStdString(std::generic_category().message(error));
 }
 } // namespace
 
@@ -75,25 +87,36 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
 
 SXMusicInfoList SXWorkspaceFileLists::makeBatch(const QStringList& paths, const QString& container,
                                                 const SXMusicInfoList& current) {
-    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths), current);
+    SXPathFailureList failures;
+    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths, &failures), current);
     SXMusicInfoList batch;
-    batch.reserve(candidates.size());
+    batch.reserve(candidates.size() + failures.size());
     for (const QString& path : candidates)
         batch.append(SXMusicInfo::newForSource(path, container));
+    for (const SXPathFailure& failure : std::as_const(failures)) {
+        const SXMusicInfoPtr item = SXMusicInfo::newForSource(failure.path, container);
+        item->mediaInfo()->setFailReason(failure.reason);
+        batch.append(item);
+    }
     return batch;
 }
 
-QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths) {
+QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths,
+                                              SXPathFailureList* failures) {
     const bool acceptVob = SXSettings::boolForKey(SXSettingsKey::AppSupportVob, false);
     QStringList candidates;
     for (const QString& path : paths) {
         struct stat status {};
         if (::lstat(QFile::encodeName(path).constData(), &status) != 0) {
+            const int error = errno;
             std::perror("lstat error");
+            if (failures)
+                failures->append({path, missingPathReason(path, error)});
             continue;
         }
         if (S_ISDIR(status.st_mode)) {
-            candidates.append(GlobalFun::fileListAtDirenctory(path, GlobalFun::getSupportedFmts()));
+            candidates.append(
+                GlobalFun::fileListAtDirenctory(path, GlobalFun::getSupportedFmts(), failures));
         } else if (QFileInfo(path).suffix().compare(QLatin1String("vob"), Qt::CaseInsensitive) ==
                    0) {
             if (acceptVob)
@@ -168,7 +191,8 @@ void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
     if (!failed.isEmpty())
         runAlert({QStringLiteral("Following file(s) load failed!"),
                   loadFailureText(failed),
-                  {QStringLiteral("OK")}});
+                  {QStringLiteral("OK")},
+                  loadFailureDetails(failed)});
     Q_EMIT loadFinished(failed);
     setAppState(AppStateIdle);
 }
@@ -180,6 +204,15 @@ QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
         names.append(QFileInfo(media ? media->filePath() : QString()).fileName());
     }
     return SXWorkspaceTexts::cappedNameLines(names);
+}
+
+QString SXWorkspaceFileLists::loadFailureDetails(const SXMusicInfoList& failed) {
+    SXPathFailureList failures;
+    for (const SXMusicInfoPtr& item : failed) {
+        const LSMediaPtr media = item->mediaInfo();
+        failures.append({item->strFilePath(), SXFailureTexts::loadReason(media.get())});
+    }
+    return SXFailureTexts::detailLines(failures);
 }
 
 void SXWorkspaceFileLists::clickCancel() {

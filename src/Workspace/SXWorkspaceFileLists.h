@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Media/LSMediaLoader.h"
+#include "Shared/SXPathFailure.h"
 #include "Workspace/SXLoadProgressRelay.h"
 #include "Workspace/SXMetadataEditing.h"
 #include "Workspace/SXWorkspaceContainers.h"
@@ -29,15 +30,21 @@ public:
     LSMediaLoaderPtr mediaLoader() const { return m_mediaLoader; }
 
     // The candidate paths of an add run before de-duplication (lstat, folders, the "vob" rule).
-    static QStringList expandPaths(const QStringList& paths);
+    // Paths that cannot be taken (missing, unreadable folders, names that are not valid UTF-8)
+    // go to `failures` with their reason.
+    static QStringList expandPaths(const QStringList& paths, SXPathFailureList* failures = nullptr);
     // Drops from `candidates` the paths already in `current`, with the walk that skips the path
     // moving into a dropped one's place.
     static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);
-    // The items of an add run for `container`: the paths expanded, without those in `current`.
+    // The items of an add run for `container`: the paths expanded, without those in `current`;
+    // then an item for each path that cannot be taken, its reason in its record, which the
+    // loader reports among the failures without probing it.
     static SXMusicInfoList makeBatch(const QStringList& paths, const QString& container,
                                      const SXMusicInfoList& current);
     // "%@\n" per name, "..." after the 11th.
     static QString loadFailureText(const SXMusicInfoList& failed);
+    // Every failed item with its folder and the loader's reason, one a line.
+    static QString loadFailureDetails(const SXMusicInfoList& failed);
 
     // LSMediaLoaderDelegate (worker thread)
     void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) override;

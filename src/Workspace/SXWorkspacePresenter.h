@@ -14,6 +14,7 @@ struct SXAlert {
     QString messageText;     // the bold first line ("Following file(s) load failed!")
     QString informativeText; // the body, may be empty
     QStringList buttons;     // in order; the first is the default button
+    QString details{};       // a long list behind the alert (every failure), may be empty
 };
 
 // What the output-folder chooser starts from.

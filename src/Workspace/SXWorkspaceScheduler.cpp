@@ -6,7 +6,9 @@
 #include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXFailureTexts.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 #include <QLocale>
 #include <QMutexLocker>
@@ -215,36 +217,40 @@ void SXWorkspaceScheduler::finishRun() {
             this, [this] { setConvertOperationFinshed(); }, Qt::QueuedConnection);
 
     int succeeded = 0;
-    QStringList failedNames;
+    SXPathFailureList failures;
     for (const QString& name : containerNames()) {
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             const LSMediaPtr media = item->mediaInfo();
-            const int state = media ? media->eumCvtState() : CvtStateReady;
-            if (state == CvtStateFinished)
+            if (media && media->eumCvtState() == CvtStateFinished)
                 ++succeeded;
-            else if (state == CvtStateFailed)
-                failedNames.append(QFileInfo(item->strFilePath()).completeBaseName());
+            else if (const std::optional<SXPathFailure> failure =
+                         SXFailureTexts::conversionFailure(*item))
+                failures.append(*failure);
         }
     }
-    const QString message = summaryMessage(succeeded, failedNames);
-    runAlert({message, QString(), {QStringLiteral("OK")}});
+    const QString message = summaryMessage(succeeded, failures);
+    // Every failure, with its folder and reason, where the user can scroll through them.
+    runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
     Q_EMIT rowsRedrawRequested();
-    Q_EMIT runFinished(message, succeeded, int(failedNames.size()));
+    Q_EMIT runFinished(message, succeeded, int(failures.size()));
     if (m_bOverOpen && presenter())
         presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
 }
 
-QString SXWorkspaceScheduler::summaryMessage(int succeeded, const QStringList& failedNames) {
+QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
     QString message = QStringLiteral("%1 files has been successfully converted.").arg(succeeded);
-    if (failedNames.isEmpty())
+    if (failures.isEmpty())
         return message;
-    message += QStringLiteral("except %1 files failed,including:").arg(failedNames.size());
-    for (int i = 0; i < failedNames.size(); ++i) {
+    message += QStringLiteral("except %1 files failed,including:").arg(failures.size());
+    for (int i = 0; i < failures.size(); ++i) {
         if (i == 3) {
             message += QStringLiteral("...");
             break;
         }
-        message += QStringLiteral(" \n%1").arg(failedNames.at(i));
+        const SXPathFailure& failure = failures.at(i);
+        message += QStringLiteral(" \n%1").arg(
+            QCoreApplication::translate("SXWorkspaceScheduler", "%1: %2")
+                .arg(QFileInfo(failure.path).completeBaseName(), failure.reason));
     }
     return message;
 }

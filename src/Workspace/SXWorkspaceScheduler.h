@@ -2,6 +2,7 @@
 
 #include "Convert/ConvertOperation.h"
 #include "Convert/SXOperationQueue.h"
+#include "Shared/SXPathFailure.h"
 #include "Workspace/SXWorkspaceItemMoves.h"
 
 #include <QMutex>
@@ -56,8 +57,9 @@ public:
     int totalConvertOps() const { return m_totalConvertOps; }
     SXOperationQueue* queueConvertTask() const { return _queueConvertTask.get(); }
 
-    // The summary of a run: successes, then up to three failed names and "..." for more.
-    static QString summaryMessage(int succeeded, const QStringList& failedNames);
+    // The summary of a run: successes, then up to three failed names with their reasons and
+    // "..." for more (the alert's details list them all).
+    static QString summaryMessage(int succeeded, const SXPathFailureList& failures);
     // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
     static double choiceValue(const QString& choice);
 

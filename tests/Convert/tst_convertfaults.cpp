@@ -63,23 +63,6 @@ private:
     void (*m_handler)(int) = nullptr;
 };
 
-// Cuts a FLAC file right after its metadata blocks: a header that promises audio and none.
-bool cutAfterMetadata(const QString& path) {
-    QByteArray bytes = SonoriaTest::readFile(path);
-    qsizetype at = 4; // "fLaC"
-    for (;;) {
-        if (at + 4 > bytes.size())
-            return false;
-        const auto header = reinterpret_cast<const unsigned char*>(bytes.constData() + at);
-        const qsizetype length = (header[1] << 16) | (header[2] << 8) | header[3];
-        at += 4 + length;
-        if (header[0] & 0x80)
-            break;
-    }
-    bytes.truncate(at);
-    return SonoriaTest::writeFile(path, bytes);
-}
-
 QStringList visibleAndHidden(const QString& folder) {
     return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
 }
@@ -148,7 +131,7 @@ private Q_SLOTS:
             seconds = 2.0;
             source = dir.filePath(u"in.flac"_s);
             QVERIFY(SonoriaTest::makeTone(source, seconds));
-            QVERIFY(cutAfterMetadata(source));
+            QVERIFY(SonoriaTest::cutFlacAfterMetadata(source));
         } else if (fault == "onesample"_L1) {
             seconds = 1.0 / 44100;
             QVERIFY(SonoriaTest::makeMedia(source, u"sine=r=44100"_s,

@@ -154,6 +154,11 @@ private Q_SLOTS:
             if (!line.isEmpty() && !line.startsWith(u'#'))
                 listed << line;
         QCOMPARE(listed, expected);
+        // A name that starts like a comment is listed so that readers still see the file.
+        const QString hashed = place(m_music, u"#hash.mp3"_s);
+        QCOMPARE(library.deliver(name, hashed), Result::Added);
+        QVERIFY(readFile(playlist).endsWith("\n./#hash.mp3\n"));
+        QCOMPARE(library.deliver(name, hashed), Result::AlreadyListed);
         QCOMPARE(entriesOf(links()).size(), names.size());
         QCOMPARE(entriesOf(scriptMusic + u"/Sonoria/Library"_s).size(), names.size());
         // "touch pwned" would have left a file somewhere below the root.

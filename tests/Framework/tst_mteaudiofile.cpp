@@ -326,6 +326,30 @@ private Q_SLOTS:
         QCOMPARE(open(output)->albumImg(), extension == "wv" ? m_covers.mid(0, 1) : m_covers);
     }
 
+    // A value with a NUL inside ("before\0after") keeps what follows the NUL, as a space, in
+    // the handle (the panel, --info) and in a converted file's tags; ffmpeg would cut it there.
+    void nulInsideAValueKeepsWhatFollows() {
+        const QString source = path(QStringLiteral("nul.flac"));
+        QVERIFY(SonoriaTest::makeTone(source, 0.5));
+        {
+            TagLib::FLAC::File flac(QFile::encodeName(source).constData());
+            const TagLib::String value(std::string("before\0after", 12), TagLib::String::UTF8);
+            flac.xiphComment()->addField("TITLE", value);
+            flac.xiphComment()->addField("DISCNUMBER", value);
+            QVERIFY(flac.save());
+        }
+        const Handle read = open(source);
+        QVERIFY(read);
+        QCOMPARE(read->title(), QStringLiteral("before after"));
+
+        const QString output = path(QStringLiteral("nul.mp3"));
+        QVERIFY(SonoriaTest::makeTone(output, 0.5));
+        QVERIFY(MTETagCopy::copy(read.get(), *open(output, false), output));
+        QCOMPARE(taglibProperty(output, "TITLE"), QStringLiteral("before after"));
+        QCOMPARE(open(output)->title(), QStringLiteral("before after"));
+        QVERIFY(taglibProperty(output, "DISCNUMBER").contains(QStringLiteral("after")));
+    }
+
     void brokenFilesNeverCrash() {
         QVERIFY(SonoriaTest::writeFile(path("text.mp3"), "just some text\n"));
         QVERIFY(SonoriaTest::writeFile(path("empty.mp3"), {}));

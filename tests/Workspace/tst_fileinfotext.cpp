@@ -29,9 +29,18 @@ void TestFileInfoText::fallbacksWithoutTags() {
     media->setStrAudioCodecName(u"flac"_s);
 
     const QList<SXFileInfoLine> lines = SXFileInfoText::linesForItem(*item);
-    QCOMPARE(lines.size(), 17);
+    QCOMPARE(lines.size(), 18);
     QCOMPARE(lines.first().labelName, u"tfInfoAlbum"_s);
-    QCOMPARE(lines.last().labelName, u"tfInfoWhere"_s);
+    QCOMPARE(lines.at(16).labelName, u"tfInfoWhere"_s);
+    // Why the last run failed: only for a failed item, with a general reason when none came.
+    QCOMPARE(lines.last().labelName, u"tfInfoFailReason"_s);
+    QVERIFY(!lines.last().shown);
+    media->setEumCvtState(CvtStateFailed);
+    QVERIFY(SXFileInfoText::linesForItem(*item).last().shown);
+    QCOMPARE(SXFileInfoText::linesForItem(*item).last().text,
+             u"ffmpeg failed without giving a reason"_s);
+    media->setFailReason(u"No space left on device"_s);
+    QCOMPARE(SXFileInfoText::linesForItem(*item).last().text, u"No space left on device"_s);
     // Six channels still read "Mono"; only the last extension leaves the title.
     const QList<std::pair<const char*, QString>> expected{
         {"Album", u"Unknow"_s},       {"Artist", u"Unknow"_s},

@@ -216,7 +216,7 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
 
     // A loose "vob" file is refused without the preference; inside a folder only the folder's
     // filter applies (and it drops the text file). A path that cannot be examined is reported
-    // on standard error and skipped.
+    // on standard error and among the load failures.
     bool done = false;
     const QString errors = standardErrorOf([&] {
         done = addFiles(workspace, {path(u"a.mp3"_s), path(u"d.VOB"_s), path(u"missing.mp3"_s),
@@ -228,8 +228,9 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     QCOMPARE(started.first().first().toString(), u"Loading Media Files..."_s);
     // The folder's files follow the loose file, in the order the folder scan gives them.
     QStringList names = fileNames(workspace.getCurTableDatasource());
-    // Reports are thinned out on their way to the main thread, but the last one always arrives.
-    QCOMPARE(texts.last().first().toString(), u"Importing %1..."_s.arg(names.last()));
+    // Reports are thinned out on their way to the main thread, but the last one always arrives:
+    // the path that could not be examined, which ends the batch.
+    QCOMPARE(texts.last().first().toString(), u"Importing missing.mp3..."_s);
     QCOMPARE(names.takeFirst(), u"a.mp3"_s);
     names.sort();
     QCOMPARE(names, (QStringList{u"e.ogg"_s, u"f.vob"_s}));
@@ -238,7 +239,9 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     QCOMPARE(states.at(0).first().toInt(), int(AppStateLoading));
     QCOMPARE(states.at(1).first().toInt(), int(AppStateIdle));
     QCOMPARE(workspace.selectedRows(), QList<int>{0});
-    QVERIFY(m_presenter.alerts.isEmpty());
+    QCOMPARE(m_presenter.alerts.size(), 1);
+    QCOMPARE(m_presenter.alerts.first().details,
+             path(u"missing.mp3"_s) + u": No such file or directory"_s);
 
     const SXMusicInfoPtr first = workspace.getCurTableDatasource().first();
     QCOMPARE(first->getStrMusicType(), u"MP3"_s);
@@ -304,6 +307,11 @@ void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert() {
     QCOMPARE(m_presenter.alerts.size(), 1);
     QCOMPARE(alertTexts(m_presenter.alerts.first()),
              (QStringList{u"Following file(s) load failed!"_s, expected, u"OK"_s}));
+    // Behind the alert every one of them, with its folder and why it failed.
+    const QStringList details = m_presenter.alerts.first().details.split(u'\n');
+    QCOMPARE(details.size(), failures);
+    QCOMPARE(details.last(),
+             path(u"bad%1.mp3"_s.arg(failures)) + u": The file holds no audio that can be read"_s);
     QVERIFY(log.contains(u"finish complete load media....."_s));
     QCOMPARE(log.lines().filter(u"failed array : ("_s).size(), 1);
 }

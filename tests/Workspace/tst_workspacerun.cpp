@@ -4,6 +4,7 @@
 
 #include "Common/Util/SXFileLocalManager.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXFailureTexts.h"
 #include "Workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
@@ -232,9 +233,15 @@ void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
 
     const QList<QVariant> summary = runInto(workspace, freshFolder(u"mixed"_s));
     QVERIFY(!summary.isEmpty());
+    // The failed item's reason follows its name, and the alert's details give its folder.
+    const SXMusicInfoPtr failed = workspace.getDataForFormat(u"AAC"_s).first();
+    const QString reason = SXFailureTexts::conversionReason(failed->mediaInfo().get());
+    QVERIFY(!reason.isEmpty());
     const QString expected = u"2 files has been successfully converted."
-                             "except 1 files failed,including: \ns48"_s;
+                             "except 1 files failed,including: \ns48: "_s +
+                             reason;
     QCOMPARE(summary.at(0).toString(), expected);
+    QCOMPARE(m_presenter.alerts.last().details, source(u"s48.wav"_s) + u": "_s + reason);
     QCOMPARE(summary.at(1).toInt(), 2);
     QCOMPARE(summary.at(2).toInt(), 1);
     QCOMPARE(m_presenter.alerts.last().messageText, expected);
@@ -245,12 +252,16 @@ void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
 
 void TestWorkspaceRun::summaryAndChoiceTexts() {
     QCOMPARE(SXWorkspace::summaryMessage(0, {}), u"0 files has been successfully converted."_s);
-    QCOMPARE(SXWorkspace::summaryMessage(4, {u"a"_s, u"b"_s, u"c"_s}),
+    SXPathFailureList failures;
+    for (const QString& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
+        failures.append({u"/music/"_s + name + u".flac"_s, u"reason "_s + name});
+    QCOMPARE(SXWorkspace::summaryMessage(4, failures.mid(0, 3)),
              u"4 files has been successfully converted."
-             "except 3 files failed,including: \na \nb \nc"_s);
-    QCOMPARE(SXWorkspace::summaryMessage(0, {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s}),
+             "except 3 files failed,including: \na: reason a \nb: reason b \nc: reason c"_s);
+    // The message stops after three; the alert's details hold them all.
+    QCOMPARE(SXWorkspace::summaryMessage(0, failures),
              u"0 files has been successfully converted."
-             "except 5 files failed,including: \na \nb \nc..."_s);
+             "except 5 files failed,including: \na: reason a \nb: reason b \nc: reason c..."_s);
     QCOMPARE(SXWorkspace::choiceValue(u"192"_s), 192.0);
     QCOMPARE(SXWorkspace::choiceValue(u"22.5k"_s), 22.5);
     QCOMPARE(SXWorkspace::choiceValue(u"Lossless"_s), 0.0);

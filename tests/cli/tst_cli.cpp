@@ -7,6 +7,7 @@
 #include <QSettings>
 #include <QTemporaryDir>
 #include <csignal>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -53,11 +54,16 @@ class TestCli : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
+    void cleanupTestCase();
     void convertsAFolderOrganisedByFormat();
     void neverReplacesAndChoicesReachTheFile();
     void usageErrorsExitTwoWithOneLine_data();
     void usageErrorsExitTwoWithOneLine();
     void failuresAreNamedAndExitOne();
+    void hostileTextIsEscaped_data();
+    void hostileTextIsEscaped();
+    void unreadableFoldersAndBadNamesFailTheRun_data();
+    void unreadableFoldersAndBadNamesFailTheRun();
     void dryRunCreatesNothing();
     void listsTheCatalogueInOrder();
     void infoShowsTheFallbackTexts();
@@ -121,6 +127,14 @@ void TestCli::initTestCase() {
     QVERIFY(SonoriaTest::makeTone(m_long, 60.0));
 }
 
+void TestCli::cleanupTestCase() {
+    // What the temporary folder's removal cannot enter or name.
+    const QString dir = fresh(u"unreadable"_s);
+    for (const QString& locked : {u"/locked"_s, u"/outer/locked"_s})
+        QFile::setPermissions(dir + locked, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    ::unlink(QFile::encodeName(dir + u"/raw"_s).append("/lat\xe9in1.wav").constData());
+}
+
 void TestCli::convertsAFolderOrganisedByFormat() {
     const QString out = fresh(u"organised"_s);
 
@@ -171,6 +185,8 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
         << QStringList{"-f", "Ringtone", "--library", in} << "music library";
     QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
     QTest::newRow("missing value") << QStringList{"-f"} << "-f";
+    // A quoted argument cannot drive the terminal.
+    QTest::newRow("hostile argument") << QStringList{"-f", "MP\x1b[2J3", in} << "MP\\e[2J3";
 }
 
 void TestCli::usageErrorsExitTwoWithOneLine() {
@@ -190,9 +206,12 @@ void TestCli::failuresAreNamedAndExitOne() {
     const QString wav = source(u"plain tone.wav"_s);
     CliResult result = runCli({"-v", "-o", out, m_textAsMp3, wav, fresh(u"no such.wav"_s)});
     QCOMPARE(result.exitCode, 1);
-    QVERIFY2(result.err.contains(u"Following file(s) load failed!\nnot audio.mp3\n"_s),
-             qPrintable(result.err));
-    QVERIFY(result.err.contains(u"no such.wav"_s));
+    // Each file that did not load, with its folder and why.
+    for (const QString& expected :
+         {u"Following file(s) load failed!\n"_s,
+          u"failed to load: %1: The file holds no audio that can be read\n"_s.arg(m_textAsMp3),
+          u"failed to load: %1: No such file or directory\n"_s.arg(fresh(u"no such.wav"_s))})
+        QVERIFY2(result.err.contains(expected), qPrintable(result.err));
     // -v mirrors the log lines to standard error.
     QVERIFY(result.err.contains(u"finish complete load media....."_s));
     // The loadable file is still converted.
@@ -207,6 +226,118 @@ void TestCli::failuresAreNamedAndExitOne() {
                                  u"\": The output folder's name is taken by a file"_s),
              qPrintable(result.err));
     QVERIFY(!result.err.contains(u"args:"_s));
+
+    // A file that loads but gives nothing to convert (a FLAC cut after its metadata): the line
+    // and the summary name it with the reason; the counts come last.
+    const QString cut = fresh(u"cut"_s) + u"/cut.flac"_s;
+    QVERIFY(SonoriaTest::makeTone(cut, 2.0));
+    QVERIFY(SonoriaTest::cutFlacAfterMetadata(cut));
+    result = runCli({"--no-organize", "-o", fresh(u"cut-out"_s), cut});
+    QCOMPARE(result.exitCode, 1);
+    const QStringList shown = lines(result.out);
+    QVERIFY2(!shown.isEmpty() &&
+                 shown.first() == u"failed: %1: The source gave no audio to convert"_s.arg(cut),
+             qPrintable(result.out));
+    QVERIFY(shown.at(1).endsWith(u"including: "_s));
+    QCOMPARE(shown.at(2), u"cut: "_s + shown.first().section(u": "_s, 2));
+    QCOMPARE(shown.last(), u"Converted: 0. Failed: 1."_s);
+}
+
+void TestCli::hostileTextIsEscaped_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::newRow("ESC") << u"a\x1b[2Jb"_s << u"a\\e[2Jb"_s;
+    QTest::newRow("BEL") << u"a\ab"_s << u"a\\ab"_s;
+    QTest::newRow("CR") << u"a\rb"_s << u"a\\rb"_s;
+    QTest::newRow("LF") << u"a\nb"_s << u"a\\nb"_s;
+    QTest::newRow("tab") << u"a\tb"_s << u"a\\tb"_s;
+    QTest::newRow("other C0") << u"a\x01"
+                                 "b"_s
+                              << u"a\\x01b"_s;
+    QTest::newRow("C1 CSI") << u"a\u009bb"_s << u"a\\u009bb"_s;
+    QTest::newRow("DEL") << u"a\x7f"
+                            "b"_s
+                         << u"a\\x7fb"_s;
+    QTest::newRow("backslash") << u"a\\eb"_s << u"a\\\\eb"_s;
+}
+
+// A name or tag value cannot drive the terminal or split the lines scripts read: every line
+// that carries one shows its control characters escaped.
+void TestCli::hostileTextIsEscaped() {
+    QFETCH(QString, name);
+    QFETCH(QString, shown);
+    const QString folder = fresh(u"hostile-"_s + QString::fromLatin1(QTest::currentDataTag()));
+    const QString file = folder + u'/' + name + u".flac"_s;
+    QVERIFY(QDir().mkpath(folder));
+    QVERIFY(SonoriaTest::makeTone(file, 0.3, {u"-metadata"_s, u"title="_s + name}));
+    const auto quiet = [](const QString& text) {
+        for (const QChar c : text) {
+            const char16_t u = c.unicode();
+            if ((u < 0x20 && u != u'\n') || (u >= 0x7f && u < 0xa0))
+                return false;
+        }
+        return true;
+    };
+
+    CliResult result = runCli({"--no-organize", "-o", folder + u"/out"_s, file});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(quiet(result.out) && quiet(result.err), qPrintable(result.out));
+    QCOMPARE(lines(result.out).size(), 2);
+    QVERIFY2(result.out.startsWith(u"done: %1/%2.flac -> "_s.arg(folder, shown)),
+             qPrintable(result.out));
+
+    result = runCli({"--info", file});
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY(quiet(result.out));
+    QVERIFY2(lines(result.out).contains(u"%1 %2"_s.arg(u"Title:"_s, -15).arg(shown)),
+             qPrintable(result.out));
+}
+
+void TestCli::unreadableFoldersAndBadNamesFailTheRun_data() {
+    QTest::addColumn<QString>("input");  // a shell word, below $DIR
+    QTest::addColumn<QString>("failed"); // the path reported, below the folder
+    QTest::addColumn<QString>("reason");
+    const QString cannotRead = u"The folder cannot be read: Permission denied"_s;
+    const QString badName = u"raw/lat\uFFFDin1.wav"_s;
+    QTest::newRow("folder cannot be read") << u"\"$DIR/locked\""_s << u"locked"_s << cannotRead;
+    QTest::newRow("sub-folder cannot be read")
+        << u"\"$DIR/outer\""_s << u"outer/locked"_s << cannotRead;
+    QTest::newRow("name not UTF-8 in a folder")
+        << u"\"$DIR/raw\""_s << badName << u"The file name is not valid UTF-8"_s;
+    QTest::newRow("name not UTF-8 given") << u"\"$DIR/raw/$(printf 'lat\\351in1.wav')\""_s
+                                          << badName << u"The file name is not valid UTF-8"_s;
+}
+
+void TestCli::unreadableFoldersAndBadNamesFailTheRun() {
+    QFETCH(QString, input);
+    QFETCH(QString, failed);
+    QFETCH(QString, reason);
+    const QString dir = fresh(u"unreadable"_s);
+    if (!QFileInfo::exists(dir)) {
+        QVERIFY(QDir().mkpath(dir + u"/locked"_s) && QDir().mkpath(dir + u"/outer/locked"_s) &&
+                QDir().mkpath(dir + u"/raw"_s));
+        QVERIFY(SonoriaTest::makeTone(dir + u"/outer/good.wav"_s, 0.3));
+        QVERIFY(SonoriaTest::makeTone(dir + u"/raw/good.wav"_s, 0.3));
+        QVERIFY(!SonoriaTest::makeToneWithRawName(dir + u"/raw"_s, "lat\xe9in1.wav").isEmpty());
+        for (const QString& locked : {u"/locked"_s, u"/outer/locked"_s})
+            QVERIFY(QFile::setPermissions(dir + locked, {}));
+    }
+    // Root reads every folder: the tool runs without the two capabilities that allow it.
+    const QString asUser = ::geteuid() == 0 ? u"setpriv --inh-caps=-all "
+                                              "--bounding-set=-dac_override,-dac_read_search -- "_s
+                                            : QString();
+    QProcess process;
+    QProcessEnvironment env = environment();
+    env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
+    env.insert(u"DIR"_s, dir);
+    process.setProcessEnvironment(env);
+    process.setWorkingDirectory(m_work.path());
+    process.start(u"sh"_s, {u"-c"_s, u"exec %1\"$CLI\" --dry-run %2"_s.arg(asUser, input)});
+    QVERIFY(process.waitForFinished(60000));
+    const QString err = QString::fromUtf8(process.readAllStandardError());
+    QCOMPARE(process.exitCode(), 1);
+    QVERIFY2(lines(err).contains(u"failed to load: %1/%2: %3"_s.arg(dir, failed, reason)),
+             qPrintable(err));
 }
 
 void TestCli::dryRunCreatesNothing() {

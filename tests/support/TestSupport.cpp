@@ -8,6 +8,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <cstdio>
 #include <memory>
 
 namespace SonoriaTest {
@@ -68,6 +69,14 @@ bool makeTone(const QString& path, double seconds, const QStringList& extra) {
         extra);
 }
 
+QString makeToneWithRawName(const QString& folder, const QByteArray& rawName) {
+    const QString plain = folder + QStringLiteral("/raw-name-tone.wav");
+    const QByteArray target = QFile::encodeName(folder) + '/' + rawName;
+    if (!makeTone(plain, 0.5) || ::rename(QFile::encodeName(plain).constData(), target) != 0)
+        return {};
+    return QFile::decodeName(target);
+}
+
 QString writeScript(const QString& dir, const QString& name, const QString& body) {
     const QString path = dir + QLatin1Char('/') + name;
     const bool written =
@@ -82,6 +91,22 @@ bool writeFile(const QString& path, const QByteArray& bytes) {
     QFile file(path);
     return file.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
            file.write(bytes) == bytes.size();
+}
+
+bool cutFlacAfterMetadata(const QString& path) {
+    QByteArray bytes = readFile(path);
+    qsizetype at = 4; // "fLaC"
+    for (;;) {
+        if (at + 4 > bytes.size())
+            return false;
+        const auto header = reinterpret_cast<const unsigned char*>(bytes.constData() + at);
+        const qsizetype length = (header[1] << 16) | (header[2] << 8) | header[3];
+        at += 4 + length;
+        if (header[0] & 0x80)
+            break;
+    }
+    bytes.truncate(at);
+    return writeFile(path, bytes);
 }
 
 QByteArray readFile(const QString& path) {

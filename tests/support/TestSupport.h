@@ -29,11 +29,17 @@ bool makeMedia(const QString& path, const QString& source, const QStringList& ex
 // A sine tone of `seconds` with ffmpeg's default encoder for the path's extension.
 bool makeTone(const QString& path, double seconds = 2.0, const QStringList& extra = {});
 
+// A tone in `folder` under `rawName`, bytes that need not be valid UTF-8 (made under a plain
+// name, then renamed). The path as the program sees it (bad bytes replaced) or "" on failure.
+QString makeToneWithRawName(const QString& folder, const QByteArray& rawName);
+
 // Writes an executable shell script and returns its path.
 QString writeScript(const QString& dir, const QString& name, const QString& body);
 
 // Writes `bytes` to a file (replacing it), creating its folder first; false on any failure.
 bool writeFile(const QString& path, const QByteArray& bytes);
+// Cuts a FLAC file right after its metadata blocks: a header that promises audio and has none.
+bool cutFlacAfterMetadata(const QString& path);
 // A file's bytes, "" when it cannot be read.
 QByteArray readFile(const QString& path);
 

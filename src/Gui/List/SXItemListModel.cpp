@@ -1,5 +1,6 @@
 #include "Gui/List/SXItemListModel.h"
 
+#include "Workspace/SXFailureTexts.h"
 #include "Workspace/SXWorkspaceItemMoves.h"
 
 #include <QFileInfo>
@@ -43,7 +44,7 @@ QVariant SXItemListModel::data(const QModelIndex& index, int role) const {
     case Qt::AccessibleTextRole:
         return QFileInfo(item->strFilePath()).fileName();
     case Qt::ToolTipRole:
-        return item->strFilePath();
+        return SXFailureTexts::rowToolTip(*item);
     case ItemRole:
         return QVariant::fromValue(item);
     case ProgressRole:

@@ -34,6 +34,7 @@ SXFileInfoViewController::SXFileInfoViewController(QMainWindow& window,
     m_ivInfoArtwork->setFrameShape(QFrame::StyledPanel);
     layout->addWidget(m_ivInfoArtwork, 0, Qt::AlignHCenter);
     auto* form = new QFormLayout;
+    m_form = form;
     form->setLabelAlignment(Qt::AlignRight);
     for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(SXMusicInfo())) {
         auto* label = new QLabel(content);
@@ -42,6 +43,7 @@ SXFileInfoViewController::SXFileInfoViewController(QMainWindow& window,
         label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
         label->setWordWrap(true);
         form->addRow(line.caption + QLatin1Char(':'), label);
+        form->setRowVisible(label, line.shown);
         m_labels.insert(line.labelName, label);
     }
     layout->addLayout(form);
@@ -98,8 +100,10 @@ void SXFileInfoViewController::update() {
     if (!m_musicInfo)
         return;
     for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(*m_musicInfo)) {
-        if (QLabel* label = m_labels.value(line.labelName))
+        if (QLabel* label = m_labels.value(line.labelName)) {
             label->setText(line.text);
+            m_form->setRowVisible(label, line.shown);
+        }
     }
     // The picture is read from the file here, once for the item shown, never per row.
     const std::optional<MTEArtwork> artwork = SXFileInfoText::artworkForItem(*m_musicInfo);

@@ -5,6 +5,7 @@
 #include <QDockWidget>
 #include <QMap>
 
+class QFormLayout;
 class QLabel;
 class QMainWindow;
 class QPushButton;
@@ -35,6 +36,7 @@ private:
     SXWorkspaceScheduler& m_workspace;
     SXMusicInfoPtr m_musicInfo;
     QMap<QString, QLabel*> m_labels;
+    QFormLayout* m_form = nullptr;
     QLabel* m_ivInfoArtwork = nullptr;
     QPushButton* m_btnOpenFile = nullptr;
 };

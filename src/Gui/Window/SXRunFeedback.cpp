@@ -1,6 +1,7 @@
 #include "Gui/Window/SXRunFeedback.h"
 
 #include "Desktop/SXDesktopNotifier.h"
+#include "Workspace/SXFailureTexts.h"
 #include "Workspace/SXWorkspaceScheduler.h"
 #include "Workspace/SXWorkspaceTexts.h"
 
@@ -14,7 +15,8 @@ SXRunFeedback::SXRunFeedback(QWidget& window, SXWorkspaceScheduler& workspace)
     connect(&workspace, &SXWorkspaceScheduler::totalProgressChanged, this,
             &SXRunFeedback::showProgress);
     connect(&workspace, &SXWorkspaceData::appStateChanged, this, &SXRunFeedback::stateChanged);
-    connect(&workspace, &SXWorkspaceScheduler::runFinished, this, &SXRunFeedback::runFinished);
+    connect(&workspace, &SXWorkspaceScheduler::runFinished, this,
+            [this](const QString&, int succeeded, int failed) { runFinished(succeeded, failed); });
 }
 
 void SXRunFeedback::showProgress(double percent) {
@@ -32,8 +34,10 @@ void SXRunFeedback::stateChanged(int state) {
     m_launcher.hide();
 }
 
-void SXRunFeedback::runFinished(const QString& summary) {
-    // The summary alert is on the window already; the notification is for a user who is not.
+void SXRunFeedback::runFinished(int succeeded, int failed) {
+    // The summary alert is on the window already; the notification is for a user who is not,
+    // and tells how many failed so that nobody takes a finished run for a clean one.
     if (!m_window.isActiveWindow())
-        SXDesktopNotifier::notify(tr("Conversion finished"), summary);
+        SXDesktopNotifier::notify(tr("Conversion finished"),
+                                  SXFailureTexts::runCounts(succeeded, failed));
 }

@@ -18,7 +18,7 @@ public:
 private:
     void showProgress(double percent);
     void stateChanged(int state);
-    void runFinished(const QString& summary);
+    void runFinished(int succeeded, int failed);
 
     QWidget& m_window;
     SXWorkspaceScheduler& m_workspace;

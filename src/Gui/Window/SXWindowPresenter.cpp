@@ -19,6 +19,10 @@ QMessageBox* messageBox(QWidget& window, const SXAlert& alert, QMessageBox::Icon
     box->setIcon(icon);
     box->setText(alert.messageText);
     box->setInformativeText(alert.informativeText);
+    // A long list (every failed file with its folder and reason) scrolls behind a button
+    // instead of stretching the alert past the screen.
+    if (!alert.details.isEmpty())
+        box->setDetailedText(alert.details);
     const QStringList buttons =
         alert.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : alert.buttons;
     for (int i = 0; i < buttons.size(); ++i) {

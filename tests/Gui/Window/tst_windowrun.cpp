@@ -188,9 +188,14 @@ void TestWindowRun::runFromStartToTheSummary() {
 
     QMessageBox* summary = nullptr;
     QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 60000);
+    // The vanished file is named with its reason, and behind the alert with its folder.
+    const QString gone = m_media->filePath(QStringLiteral("gone.wav"));
     const QString expected = QStringLiteral("2 files has been successfully converted.except 1 "
-                                            "files failed,including: \ngone");
-    QCOMPARE(messageTexts(summary), (QStringList{expected, QString(), QStringLiteral("OK")}));
+                                            "files failed,including: \ngone: ");
+    QVERIFY2(summary->text().startsWith(expected), qPrintable(summary->text()));
+    const QString reason = summary->text().mid(expected.size());
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(summary->detailedText(), gone + QStringLiteral(": ") + reason);
     grab(m_window.get(), QStringLiteral("run-summary-window"));
     grab(summary, QStringLiteral("run-summary"));
     QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
@@ -217,7 +222,15 @@ void TestWindowRun::runFromStartToTheSummary() {
         last = update.value("progress").toDouble();
     }
     QVERIFY(shown);
-    QTRY_COMPARE(m_listener.notificationBodies, QStringList{expected});
+    QTRY_COMPARE(m_listener.notificationBodies,
+                 QStringList{QStringLiteral("Converted: 2. Failed: 1.")});
+    // The failed row's tool tip says why, under its path.
+    const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
+    QStringList tips;
+    for (int row = 0; row < rows->rowCount(); ++row)
+        tips.append(rows->index(row, 0).data(Qt::ToolTipRole).toString());
+    QVERIFY2(tips.contains(gone + QStringLiteral("\nFailed: ") + reason),
+             qPrintable(tips.join(u'|')));
     QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(),
              QStringLiteral("app.sonoria.Sonoria"));
 }
