@@ -1,7 +1,9 @@
 #include "Desktop/SXSingleInstance.h"
 #include "Gui/App/SXAppDelegate.h"
+#include "RunFromEnvironment.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
+#include "Shared/SXSignalWatcher.h"
 #include "WindowScreenshot.h"
 
 #include <QApplication>
@@ -52,6 +54,8 @@ bool answeredWithoutDisplay(QCommandLineParser& parser, int argc, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // With --verbose piped into a reader that goes away, a log line must not end the program.
+    SXSignalWatcher::ignoreBrokenPipe();
     QApplication::setApplicationName(QStringLiteral("Sonoria"));
     QApplication::setApplicationVersion(SXBundle::shortVersionString());
     QCommandLineParser parser;
@@ -74,10 +78,19 @@ int main(int argc, char** argv) {
     if (!instance.claim() && SXSingleInstance::handOver(files))
         return 0;
 
+    // Outlives the delegate: a signal while the program is already ending waits in the pipe.
+    SXSignalWatcher signalWatcher;
     SXAppDelegate delegate;
     QObject::connect(&instance, &SXSingleInstance::openRequested, &delegate,
                      &SXAppDelegate::openFiles);
+    // kill, logout, shutdown, a closed terminal and Ctrl-C do what Stop does in every window,
+    // then end the program: no child is left running and no partial file is left behind.
+    QObject::connect(&signalWatcher, &SXSignalWatcher::received, &delegate,
+                     &SXAppDelegate::quitForSignal);
+    if (!signalWatcher.install(SXSignalWatcher::terminationSignals()))
+        SXLog::line(QStringLiteral("cannot watch for termination signals"));
     delegate.start(files);
     saveWindowScreenshotFromEnvironment(delegate);
+    startRunFromEnvironment(delegate);
     return QApplication::exec();
 }

@@ -25,7 +25,8 @@ public:
 
     // Starts the add run; the event loop ends with the exit status (QCoreApplication::exit).
     void start();
-    // SIGINT or SIGTERM: stop loading or cancel every conversion, then end as usual.
+    // SIGINT, SIGTERM or SIGHUP: stop loading or cancel every conversion, then end as usual:
+    // status 130 after SIGINT (Ctrl-C), 1 after the others (the run did not convert everything).
     void interrupt(int signalNumber);
 
     // SXWorkspacePresenter

@@ -3,8 +3,8 @@
 #include "CliOptions.h"
 #include "CliOutput.h"
 #include "CliRun.h"
-#include "CliSignalWatcher.h"
 #include "Shared/SXLog.h"
+#include "Shared/SXSignalWatcher.h"
 
 #include <QCoreApplication>
 
@@ -20,9 +20,11 @@ int runConversion(const CliOptions& options) {
         return kUsageErrorStatus;
     }
     CliRun run(options, setting);
-    CliSignalWatcher watcher;
-    QObject::connect(&watcher, &CliSignalWatcher::received, &run, &CliRun::interrupt);
-    if (!watcher.install())
+    // Ctrl-C, kill and a closed terminal all stop the run the same way: the conversions are
+    // cancelled, their children waited for and their partial files removed.
+    SXSignalWatcher watcher;
+    QObject::connect(&watcher, &SXSignalWatcher::received, &run, &CliRun::interrupt);
+    if (!watcher.install(SXSignalWatcher::terminationSignals()))
         CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot watch for interrupts"));
     run.start();
     return QCoreApplication::exec();
@@ -31,6 +33,9 @@ int runConversion(const CliOptions& options) {
 } // namespace
 
 int main(int argc, char** argv) {
+    // A reader that goes away (`sonoria-cli … | head -1`) makes our writes fail, quietly; the run
+    // carries on and its files are whole.
+    SXSignalWatcher::ignoreBrokenPipe();
     QCoreApplication app(argc, argv);
     QString error;
     const std::optional<CliOptions> options =

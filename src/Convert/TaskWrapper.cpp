@@ -7,12 +7,16 @@
 #include <QThread>
 #include <cerrno>
 #include <csignal>
+#include <sys/prctl.h>
 #include <sys/types.h>
 #include <unistd.h>
 
 namespace {
 // Status reported when the program could not be launched, as a shell reports it.
 constexpr int kLaunchFailedStatus = 127;
+// Exit status of a child whose parent died before the child could tie itself to it; nobody is
+// left to read it.
+constexpr int kOrphanedStatus = 1;
 // How long the destructor waits for a killed child to be reaped.
 constexpr int kKillWaitMs = 5000;
 } // namespace
@@ -38,11 +42,27 @@ void TaskWrapper::startProcess() {
     // An inherited terminal would let the child swallow keystrokes, and a child in a background
     // process group that reads the terminal gets stopped.
     m_task->setStandardInputFile(QProcess::nullDevice());
-    // Conversions are background work: a little below the program itself, so that the window
-    // stays quick to answer while several encoders keep every core busy. Alone on the machine
-    // they still get all of it.
-    m_task->setChildProcessModifier([] {
+    // Runs in the child between fork and exec: async-signal-safe calls only.
+    const pid_t parent = ::getpid();
+    m_task->setChildProcessModifier([parent] {
+        // The child dies with the program, even with one killed by SIGKILL, which can clean up
+        // nothing: an encoder left behind would go on writing a file nobody wants. Had the
+        // program already died before this line, the child was handed to another parent
+        // (init or a subreaper) and nothing will ever signal it: it ends here instead.
+        //
+        // The kernel sends the signal when the *thread* that forked ends, not the process. The
+        // children are started on an operation-queue worker (QThreadPool) inside
+        // ConvertOperation::main, which returns only once the child has terminated and been
+        // reaped; a pool thread expires only while it is idle, between operations, so it never
+        // ends under a live child. The same holds for any caller: startProcess requires the
+        // starting thread's event loop to run until the termination has been reported.
+        ::prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (::getppid() != parent)
+            ::_exit(kOrphanedStatus);
         ::setpgid(0, 0);
+        // Conversions are background work: a little below the program itself, so that the
+        // window stays quick to answer while several encoders keep every core busy. Alone on
+        // the machine they still get all of it.
         [[maybe_unused]] const int niceness = ::nice(kChildNicenessIncrement);
     });
 

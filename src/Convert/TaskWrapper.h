@@ -11,7 +11,9 @@ class TaskWrapperController;
 // Runs one external program once as a child process and streams its merged standard output and
 // standard error to a controller. The child gets its own process group, so signals reach the
 // programs a shell script starts, and /dev/null as standard input, so it never reads the
-// terminal. A wrapper is used for one run and then destroyed.
+// terminal. It is killed (SIGKILL) when the thread that started it ends, so it never outlives
+// the program, not even one killed with SIGKILL. A wrapper is used for one run and then
+// destroyed.
 class TaskWrapper : public QObject {
     Q_OBJECT
 public:
@@ -27,9 +29,10 @@ public:
     TaskWrapper& operator=(const TaskWrapper&) = delete;
 
     // Sends processStarted, then launches the child. Output and termination are delivered
-    // through the calling thread's event loop, which must keep running until the termination
-    // has been reported. A program that cannot be launched is reported (through that event loop)
-    // as a termination with status 127. A second call does nothing.
+    // through the calling thread's event loop, which must keep running (and the thread must not
+    // end: the child dies with it) until the termination has been reported. A program that cannot
+    // be launched is reported (through that event loop) as a termination with status 127. A second
+    // call does nothing.
     void startProcess();
     // Blocks until the child has exited and its termination has been reported. On the starting
     // thread this processes the child's events itself; on another thread it relies on the

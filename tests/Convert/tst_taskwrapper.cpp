@@ -1,11 +1,13 @@
 #include "Convert/TaskWrapper.h"
 #include "Convert/TaskWrapperController.h"
+#include "Shared/SXSignalWatcher.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
 #include <QElapsedTimer>
 #include <QFileInfo>
 #include <QMutex>
+#include <QProcess>
 #include <QRegularExpression>
 #include <QScopeGuard>
 #include <QTemporaryDir>
@@ -105,6 +107,8 @@ class TestTaskWrapper : public QObject {
     QTemporaryDir m_dir;
 
 private Q_SLOTS:
+    void initTestCase() { SXSignalWatcher::ignoreBrokenPipe(); }
+
     void runsChildAndReportsOutputAndStatus_data() {
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("body"); // null: no such file
@@ -135,6 +139,11 @@ private Q_SLOTS:
         QTest::newRow("a lower priority than the program")
             << u"niceness.sh"_s << u"nice\n"_s << true << QString::number(expectedNiceness) + u'\n'
             << 0 << 0;
+        // The programs ignore SIGPIPE (as this test does); their children must not inherit that
+        // (QProcess gives it its default action back).
+        QTest::newRow("SIGPIPE has its default action")
+            << u"sigpipe.sh"_s << u"kill -PIPE $$\necho survived\n"_s << true << QString()
+            << int(SIGPIPE) << 0;
         // A failed launch is reported as a shell would: status 127.
         QTest::newRow("missing program")
             << u"missing"_s << QString() << false << QString() << 127 << 0;
@@ -276,6 +285,33 @@ private Q_SLOTS:
         // A foreign thread may wait for the exit and destroy the wrapper once the child has ended.
         wrapper->waitUntilTaskExit();
         wrapper.reset();
+    }
+
+    // A program killed with SIGKILL can stop nothing: its child must die with it all the same.
+    // The child is started as the program starts ffmpeg, on an operation-queue worker thread.
+    void childDiesWithAProgramKilledBySigkill() {
+        QProcess program;
+        program.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        const QString output = m_dir.filePath(u"endless.wav"_s);
+        program.start(QStringLiteral(SONORIA_CHILD_STARTER_PATH),
+                      {u"ffmpeg"_s, u"-nostdin"_s, u"-v"_s, u"error"_s, u"-re"_s, u"-f"_s,
+                       u"lavfi"_s, u"-i"_s, u"sine=d=600"_s, u"-y"_s, output});
+        QVERIFY(program.waitForStarted());
+        const auto killProgram = qScopeGuard([&program] {
+            program.kill();
+            program.waitForFinished();
+        });
+        QTRY_VERIFY_WITH_TIMEOUT(program.canReadLine(), 10000);
+        const qint64 child = program.readLine().trimmed().toLongLong();
+        QVERIFY(child > 0);
+        QVERIFY(SonoriaTest::childProcesses(program.processId()).contains(child));
+        // Under way: ffmpeg has begun writing.
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo(output).size() > 0, 10000);
+
+        ::kill(static_cast<pid_t>(program.processId()), SIGKILL);
+        QVERIFY(program.waitForFinished(5000));
+        QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::processIsAlive(child), 2000);
+        QVERIFY(SonoriaTest::processesMentioning(output).isEmpty());
     }
 };
 

@@ -121,4 +121,54 @@ QByteArray fileHash(const QString& path) {
                                                                  : QByteArray();
 }
 
+namespace {
+
+// The fields of /proc/<pid>/stat after the command name: state, parent, ...; empty when the
+// process is gone.
+QList<QByteArray> statFields(qint64 pid) {
+    const QByteArray line = readFile(QStringLiteral("/proc/%1/stat").arg(pid));
+    const qsizetype close = line.lastIndexOf(')');
+    return close < 0 ? QList<QByteArray>() : line.mid(close + 2).split(' ');
+}
+
+QList<qint64> allProcesses() {
+    QList<qint64> pids;
+    const QStringList names = QDir(QStringLiteral("/proc")).entryList(QDir::Dirs);
+    for (const QString& name : names) {
+        bool number = false;
+        const qint64 pid = name.toLongLong(&number);
+        if (number)
+            pids.append(pid);
+    }
+    return pids;
+}
+
+} // namespace
+
+bool processIsAlive(qint64 pid) {
+    const QList<QByteArray> fields = statFields(pid);
+    return pid > 0 && !fields.isEmpty() && fields.at(0) != "Z" && fields.at(0) != "X";
+}
+
+QList<qint64> childProcesses(qint64 parent) {
+    QList<qint64> children;
+    for (const qint64 pid : allProcesses()) {
+        const QList<QByteArray> fields = statFields(pid);
+        if (fields.size() > 1 && fields.at(1).toLongLong() == parent && processIsAlive(pid))
+            children.append(pid);
+    }
+    return children;
+}
+
+QList<qint64> processesMentioning(const QString& text) {
+    QList<qint64> found;
+    const QByteArray wanted = text.toUtf8();
+    for (const qint64 pid : allProcesses()) {
+        const QByteArray arguments = readFile(QStringLiteral("/proc/%1/cmdline").arg(pid));
+        if (arguments.contains(wanted) && processIsAlive(pid))
+            found.append(pid);
+    }
+    return found;
+}
+
 } // namespace SonoriaTest

@@ -46,6 +46,15 @@ QByteArray readFile(const QString& path);
 // SHA-256 of a file's bytes ("" when unreadable): sources are compared before and after.
 QByteArray fileHash(const QString& path);
 
+// Processes as /proc shows them. A process that has ended but was not reaped yet (a zombie whose
+// new parent does not wait, as in some containers) counts as gone.
+bool processIsAlive(qint64 pid);
+// The live processes whose parent is `parent`.
+QList<qint64> childProcesses(qint64 parent);
+// The live processes with `text` in one of their command-line arguments (ffmpeg children name
+// their output folder).
+QList<qint64> processesMentioning(const QString& text);
+
 } // namespace SonoriaTest
 
 #define SONORIA_TEST_MAIN(TestObject)                                                              \

@@ -16,7 +16,9 @@
 #include "Workspace/SXWorkspace.h"
 
 #include <QApplication>
+#include <QSessionManager>
 
+#include <csignal>
 #include <utility>
 
 SXAppDelegate::SXAppDelegate(QObject* parent)
@@ -30,6 +32,14 @@ SXAppDelegate::SXAppDelegate(QObject* parent)
         else
             QApplication::beep();
     });
+    // The session's end: nothing may be left converting or half-written. At the commit request
+    // the runs are stopped but the program stays (the session manager ends it, or the logout
+    // is cancelled); at the end of the event loop (any way of quitting) they are stopped too.
+    if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
+        connect(application, &QGuiApplication::commitDataRequest, this,
+                [this](QSessionManager&) { stopEveryRun(); });
+        connect(application, &QCoreApplication::aboutToQuit, this, &SXAppDelegate::stopEveryRun);
+    }
 }
 
 SXAppDelegate::~SXAppDelegate() {
@@ -86,6 +96,27 @@ SXMainAppController* SXAppDelegate::keyWindowController() const {
 
 bool SXAppDelegate::isCoreControllerIsKeyWindow() const {
     return m_coreMainWndCtlr && m_coreMainWndCtlr->isActiveWindow();
+}
+
+void SXAppDelegate::stopEveryRun() {
+    // A copy: a workspace may leave the registry while its run is being stopped.
+    const QList<SXWindowController*> windows = SXDataEngine::shareInstance()->getAllMainWndCtlr();
+    for (SXWindowController* window : windows) {
+        if (auto* workspace = dynamic_cast<SXWorkspace*>(window))
+            workspace->abandonRun();
+    }
+}
+
+void SXAppDelegate::quitForSignal(int signalNumber) {
+    SXLog::line(QStringLiteral("signal %1: stopping every run and quitting").arg(signalNumber));
+    stopEveryRun();
+    // exit(), not quit(): quitting asks the windows, which may want to ask the user. It also
+    // ends a dialog's own event loop.
+    QCoreApplication::exit(exitStatusForSignal(signalNumber));
+}
+
+int SXAppDelegate::exitStatusForSignal(int signalNumber) {
+    return signalNumber == SIGINT ? 128 + SIGINT : 0;
 }
 
 void SXAppDelegate::perform(SXCommand command) {

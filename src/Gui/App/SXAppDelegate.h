@@ -37,6 +37,19 @@ public:
     // a load or a run in progress is over. Empty: only the window comes forward.
     void openFiles(const QStringList& paths);
 
+    // Every conversion of every workspace window is stopped as Stop stops it, and the children
+    // are waited for (asked to stop, killed after a grace): when this returns no child is left
+    // and their partial files are gone. Windows and their lists stay as they are. Blocks the
+    // main thread for as long as the children take to go.
+    void stopEveryRun();
+    // SIGTERM, SIGHUP or SIGINT (SXSignalWatcher): every run is stopped (stopEveryRun), then the
+    // program ends without asking anything, with exitStatusForSignal.
+    void quitForSignal(int signalNumber);
+    // 0 after SIGTERM and SIGHUP: the system or the session asked the program to end (kill,
+    // logout, shutdown, a closed terminal) and it ended as asked, like Quit. 130 (128 + SIGINT)
+    // after Ctrl-C on a terminal, as a shell and sonoria-cli report an interrupted command.
+    static int exitStatusForSignal(int signalNumber);
+
     void perform(SXCommand command);
     void clickNewWindow();
     void clickPreference();
