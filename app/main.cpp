@@ -1,4 +1,5 @@
 #include "Desktop/SXSingleInstance.h"
+#include "DisplayCheck.h"
 #include "Gui/App/SXAppDelegate.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
@@ -58,6 +59,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption verbose = declareOptions(parser);
     if (answeredWithoutDisplay(parser, argc, argv))
         return 0;
+    if (refusedWithoutDisplay(argc, argv))
+        return 1;
 
     QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(SXBundle::productName());
