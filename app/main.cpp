@@ -1,4 +1,5 @@
 #include "Desktop/SXSingleInstance.h"
+#include "DisplayCheck.h"
 #include "Gui/App/SXAppDelegate.h"
 #include "RunFromEnvironment.h"
 #include "Shared/SXBundle.h"
@@ -62,6 +63,8 @@ int main(int argc, char** argv) {
     const QCommandLineOption verbose = declareOptions(parser);
     if (answeredWithoutDisplay(parser, argc, argv))
         return 0;
+    if (refusedWithoutDisplay(argc, argv))
+        return 1;
 
     QApplication app(argc, argv);
     QApplication::setApplicationDisplayName(SXBundle::productName());

@@ -15,8 +15,8 @@ bench_prepare() { # name, build targets
     cmake --build "$build" --target "$@" >/dev/null
     work="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-bench-$name.XXXXXX")"
     trap 'rm -rf "$work"' EXIT
-    export XDG_CONFIG_HOME="$work/config" SONORIA_HOME="$work/home" HOME="$work/home"
-    mkdir -p "$SONORIA_HOME"
+    export XDG_CONFIG_HOME="$work/config" HOME="$work/home"
+    mkdir -p "$HOME"
     unset SONORIA_VERBOSE
 }
 

@@ -38,9 +38,7 @@ QString CliRun::outputFolderForRun() const {
     const QString stored = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
     if (!stored.isEmpty())
         return absoluteClean(stored);
-    // A dry run creates nothing, not even the default folder.
-    if (m_options.dryRun)
-        return SXFileLocalManager::musicDirectory() + QLatin1Char('/') + SXBundle::productName();
+    // Nothing is created here: the run's own folder check makes the folder when it starts.
     return SXFileLocalManager::getDefaultUpperOutputDir();
 }
 

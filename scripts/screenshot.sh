@@ -22,7 +22,7 @@ tone "anoisesrc=duration=254:amplitude=0.05" "03 Rain on the Roof.ogg"
 tone "sine=frequency=330:duration=96" "Interview.m4a"
 
 cd "$scratch/media"
-env -u SONORIA_RESOURCES_DIR HOME="$scratch/home" SONORIA_HOME="$scratch/home" \
+env -u SONORIA_RESOURCES_DIR HOME="$scratch/home" \
     XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share" \
     XDG_CACHE_HOME="$scratch/home/.cache" XDG_RUNTIME_DIR="$scratch" \
     QT_QPA_PLATFORM=xcb SONORIA_SCREENSHOT="$out" \

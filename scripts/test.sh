@@ -3,7 +3,7 @@
 # AddressSanitizer and UndefinedBehaviorSanitizer, in separate build folders. Prints CTest's
 # summary of each and exits non-zero when anything failed.
 #
-# The tests run in a temporary home (HOME, SONORIA_HOME and the XDG folders), and the suite fails
+# The tests run in a temporary home (HOME and the XDG folders), and the suite fails
 # when the user's real home gained or changed a file in a folder that a test could write to.
 set -uo pipefail
 root="$(cd "$(dirname "$0")/.." && pwd)"
@@ -55,7 +55,7 @@ if [ -n "${HOME:-}" ] && [ "$HOME" != "$real_home" ]; then homes+=("$HOME"); fi
 
 # Used for the test runs only: the builds keep the user's home and so their compiler cache.
 test_environment=(
-    HOME="$scratch/home" SONORIA_HOME="$scratch/user"
+    HOME="$scratch/home"
     XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share"
     XDG_STATE_HOME="$scratch/home/.local/state" XDG_CACHE_HOME="$scratch/home/.cache"
 )

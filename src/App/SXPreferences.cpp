@@ -1,5 +1,6 @@
 #include "App/SXPreferences.h"
 
+#include "App/SXServiceRequest.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXSettings.h"
 
@@ -46,6 +47,19 @@ void SXPreferences::controlTextDidChange(const QString& text) {
     SXSettings::synchronize();
 }
 
+bool SXPreferences::serviceConsent() {
+    return SXServiceRequest::hasConsent();
+}
+
+void SXPreferences::clickServiceConsent(bool agreed) {
+    SXServiceRequest::setConsent(agreed);
+}
+
+QString SXPreferences::serviceAddress() {
+    const QString base = SXServiceRequest::baseURL();
+    return base.isEmpty() ? SXServiceRequest::defaultBaseURL() : base;
+}
+
 QByteArray SXPreferences::mainWindowGeometry() {
     return QByteArray::fromBase64(SXSettings::stringForKey(kMainWindowGeometry).toLatin1());
 }
@@ -56,7 +70,10 @@ void SXPreferences::setMainWindowGeometry(const QByteArray& geometry) {
 }
 
 QUrl SXPreferences::helpPageUrl() {
-    return QUrl(kWebsite + QStringLiteral("/help"));
+    // The page made from the README at build time and installed with the resources; no
+    // network needed. Empty when the installation lacks it.
+    const QString page = SXBundle::pathForResource(QStringLiteral("help"), QStringLiteral("html"));
+    return page.isEmpty() ? QUrl() : QUrl::fromLocalFile(page);
 }
 
 QUrl SXPreferences::websiteUrl() {

@@ -24,12 +24,19 @@ public:
     // Every keystroke of the playlist field is stored as the whole text.
     static void controlTextDidChange(const QString& text);
 
+    // Whether the start-up report and the feature switches may go over the network; off until
+    // the user ticks it (SXServiceRequest).
+    static bool serviceConsent();
+    static void clickServiceConsent(bool agreed);
+    // The address the requests go to, for the sentence that explains the check box.
+    static QString serviceAddress();
+
     // The size and place of the workspace window between runs (Qt's geometry bytes).
     static QByteArray mainWindowGeometry();
     static void setMainWindowGeometry(const QByteArray& geometry);
 
-    // Where the Help menu leads: the documentation page, the web site and a feedback mail with
-    // the subject "About Sonoria".
+    // Where the Help menu leads: the installed help page (share/sonoria/help.html, empty when
+    // missing), the web site and a feedback mail with the subject "About Sonoria".
     static QUrl helpPageUrl();
     static QUrl websiteUrl();
     static QUrl feedbackMailUrl();

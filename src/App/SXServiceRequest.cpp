@@ -31,13 +31,22 @@ QString SXServiceRequest::baseURL() {
 }
 
 bool SXServiceRequest::isEnabled() {
-    return !baseURL().isEmpty();
+    return hasConsent() && !baseURL().isEmpty();
+}
+
+bool SXServiceRequest::hasConsent() {
+    return SXSettings::boolForKey(SXServiceRequest::kConsentKey, false);
+}
+
+void SXServiceRequest::setConsent(bool agreed) {
+    SXSettings::setValue(SXServiceRequest::kConsentKey, agreed);
+    SXSettings::synchronize();
 }
 
 QUrl SXServiceRequest::urlFor(const QString& path, const QString& query) {
-    const QString base = baseURL();
-    if (base.isEmpty())
+    if (!isEnabled())
         return {};
+    const QString base = baseURL();
     const QString text = base + path + QLatin1Char('?') + query;
     // From encoded text, so that QUrl keeps the query's bytes instead of re-escaping delimiters.
     return QUrl::fromEncoded(text.toUtf8(), QUrl::TolerantMode);

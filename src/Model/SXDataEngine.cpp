@@ -99,7 +99,6 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
     format->setOutputPath(SXFileLocalManager::getDefaultOutputDir(format->fmtName()));
     format->setDecodecName(getDecodecWithCodecName(defaultOf(entry, QStringLiteral("acodec"))));
     format->setEnumAddToiTunes(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
-    format->setIsSaveAsOriginal(false);
     format->setAryChannels(choicesOf(entry.value(QStringLiteral("channel")).toMap()));
     format->setArySampleRate(choicesOf(entry.value(QStringLiteral("samplerate")).toMap()));
     format->setAryBiteRate(choicesOf(entry.value(QStringLiteral("abitrate")).toMap()));

@@ -16,7 +16,6 @@ std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
     result->setStrImgFileName(m_strImgFileName);
     result->setOutputPath(m_outputPath);
     result->setEnumAddToiTunes(m_enumAddToiTunes);
-    result->setIsSaveAsOriginal(m_isSaveAsOriginal);
     return result;
 }
 

@@ -41,8 +41,6 @@ public:
     // -1: no music-library option for this format, 0: offered and off, 1: offered and on.
     int enumAddToiTunes() const { return m_enumAddToiTunes; }
     void setEnumAddToiTunes(int value) { m_enumAddToiTunes = value; }
-    bool isSaveAsOriginal() const { return m_isSaveAsOriginal; }
-    void setIsSaveAsOriginal(bool value) { m_isSaveAsOriginal = value; }
 
     std::shared_ptr<SXFormatSetting> copy() const;
 
@@ -63,7 +61,6 @@ private:
     QString m_strImgFileName;
     QString m_outputPath;
     int m_enumAddToiTunes = 0;
-    bool m_isSaveAsOriginal = false;
 };
 
 using SXFormatSettingPtr = std::shared_ptr<SXFormatSetting>;

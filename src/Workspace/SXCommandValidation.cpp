@@ -29,6 +29,7 @@ SXCommandAnswer validateUserInterfaceItem(SXCommand command, const SXCommandCont
     case SXCommand::Help:
     case SXCommand::Feedback:
     case SXCommand::Website:
+    case SXCommand::About:
         return {true, false}; // not items of the menu target: never validated by it
     default:
         break;

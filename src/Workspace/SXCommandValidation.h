@@ -26,6 +26,7 @@ enum class SXCommand {
     Help,
     Feedback,
     Website,
+    About,
 };
 
 // What validation reads of the application: the primary workspace gives the state and the count

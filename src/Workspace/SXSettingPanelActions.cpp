@@ -1,33 +1,37 @@
 #include "Workspace/SXSettingPanelActions.h"
 
+#include "Common/Util/SXFileLocalManager.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXContainerMemory.h"
 #include "Workspace/SXWorkspaceData.h"
 
+#include <QDir>
+#include <QFileInfo>
+
 void SXSettingPanelActions::clickPopBitRiate(SXWorkspaceData& workspace, const QString& title) {
-    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting())
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setBiteRate(title);
+        SXContainerMemory::storeChoices(*setting);
+    }
 }
 
 void SXSettingPanelActions::clickPopSampRiate(SXWorkspaceData& workspace, const QString& title) {
-    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting())
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setSampleRate(title);
+        SXContainerMemory::storeChoices(*setting);
+    }
 }
 
 void SXSettingPanelActions::clickPopChannelRiate(SXWorkspaceData& workspace, const QString& title) {
-    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting())
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setChannels(title);
+        SXContainerMemory::storeChoices(*setting);
+    }
 }
 
 void SXSettingPanelActions::clickAddToiTunes(SXWorkspaceData& workspace, bool on) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setEnumAddToiTunes(on ? 1 : 0);
-        workspace.setFmtSetting(setting);
-    }
-}
-
-void SXSettingPanelActions::clickSaveAsOriginal(SXWorkspaceData& workspace, bool on) {
-    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
-        setting->setIsSaveAsOriginal(on);
         workspace.setFmtSetting(setting);
     }
 }
@@ -38,6 +42,25 @@ void SXSettingPanelActions::clickSavePath(SXWorkspaceData& workspace, const QStr
         setting->setOutputPath(folder);
 }
 
-QString SXSettingPanelActions::revealFolder() {
-    return SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
+QString SXSettingPanelActions::containerOutputFolder(const SXWorkspaceData& workspace) {
+    QString folder = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
+    if (folder.isEmpty())
+        folder = SXFileLocalManager::getDefaultUpperOutputDir();
+    const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
+    // The same rule as the run's (SXWorkspaceScheduler::doRealConverterTask).
+    if (setting && SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
+        folder += QLatin1Char('/') + setting->fmtName();
+    return QDir::cleanPath(folder);
+}
+
+QString SXSettingPanelActions::revealFolder(const SXWorkspaceData& workspace) {
+    QString folder = containerOutputFolder(workspace);
+    while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot())
+        folder = QFileInfo(folder).absolutePath();
+    return folder;
+}
+
+void SXSettingPanelActions::clickReveal(SXWorkspaceData& workspace) {
+    if (workspace.presenter())
+        workspace.presenter()->openFolder(revealFolder(workspace));
 }

@@ -5,17 +5,22 @@
 class SXWorkspaceData;
 
 // What the settings panel under the list writes. Each acts on the setting of the selected
-// container and is kept in memory there; the items get it at the next Start.
+// container; the items get it at the next Start. The three choices are also stored for the next
+// start of the program (SXContainerMemory).
 class SXSettingPanelActions {
 public:
     static void clickPopBitRiate(SXWorkspaceData& workspace, const QString& title);
     static void clickPopSampRiate(SXWorkspaceData& workspace, const QString& title);
     static void clickPopChannelRiate(SXWorkspaceData& workspace, const QString& title);
-    // Both boxes refill the panel afterwards, as the setting now reads.
+    // Refills the panel afterwards, as the setting now reads.
     static void clickAddToiTunes(SXWorkspaceData& workspace, bool on);
-    static void clickSaveAsOriginal(SXWorkspaceData& workspace, bool on);
     static void clickSavePath(SXWorkspaceData& workspace, const QString& folder);
-    // The folder the reveal button shows: the last output folder of a run, or empty (nothing
-    // to show).
-    static QString revealFolder();
+    // The selected container's output folder as the next Start would offer it: the stored output
+    // folder (else the default one), with the format's folder when output is organised by format.
+    static QString containerOutputFolder(const SXWorkspaceData& workspace);
+    // What "Show in Files" opens: that folder, or the nearest folder above it that exists, since
+    // showing creates nothing.
+    static QString revealFolder(const SXWorkspaceData& workspace);
+    // Asks the presenter to open revealFolder().
+    static void clickReveal(SXWorkspaceData& workspace);
 };

@@ -1,7 +1,7 @@
 #include "Workspace/SXWorkspaceContainers.h"
 
-#include "Common/Util/SXFileLocalManager.h"
 #include "Model/SXDataEngine.h"
+#include "Workspace/SXContainerMemory.h"
 
 #include <QMutexLocker>
 #include <QPointer>
@@ -15,13 +15,25 @@ SXWorkspaceContainers::~SXWorkspaceContainers() = default;
 void SXWorkspaceContainers::addDefaultTabs() {
     SXDataEngine* engine = SXDataEngine::shareInstance();
     const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+    QStringList labels = fixed;
+    if (m_remembersContainers) {
+        // The fixed ones cannot be closed and lead; a stored format the catalogue lost is skipped.
+        for (const QString& name : SXContainerMemory::storedContainers()) {
+            if (!labels.contains(name) && engine->getFormatWithName(name))
+                labels.append(name);
+        }
+    }
+    QList<SXFormatSettingPtr> settings;
+    for (const QString& name : std::as_const(labels)) {
+        settings.append(engine->getFormatWithName(name));
+        recallChoices(settings.last());
+    }
     {
         QMutexLocker locker(&m_dataLock);
-        for (int i = 0; i < fixed.size(); ++i) {
-            m_tabLabels.append(QString());
-            m_tabLabels[i] = fixed.at(i);
-            if (SXFormatSettingPtr setting = engine->getFormatWithName(fixed.at(i)))
-                _fmtSettingInfos.insert(fixed.at(i), setting);
+        for (int i = 0; i < labels.size(); ++i) {
+            m_tabLabels.append(labels.at(i));
+            if (settings.at(i))
+                _fmtSettingInfos.insert(labels.at(i), settings.at(i));
         }
         // Every tab starts with an empty list, replacing whatever its name held before.
         for (const QString& label : std::as_const(m_tabLabels))
@@ -65,16 +77,19 @@ int SXWorkspaceContainers::addNewTabWithName(const QString& name) {
             }
         }
     }
+    const SXFormatSettingPtr setting = SXDataEngine::shareInstance()->getFormatWithName(name);
+    recallChoices(setting);
     addNewTab();
     {
         // The tab at k is named, not necessarily the appended one: a non-fixed container that
         // already stands at k is relabelled and the new tab stays unnamed.
         QMutexLocker locker(&m_dataLock);
         m_tabLabels[k] = name;
-        if (SXFormatSettingPtr setting = SXDataEngine::shareInstance()->getFormatWithName(name))
+        if (setting)
             _fmtSettingInfos.insert(name, setting);
     }
     emitTabs();
+    rememberContainers();
     return int(tabLabels().indexOf(name));
 }
 
@@ -135,6 +150,7 @@ bool SXWorkspaceContainers::closeTab() {
     else
         emitTabs();
     refreshTabCount();
+    rememberContainers();
     return true;
 }
 
@@ -190,6 +206,7 @@ void SXWorkspaceContainers::addContainerWithFormat(const SXFormatSettingPtr& set
     if (!setting || setting->fmtName().isEmpty())
         return;
     const QString name = setting->fmtName();
+    recallChoices(setting);
     {
         QMutexLocker locker(&m_dataLock);
         _fmtSettingInfos.insert(name, setting);
@@ -200,9 +217,19 @@ void SXWorkspaceContainers::addContainerWithFormat(const SXFormatSettingPtr& set
         m_tabLabels.last() = name;
     }
     createArrayForFormate(name);
-    SXFileLocalManager::getDefaultOutputDir(name);
     emitTabs();
     Q_EMIT formatSettingShown(setting);
     refreshListView();
     refreshTabCount();
+    rememberContainers();
+}
+
+void SXWorkspaceContainers::recallChoices(const SXFormatSettingPtr& setting) const {
+    if (m_remembersContainers && setting)
+        SXContainerMemory::restoreChoices(*setting);
+}
+
+void SXWorkspaceContainers::rememberContainers() const {
+    if (m_remembersContainers)
+        SXContainerMemory::storeContainers(tabLabels());
 }

@@ -11,7 +11,13 @@ public:
     explicit SXWorkspaceContainers(QObject* parent = nullptr);
     ~SXWorkspaceContainers() override;
 
+    // The fixed containers; for a workspace that remembers its containers, then the stored ones
+    // in their order, each with its stored choices.
     void addDefaultTabs();
+    // The primary window's workspace keeps its containers between starts (SXContainerMemory):
+    // set before addDefaultTabs. Others, and the command-line tool, start from the catalogue.
+    void setRemembersContainers(bool on) { m_remembersContainers = on; }
+    bool remembersContainers() const { return m_remembersContainers; }
     void removeallTabs();
     int addNewTab();                            // an empty, unlabelled tab, selected; its index
     int addNewTabWithName(const QString& name); // index of the tab that now carries the name
@@ -33,5 +39,10 @@ public:
     bool showAddBtn() const { return m_showAddBtn; }
 
 private:
+    // For a remembering workspace: `setting` gets its stored choices. The caller holds no lock.
+    void recallChoices(const SXFormatSettingPtr& setting) const;
+    void rememberContainers() const;
+
     bool m_showAddBtn = true;
+    bool m_remembersContainers = false;
 };

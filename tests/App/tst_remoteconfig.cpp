@@ -89,6 +89,9 @@ class TestRemoteConfig : public QObject {
     }
 
 private Q_SLOTS:
+    // The user's consent, which every request below needs, is the subject of the last test.
+    void init() { SXServiceRequest::setConsent(true); }
+
     void configAnswerSetsStoredSwitches_data() {
         QTest::addColumn<int>("status"); // 0: nobody listening
         QTest::addColumn<QByteArray>("body");
@@ -194,17 +197,34 @@ private Q_SLOTS:
         SXSettings::removeKey(SXSettingsKey::Guid);
     }
 
-    void emptyBaseAddressSendsNothing() {
+    void nothingGoesOutWithoutConsentOrAddress_data() {
+        QTest::addColumn<bool>("consent");
+        QTest::addColumn<bool>("address");
+        QTest::newRow("never asked") << false << true;
+        QTest::newRow("address stored empty") << true << false;
+    }
+
+    // Without the user's consent, or with the service switched off, a start sends nothing,
+    // creates no identifier and logs nothing; the consent itself makes requests go out.
+    void nothingGoesOutWithoutConsentOrAddress() {
+        QFETCH(bool, consent);
+        QFETCH(bool, address);
         TinyHttpServer server;
-        SXSettings::setValue(SXSettingsKey::ServiceBaseURL, QString());
+        SXSettings::removeKey(SXServiceRequest::kConsentKey);
+        if (consent)
+            SXServiceRequest::setConsent(true);
+        SXSettings::setValue(SXSettingsKey::ServiceBaseURL, address ? server.baseURL() : QString());
         SXSettings::removeKey(SXSettingsKey::Guid);
         QVERIFY(!SXServiceRequest::isEnabled());
         QSignalSpy finished(config(), &HVConfigManager::onlineConfigFinished);
         LogCapture log;
-        MacAppHelper helper;
-        HVConfigManager::startupRequests(helper);
+        {
+            MacAppHelper helper;
+            HVConfigManager::startupRequests(helper);
+        }
 
         // The command-line tool must not phone home either, whatever the settings say.
+        SXServiceRequest::setConsent(true);
         SXSettings::setValue(SXSettingsKey::ServiceBaseURL, server.baseURL());
         QCOMPARE(SonoriaTest::run(SONORIA_CLI_PATH, {"--list-formats"}), 0); // same config home
 

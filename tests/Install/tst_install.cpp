@@ -111,6 +111,7 @@ void TestInstall::installsEveryFileInPlace_data() {
         << u"share/icons/hicolor/scalable/apps/app.sonoria.Sonoria.svg"_s << false;
     QTest::newRow("manual") << u"share/man/man1/sonoria.1.gz"_s << false;
     QTest::newRow("tool manual") << u"share/man/man1/sonoria-cli.1.gz"_s << false;
+    QTest::newRow("help page") << u"share/sonoria/help.html"_s << false;
 }
 
 void TestInstall::installsEveryFileInPlace() {

@@ -92,7 +92,6 @@ private Q_SLOTS:
                          format->aryChannels().contains(format->channels()) &&
                          !format->decodecName().isEmpty() && !format->outputExtName().isEmpty() &&
                          !format->fmtDescribe().isEmpty() && !format->strImgFileName().isEmpty() &&
-                         !format->isSaveAsOriginal() &&
                          format->outputPath().endsWith("/Music/Sonoria/" + name),
                      qPrintable(name));
         }

@@ -1,13 +1,19 @@
 #include "support/TestSupport.h"
 
 #include "Model/SXDataEngine.h"
+#include "Shared/SXSettings.h"
 #include "Workspace/SXCommandValidation.h"
 #include "Workspace/SXFormatChooser.h"
+#include "Workspace/SXSettingPanelActions.h"
 #include "Workspace/SXStateStripModel.h"
 #include "Workspace/SXWorkspace.h"
 #include "Workspace/SXWorkspaceTexts.h"
+#include "support/TemporaryHome.h"
 
 #include "WorkspaceTestPresenter.h"
+
+#include <QDirIterator>
+#include <QSettings>
 
 using namespace Qt::StringLiterals;
 
@@ -24,6 +30,9 @@ private Q_SLOTS:
     void chooserResultSharesListsAndKeepsNoLibrary();
     void helpBarSumsEveryContainer();
     void stripBarNeverGoesBackAndNamesThePreview();
+    void containersAndChoicesSurviveARestart();
+    void showInFilesAndACancelledStartCreateNothing_data();
+    void showInFilesAndACancelledStartCreateNothing();
 };
 
 namespace {
@@ -74,6 +83,17 @@ QStringList enabledNames(const SXCommandContext& context, QStringList* beeping) 
             beeping->append(kNames.at(i));
     }
     return enabled;
+}
+
+// Every file and folder below `folder`, hidden ones too: what a test must not have created.
+QStringList entriesBelow(const QString& folder) {
+    QStringList entries;
+    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        entries.append(it.next());
+    entries.sort();
+    return entries;
 }
 
 SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
@@ -268,6 +288,122 @@ void TestWindowDecisions::stripBarNeverGoesBackAndNamesThePreview() {
     strip.updateForAppState(AppStateLoading, nullptr);
     QVERIFY(!strip.look().sliderShown && strip.look().nameShown);
     QCOMPARE(strip.playingMusic(), song);
+}
+
+// The primary window's containers and every container's choices come back in a new workspace
+// that reads them from the settings file; a workspace that does not remember starts from the
+// catalogue, and a stored choice the format no longer offers is ignored.
+void TestWindowDecisions::containersAndChoicesSurviveARestart() {
+    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+    const SXFormatSettingPtr catalogueMp3 =
+        SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+    const QStringList vorbisRates =
+        SXDataEngine::shareInstance()->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
+    QVERIFY(vorbisRates.size() > 1);
+    QStringList expected = fixed;
+    {
+        SXWorkspace first;
+        first.setRemembersContainers(true);
+        first.addDefaultTabs();
+        QCOMPARE(first.tabLabels(), fixed);
+        for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
+            first.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(name));
+        QVERIFY(first.selectContainer(u"WAV"_s) && first.closeTab());
+        expected << u"Ogg Vorbis"_s << u"FLAC"_s;
+        QCOMPARE(first.tabLabels(), expected);
+
+        QVERIFY(first.selectContainer(u"MP3"_s));
+        SXSettingPanelActions::clickPopBitRiate(first, catalogueMp3->aryBiteRate().first());
+        SXSettingPanelActions::clickPopSampRiate(first, catalogueMp3->arySampleRate().last());
+        SXSettingPanelActions::clickPopChannelRiate(first, catalogueMp3->aryChannels().last());
+        QVERIFY(first.selectContainer(u"FLAC"_s));
+        SXSettingPanelActions::clickPopChannelRiate(first, u"Mono"_s);
+        // A name with a blank, which must not become a group of the settings file.
+        QVERIFY(first.selectContainer(u"Ogg Vorbis"_s));
+        SXSettingPanelActions::clickPopBitRiate(first, vorbisRates.first());
+    }
+    // On disk, where the next process reads it (this one shares Qt's parsed copy).
+    const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
+    QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome()));
+    QVERIFY(onDisk.value(u"SXContainers"_s).toString().contains(u"FLAC"_s));
+
+    SXWorkspace second;
+    second.setRemembersContainers(true);
+    second.addDefaultTabs();
+    QCOMPARE(second.tabLabels(), expected);
+    const SXFormatSettingPtr mp3 = second.getFormatSettingForFormatName(u"MP3"_s);
+    QCOMPARE(mp3->biteRate(), catalogueMp3->aryBiteRate().first());
+    QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
+    QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
+    QCOMPARE(second.getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
+    QCOMPARE(second.getFormatSettingForFormatName(u"Ogg Vorbis"_s)->biteRate(),
+             vorbisRates.first());
+    // The catalogue itself is untouched.
+    QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->biteRate(),
+             catalogueMp3->biteRate());
+
+    SXWorkspace other;
+    other.addDefaultTabs();
+    QCOMPARE(other.tabLabels(), fixed);
+    QCOMPARE(other.getFormatSettingForFormatName(u"MP3"_s)->biteRate(), catalogueMp3->biteRate());
+
+    // Hand-edited or outdated values: an unknown format and a rate nobody offers.
+    SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
+    SXSettings::setValue(u"SXContainerChoices/MP3"_s,
+                         u"{\"bitRate\":\"7\",\"channels\":\"Mono\"}"_s);
+    SXWorkspace third;
+    third.setRemembersContainers(true);
+    third.addDefaultTabs();
+    QCOMPARE(third.tabLabels(), fixed + QStringList{u"Opus"_s});
+    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->biteRate(), catalogueMp3->biteRate());
+    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+}
+
+void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing_data() {
+    QTest::addColumn<bool>("stored");    // an output folder was chosen before
+    QTest::addColumn<bool>("organized"); // output goes to a folder per format
+    QTest::addColumn<bool>("exists");    // that folder is already there
+    QTest::newRow("fresh account") << false << true << false;
+    QTest::newRow("chosen, organised, not yet made") << true << true << false;
+    QTest::newRow("chosen, organised, made") << true << true << true;
+    QTest::newRow("chosen, not organised") << true << false << true;
+}
+
+void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
+    QFETCH(bool, stored);
+    QFETCH(bool, organized);
+    QFETCH(bool, exists);
+    SonoriaTest::TemporaryHome home;
+    QVERIFY(home.isValid());
+    const QString chosen = home.processHome() + u"/Out"_s;
+    const QString base = stored ? chosen : home.processHome() + u"/Music/Sonoria"_s;
+    const QString folder = organized ? base + u"/FLAC"_s : base;
+    SXSettings::removeKey(SXSettingsKey::DefaultOutputPath);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, organized);
+    if (stored) {
+        SXSettings::setValue(SXSettingsKey::DefaultOutputPath, chosen);
+        QVERIFY(QDir().mkpath(chosen));
+    }
+    if (exists)
+        QVERIFY(QDir().mkpath(folder));
+    const QStringList before = entriesBelow(home.processHome());
+
+    WorkspaceTestPresenter presenter;
+    SXWorkspace workspace;
+    workspace.setPresenter(&presenter);
+    workspace.addDefaultTabs();
+    workspace.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), folder);
+    SXSettingPanelActions::clickReveal(workspace);
+    // A folder not made yet shows its nearest existing parent.
+    const QString shown = exists ? folder : stored ? chosen : home.processHome();
+    QCOMPARE(presenter.openedFolders, QStringList{shown});
+
+    presenter.folderAnswer.reset(); // the Start dialog is cancelled
+    workspace.clickStart();
+    QCOMPARE(presenter.folderRequests.size(), 1);
+    QCOMPARE(presenter.folderRequests.first().startFolder, base);
+    QCOMPARE(entriesBelow(home.processHome()), before);
 }
 
 SONORIA_TEST_MAIN(TestWindowDecisions)

@@ -1,7 +1,5 @@
 #include "TemporaryHome.h"
 
-#include "Common/Util/SXHomeFolder.h"
-
 #include <QDir>
 #include <QFile>
 
@@ -36,9 +34,7 @@ void EnvironmentGuard::save(const char* name) {
 
 TemporaryHome::TemporaryHome()
     : m_root(QDir::tempPath() + QStringLiteral("/sonoria-test-home-XXXXXX")) {
-    m_valid = m_root.isValid() && QDir().mkpath(realHome()) && QDir().mkpath(configHome()) &&
-              QDir().mkpath(dataHome());
-    m_environment.set(SXHomeFolder::kRealHomeVariable, realHome());
+    m_valid = m_root.isValid() && QDir().mkpath(configHome()) && QDir().mkpath(dataHome());
     m_environment.set("HOME", processHome());
     m_environment.set("XDG_CONFIG_HOME", configHome());
     m_environment.set("XDG_DATA_HOME", dataHome());

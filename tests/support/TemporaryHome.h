@@ -27,16 +27,14 @@ private:
     QList<QPair<QByteArray, std::optional<QByteArray>>> m_saved;
 };
 
-// A fresh, empty home for the duration of the object. The real home the program builds its
-// default folders on ($SONORIA_HOME), the process's own home ($HOME) and the XDG folders all
-// point inside one temporary folder. Every test executable runs inside one (see
+// A fresh, empty home for the duration of the object. The process's home ($HOME) and the XDG
+// folders all point inside one temporary folder. Every test executable runs inside one (see
 // prepareEnvironment); a test that needs a home nobody has touched yet makes its own.
 class TemporaryHome {
 public:
     TemporaryHome();
 
     bool isValid() const { return m_valid; }
-    QString realHome() const { return m_root.filePath(QStringLiteral("user")); }
     QString processHome() const { return m_root.filePath(QStringLiteral("home")); }
     QString configHome() const { return processHome() + QStringLiteral("/.config"); }
     QString dataHome() const { return processHome() + QStringLiteral("/.local/share"); }

@@ -3,19 +3,19 @@
 #include "App/HVConfigManager.h"
 #include "App/MacAppHelper.h"
 #include "App/SXPreferences.h"
-#include "Common/Util/SXFileLocalManager.h"
 #include "Desktop/SXFileManager.h"
 #include "Gui/App/SXMenuHandleCltr.h"
 #include "Gui/Dialogs/SXPreferenceCtlr.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Model/SXDataEngine.h"
-#include "Shared/GlobalFun.h"
 #include "Shared/SXLog.h"
 #include "Shared/SXSettings.h"
+#include "Workspace/SXAboutText.h"
 #include "Workspace/SXWorkspace.h"
 
 #include <QApplication>
+#include <QMessageBox>
 #include <QSessionManager>
 
 #include <csignal>
@@ -76,13 +76,13 @@ void SXAppDelegate::newWindow() {
     connect(&m_coreMainWndCtlr->workspace(), &SXWorkspace::appStateChanged, this,
             &SXAppDelegate::loadPendingFiles, Qt::QueuedConnection);
     m_coreMainWndCtlr->show();
+    // The primary window alone keeps its containers and their choices between starts.
+    m_coreMainWndCtlr->workspace().setRemembersContainers(true);
     m_coreMainWndCtlr->workspace().addDefaultTabs();
     validateMenus();
 }
 
 void SXAppDelegate::applicationDidFinishLaunching(bool contactService) {
-    // The converted-audio folder lives under the real home; creating it only logs a failure.
-    GlobalFun::MakeSureFolderExsist(SXFileLocalManager::convertedAudioDirectory());
     if (!contactService)
         return;
     m_appHelper = new MacAppHelper(this);
@@ -132,7 +132,10 @@ void SXAppDelegate::perform(SXCommand command) {
         QApplication::closeAllWindows();
         return;
     case SXCommand::Help:
-        SXFileManager::openUrl(SXPreferences::helpPageUrl());
+        // An installation without its help page has nothing to show.
+        if (SXPreferences::helpPageUrl().isEmpty() ||
+            !SXFileManager::openUrl(SXPreferences::helpPageUrl()))
+            QApplication::beep();
         return;
     case SXCommand::Feedback:
         SXFileManager::openUrl(SXPreferences::feedbackMailUrl());
@@ -140,6 +143,12 @@ void SXAppDelegate::perform(SXCommand command) {
     case SXCommand::Website:
         SXFileManager::openUrl(SXPreferences::websiteUrl());
         return;
+    case SXCommand::About: {
+        const SXAboutText about = SXAboutText::current();
+        QWidget* parent = keyWindowController();
+        QMessageBox::about(parent ? parent : m_coreMainWndCtlr.data(), about.title, about.text);
+        return;
+    }
     case SXCommand::NewFormat:
         // Only the primary window adds containers.
         if (!isCoreControllerIsKeyWindow()) {

@@ -40,6 +40,7 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::Help, tr("Sonoria Help"), standardOr(QKeySequence::HelpContents, Qt::Key_F1));
     make(SXCommand::Feedback, tr("Send Feedback…"), QKeySequence());
     make(SXCommand::Website, tr("Sonoria Website"), QKeySequence());
+    make(SXCommand::About, tr("About Sonoria"), QKeySequence());
 }
 
 QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
@@ -63,7 +64,8 @@ void SXMenuHandleCltr::installInto(QMainWindow& window) {
              SXCommand::NextContainer, SXCommand::PreviousContainer, SXCommand::TagEditor,
              SXCommand::FileInfo});
     addMenu(bar, tr("&Convert"), {SXCommand::Start, SXCommand::Stop});
-    addMenu(bar, tr("&Help"), {SXCommand::Help, SXCommand::Feedback, SXCommand::Website});
+    addMenu(bar, tr("&Help"),
+            {SXCommand::Help, SXCommand::Feedback, SXCommand::Website, SXCommand::About});
     // Shortcuts of the shared actions work in every window that shows them.
     window.addActions(m_actions.values());
 }

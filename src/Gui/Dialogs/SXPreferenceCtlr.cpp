@@ -2,6 +2,7 @@
 
 #include "App/SXPreferences.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
@@ -35,16 +36,30 @@ SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
     form->addRow(caption(tr("&Conversions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
     form->addRow(caption(tr("Music &library format:"), pbtniTunesFmt, this), pbtniTunesFmt);
     form->addRow(caption(tr("&Playlist name:"), fdPlaylistName, this), fdPlaylistName);
+    chkServiceConsent =
+        new QCheckBox(tr("&Send a start-up report and fetch feature switches"), this);
+    chkServiceConsent->setObjectName(QStringLiteral("chkServiceConsent"));
+    auto* consentText = new QLabel(
+        tr("At each start Sonoria then tells %1 its version, the system's version and a random "
+           "installation number, and asks which features to switch on.")
+            .arg(SXPreferences::serviceAddress()),
+        this);
+    consentText->setWordWrap(true);
+    chkServiceConsent->setToolTip(consentText->text());
+    form->addRow(chkServiceConsent);
+    form->addRow(consentText);
     windowDidLoad();
 
     connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::clickMaxTasks);
     connect(pbtniTunesFmt, &QComboBox::activated, this, &SXPreferences::clickiTunesFmt);
     connect(fdPlaylistName, &QLineEdit::textEdited, this, &SXPreferences::controlTextDidChange);
+    connect(chkServiceConsent, &QCheckBox::toggled, this, &SXPreferences::clickServiceConsent);
 }
 
 void SXPreferenceCtlr::windowDidLoad() {
-    const QSignalBlocker a(pbtnMaxTasks), b(pbtniTunesFmt), c(fdPlaylistName);
+    const QSignalBlocker a(pbtnMaxTasks), b(pbtniTunesFmt), c(fdPlaylistName), d(chkServiceConsent);
     pbtnMaxTasks->setCurrentIndex(SXPreferences::maxTasksIndex());
     pbtniTunesFmt->setCurrentIndex(SXPreferences::iTunesFmtIndex());
     fdPlaylistName->setText(SXPreferences::playlistName());
+    chkServiceConsent->setChecked(SXPreferences::serviceConsent());
 }

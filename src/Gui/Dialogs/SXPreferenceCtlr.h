@@ -2,11 +2,13 @@
 
 #include <QWidget>
 
+class QCheckBox;
 class QComboBox;
 class QLineEdit;
 
-// The preferences: how many conversions run at once, the music library's format and the
-// playlist's name. A small window of its own; every change is stored at once, there is no OK.
+// The preferences: how many conversions run at once, the music library's format, the
+// playlist's name and the consent to the start-up requests. A small window of its own; every change
+// is stored at once, there is no OK.
 class SXPreferenceCtlr final : public QWidget {
     Q_OBJECT
 public:
@@ -18,4 +20,5 @@ private:
     QComboBox* pbtnMaxTasks = nullptr;
     QComboBox* pbtniTunesFmt = nullptr;
     QLineEdit* fdPlaylistName = nullptr;
+    QCheckBox* chkServiceConsent = nullptr;
 };

@@ -1,6 +1,5 @@
 #include "Gui/Panels/SXSettingsPanel.h"
 
-#include "Desktop/SXFileManager.h"
 #include "Gui/Panels/SXIcons.h"
 #include "Gui/Panels/SXPopUps.h"
 #include "Workspace/SXSettingPanelActions.h"
@@ -36,11 +35,9 @@ SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
     });
     connect(_btnAddToiTunes, &QCheckBox::clicked, this,
             [this](bool on) { SXSettingPanelActions::clickAddToiTunes(m_workspace, on); });
-    connect(_btnSaveAsOriginal, &QCheckBox::clicked, this,
-            [this](bool on) { SXSettingPanelActions::clickSaveAsOriginal(m_workspace, on); });
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
     connect(_btnReveal, &QPushButton::clicked, this,
-            [] { SXFileManager::revealItem(SXSettingPanelActions::revealFolder()); });
+            [this] { SXSettingPanelActions::clickReveal(m_workspace); });
     connect(&m_workspace, &SXWorkspaceData::formatSettingShown, this,
             &SXSettingsPanel::reflushDownPartSettingPanel);
 }
@@ -64,8 +61,6 @@ void SXSettingsPanel::buildButtons() {
     const int column = m_columns;
     _btnAddToiTunes = new QCheckBox(tr("Add to music &library"), this);
     _btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
-    _btnSaveAsOriginal = new QCheckBox(tr("Sa&ve as original"), this);
-    _btnSaveAsOriginal->setObjectName(QStringLiteral("btnSaveAsOriginal"));
     _btnSavePath =
         new QPushButton(SXIcons::icon(QStringLiteral("outputFolder"), QStringLiteral("folder")),
                         tr("Output &Folder…"), this);
@@ -75,7 +70,6 @@ void SXSettingsPanel::buildButtons() {
                         tr("Show in F&iles"), this);
     _btnReveal->setObjectName(QStringLiteral("btnReveal"));
     grid->addWidget(_btnAddToiTunes, 0, column);
-    grid->addWidget(_btnSaveAsOriginal, 1, column);
     grid->addWidget(_btnSavePath, 0, column + 1);
     grid->addWidget(_btnReveal, 1, column + 1);
     grid->setColumnStretch(column + 2, 1);
@@ -89,14 +83,12 @@ void SXSettingsPanel::reflushDownPartSettingPanel(const SXFormatSettingPtr& sett
     SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
     _btnAddToiTunes->setVisible(setting->enumAddToiTunes() != -1);
     _btnAddToiTunes->setChecked(setting->enumAddToiTunes() == 1);
-    _btnSaveAsOriginal->setChecked(setting->isSaveAsOriginal());
     _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChanel, _btnAddToiTunes,
-                                         _btnSaveAsOriginal, _btnSavePath})
+    for (QWidget* control : std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChanel,
+                                                            _btnAddToiTunes, _btnSavePath})
         control->setEnabled(enabled);
 }
 

@@ -10,8 +10,8 @@ class QPushButton;
 class SXWorkspaceData;
 
 // The settings of the selected container under the list: bit rate, sample rate and channels,
-// the music-library box (hidden for a format without the option), save as original, the
-// container's output folder and the reveal button. It mirrors formatSettingShown and writes
+// the music-library box (hidden for a format without the option), the container's output
+// folder and the reveal button. It mirrors formatSettingShown and writes
 // each change through SXSettingPanelActions.
 class SXSettingsPanel final : public QWidget {
     Q_OBJECT
@@ -32,7 +32,6 @@ private:
     QComboBox* _popSmpRate = nullptr;
     QComboBox* _popChanel = nullptr;
     QCheckBox* _btnAddToiTunes = nullptr;
-    QCheckBox* _btnSaveAsOriginal = nullptr;
     QPushButton* _btnSavePath = nullptr;
     QPushButton* _btnReveal = nullptr;
 };

@@ -191,6 +191,7 @@ void SXMainAppController::perform(SXCommand command) {
     case SXCommand::Help:
     case SXCommand::Feedback:
     case SXCommand::Website:
+    case SXCommand::About:
         Q_EMIT applicationCommand(command);
         break;
     }

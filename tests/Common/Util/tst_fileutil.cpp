@@ -20,11 +20,8 @@ private Q_SLOTS:
     void freeSpaceFollowsProcessHome();
     void fullThresholdAndLanguageFile();
     void findFileGivesNameOrFirstLevelFolder();
-    void userDirsAreParsed_data();
-    void userDirsAreParsed();
-    void realHomeComesFromUserDatabaseOrStandIn();
-    void foldersAreBuiltOnRealHomeNotEnvironment();
-    void upperOutputFolderIsCreatedOnce();
+    void defaultFoldersFollowHomeAndCreateNothing_data();
+    void defaultFoldersFollowHomeAndCreateNothing();
 };
 
 using SonoriaTest::EnvironmentGuard;
@@ -113,86 +110,36 @@ void FileUtilTest::findFileGivesNameOrFirstLevelFolder() {
     QVERIFY(FileHelper::findFile(dir.path(), "nowhere.txt").isNull());
 }
 
-void FileUtilTest::userDirsAreParsed_data() {
-    QTest::addColumn<QString>("config");
-    QTest::addColumn<QString>("expected");
-    const QString header = QStringLiteral("# This file is written by xdg-user-dirs-update\n"
-                                          "XDG_DESKTOP_DIR=\"$HOME/Schreibtisch\"\n");
-    const auto row = [](const char* name, const QString& config, const char* expected) {
-        QTest::newRow(name) << config << QString::fromUtf8(expected);
-    };
-    row("relative to home", header + "XDG_MUSIC_DIR=\"$HOME/Musik\"\n", "/home/anna/Musik");
-    row("absolute, cleaned", "XDG_MUSIC_DIR=\"/srv/media//music/\"", "/srv/media/music");
-    row("unquoted with blanks", "  XDG_MUSIC_DIR = $HOME/Audio  ", "/home/anna/Audio");
-    row("last assignment wins", "XDG_MUSIC_DIR=\"$HOME/Old\"\nXDG_MUSIC_DIR=\"$HOME/New\"",
-        "/home/anna/New");
-    row("home itself means not set", "XDG_MUSIC_DIR=\"$HOME/\"", "");
-    row("commented out", header + "#XDG_MUSIC_DIR=\"$HOME/Musik\"", "");
-    row("other key with same prefix", "XDG_MUSIC_DIRS=\"$HOME/Musik\"", "");
-    row("relative path ignored", "XDG_MUSIC_DIR=\"Musik\"", "");
+void FileUtilTest::defaultFoldersFollowHomeAndCreateNothing_data() {
+    QTest::addColumn<QByteArray>("userDirs");
+    QTest::addColumn<QString>("music"); // below $HOME unless absolute
+    QTest::newRow("no user-dirs.dirs") << QByteArray() << QStringLiteral("Music");
+    QTest::newRow("relative to home")
+        << QByteArray("# written by the desktop\nXDG_MUSIC_DIR=\"$HOME/Musik\"\n")
+        << QStringLiteral("Musik");
+    QTest::newRow("absolute") << QByteArray("XDG_MUSIC_DIR=\"/srv/tunes\"\n")
+                              << QStringLiteral("/srv/tunes");
 }
 
-void FileUtilTest::userDirsAreParsed() {
-    QFETCH(QString, config);
-    QFETCH(QString, expected);
-    QCOMPARE(SXFileLocalManager::userDirectoryFromConfig(config, "XDG_MUSIC_DIR", "/home/anna"),
-             expected);
-}
-
-// The lookup itself is read only: the user database's record, whatever $HOME says, unless an
-// absolute $SONORIA_HOME stands in for it.
-void FileUtilTest::realHomeComesFromUserDatabaseOrStandIn() {
-    QString passwd;
-    QCOMPARE(SonoriaTest::run("getent", {"passwd", QString::number(::getuid())}, &passwd), 0);
-    const QString home = QDir::cleanPath(passwd.trimmed().split(':').value(5));
-    QVERIFY(!home.isEmpty());
-
-    EnvironmentGuard environment;
-    environment.set("HOME", "/nonexistent/elsewhere");
-    QCOMPARE(SXHomeFolder::fromUserDatabase(), home);
-    QCOMPARE(SXHomeFolder::realHome(), SonoriaTest::temporaryHome().realHome());
-    environment.set(SXHomeFolder::kRealHomeVariable, "/stand/in//home/");
-    QCOMPARE(SXHomeFolder::realHome(), QStringLiteral("/stand/in/home"));
-    environment.set(SXHomeFolder::kRealHomeVariable, "relative/home");
-    QCOMPARE(SXHomeFolder::realHome(), home);
-    environment.unset(SXHomeFolder::kRealHomeVariable);
-    QCOMPARE(SXHomeFolder::realHome(), home);
-}
-
-// Output folders follow the real home and its own user-dirs.dirs; neither $HOME nor
-// $XDG_CONFIG_HOME moves them.
-void FileUtilTest::foldersAreBuiltOnRealHomeNotEnvironment() {
+// The folders come from $HOME and the desktop's user-dirs.dirs of this process, never from the
+// user database, and asking for them leaves the home as it was.
+void FileUtilTest::defaultFoldersFollowHomeAndCreateNothing() {
+    QFETCH(QByteArray, userDirs);
+    QFETCH(QString, music);
     TemporaryHome fresh;
     QVERIFY(fresh.isValid());
-    const QString real = fresh.realHome();
-    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), real + "/Music/Sonoria/AAC");
-    QCOMPARE(SXFileLocalManager::convertedAudioDirectory(),
-             real + "/Videos/Sonoria/Audio Converted");
+    if (!userDirs.isEmpty())
+        QVERIFY(writeFile(fresh.configHome() + "/user-dirs.dirs", userDirs));
+    const QString expected =
+        QDir::isAbsolutePath(music) ? music : fresh.processHome() + QLatin1Char('/') + music;
+    const QStringList before = QDir(fresh.processHome()).entryList(QDir::AllEntries | QDir::Hidden);
 
-    QVERIFY(writeFile(real + "/.config/user-dirs.dirs",
-                      "XDG_MUSIC_DIR=\"$HOME/Musik\"\nXDG_VIDEOS_DIR=\"/srv/films\"\n"));
-    QVERIFY(writeFile(fresh.configHome() + "/user-dirs.dirs", "XDG_MUSIC_DIR=\"$HOME/Wrong\"\n"));
-    EnvironmentGuard environment;
-    environment.set("HOME", "/nonexistent/elsewhere");
-    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), real + "/Musik/Sonoria/AAC");
-    QCOMPARE(SXFileLocalManager::convertedAudioDirectory(),
-             QStringLiteral("/srv/films/Sonoria/Audio Converted"));
-}
-
-// On a fresh account the common parent appears under the real home; asked again, nothing
-// changes.
-void FileUtilTest::upperOutputFolderIsCreatedOnce() {
-    TemporaryHome fresh;
-    QVERIFY(fresh.isValid());
-    const QString expected = fresh.realHome() + "/Music/Sonoria";
-    QVERIFY(!QFileInfo::exists(fresh.realHome() + "/Music"));
-
-    QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
-    QVERIFY(QFileInfo(expected).isDir());
-    const QDateTime modified = QFileInfo(expected).lastModified();
-    QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected);
-    QCOMPARE(QFileInfo(expected).lastModified(), modified);
-    QVERIFY(QDir(expected).isEmpty(QDir::AllEntries | QDir::NoDotAndDotDot | QDir::Hidden));
+    QCOMPARE(SXHomeFolder::processHome(), fresh.processHome());
+    QCOMPARE(SXFileLocalManager::musicDirectory(), expected);
+    QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected + "/Sonoria");
+    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), expected + "/Sonoria/AAC");
+    QCOMPARE(QDir(fresh.processHome()).entryList(QDir::AllEntries | QDir::Hidden), before);
+    QVERIFY(!QFileInfo::exists(expected + "/Sonoria"));
 }
 
 SONORIA_TEST_MAIN(FileUtilTest)

@@ -6,8 +6,10 @@
 #include "Gui/Window/SXMainAppController.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Model/SXDataEngine.h"
+#include "Shared/SXBundle.h"
 #include "Shared/SXSettings.h"
 #include "Workspace/SXWorkspace.h"
+#include "support/LogCapture.h"
 #include "support/TemporaryHome.h"
 #include "support/gui/GuiTestSupport.h"
 
@@ -16,8 +18,13 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
 
 using namespace SonoriaGuiTest;
 
@@ -30,7 +37,7 @@ class TestAppDelegate : public QObject {
 private Q_SLOTS:
     void init();
     void cleanup();
-    void startUpFillsTheDefaultsAndTheOutputFolder();
+    void startUpFillsTheDefaultsAndCreatesNoFolder();
     void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers();
     void newContainerRevivesThePrimaryWindowEmpty();
     void menusFollowTheStateWithoutBeepingUntilAMenuOpens();
@@ -73,15 +80,16 @@ void TestAppDelegate::addTone(const QString& name) {
     QCOMPARE(ws.getCurentTabMusicCount(), before + 1);
 }
 
-void TestAppDelegate::startUpFillsTheDefaultsAndTheOutputFolder() {
+void TestAppDelegate::startUpFillsTheDefaultsAndCreatesNoFolder() {
     QVERIFY(window().isVisible());
     QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
     QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesFmt), QStringLiteral("AAC"));
     QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName),
              QStringLiteral("Sonoria"));
-    const QString converted = SXFileLocalManager::convertedAudioDirectory();
-    QVERIFY2(QDir(converted).exists(), qPrintable(converted));
-    QVERIFY(converted.startsWith(SonoriaTest::temporaryHome().realHome()));
+    // Starting creates no folder of the user's: output folders appear when a run writes.
+    const QString home = SonoriaTest::temporaryHome().processHome();
+    QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
+    QVERIFY(!QFileInfo::exists(SXFileLocalManager::getDefaultUpperOutputDir()));
     QVERIFY(window().workspace().isRegistered());
     QVERIFY(window().workspace().tabLabels().size() >= 1);
 
@@ -187,9 +195,51 @@ void TestAppDelegate::menuCommandsReachTheKeyWindow() {
     action(SXCommand::PreviousContainer)->trigger();
     QCOMPARE(ws.selectedTabIndex(), (selected - 1 + tabs) % tabs);
 
-    // Help goes to the browser; with opening suppressed it must simply not disturb the window.
-    action(SXCommand::Help)->trigger();
-    QVERIFY(window().isVisible());
+    // Help opens the page staged with the resources (installed alike), made from the README.
+    {
+        LogCapture log;
+        action(SXCommand::Help)->trigger();
+        const QStringList opened = log.lines().filter(
+            QRegularExpression(u"^open file:///.*/share/sonoria/help\\.html$"_s));
+        QCOMPARE(opened.size(), 1);
+        QFile page(QUrl(opened.first().mid(5)).toLocalFile());
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QByteArray html = page.readAll();
+        QVERIFY(html.contains("<h1>Using Sonoria</h1>") &&
+                html.contains("<li><strong>Containers.</strong>"));
+        QVERIFY(window().isVisible());
+    }
+
+    // About names the libraries this process loaded: ffprobe loads the same FFmpeg libraries.
+    QString probe;
+    QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
+    QStringList expected{SXBundle::shortVersionString(), u"Qt "_s + QString::fromLatin1(qVersion()),
+                         u"GNU General Public License"_s, u"TagLib 1."_s};
+    expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
+    for (const char* library : {"libavformat", "libavcodec"}) {
+        const QRegularExpressionMatch version =
+            QRegularExpression(QString::fromLatin1(library) + u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s)
+                .match(probe);
+        QVERIFY2(version.hasMatch(), library);
+        expected << QString::fromLatin1(library) + u" %1.%2.%3"_s.arg(version.captured(1),
+                                                                      version.captured(2),
+                                                                      version.captured(3));
+    }
+    QString aboutText;
+    QTimer closer; // the box runs its own loop: look for it from inside that loop
+    closer.setInterval(20);
+    connect(&closer, &QTimer::timeout, this, [&aboutText, &closer] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            aboutText = box->windowTitle() + u'\n' + box->text();
+            closer.stop();
+            box->accept();
+        }
+    });
+    closer.start();
+    action(SXCommand::About)->trigger(); // returns when the box is closed
+    QVERIFY(aboutText.startsWith(u"About Sonoria\n"_s));
+    for (const QString& part : std::as_const(expected))
+        QVERIFY2(aboutText.contains(part), qPrintable(part + u" in "_s + aboutText));
 
     action(SXCommand::Preferences)->trigger();
     QTRY_VERIFY(m_app->preferenceCltr() && m_app->preferenceCltr()->isVisible());

@@ -45,6 +45,8 @@ private Q_SLOTS:
     void openFromTheDesktopTakesLocalFilesOnly();
     void secondStartRunsAloneWhenNobodyAnswers_data();
     void secondStartRunsAloneWhenNobodyAnswers();
+    void withoutDisplayItPointsToTheTerminalTool_data();
+    void withoutDisplayItPointsToTheTerminalTool();
 
 private:
     // Starts the real program and waits, with this process's event loop running (it answers the
@@ -192,6 +194,49 @@ void TestSingleInstance::secondStartRunsAloneWhenNobodyAnswers() {
     QCOMPARE(exitCode, 0);
     const QImage window(picture);
     QVERIFY2(window.width() > 300 && window.height() > 200, qPrintable(picture));
+}
+
+void TestSingleInstance::withoutDisplayItPointsToTheTerminalTool_data() {
+    QTest::addColumn<QString>("platformVariable");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<int>("exitCode");
+    QTest::addColumn<QString>("errorText");
+    const QString refusal = u"sonoria: cannot open a window (no display). Use sonoria-cli to "
+                            u"convert from a terminal.\n"_s;
+    QTest::newRow("nothing to draw on") << QString() << QStringList() << 1 << refusal;
+    QTest::newRow("files named") << QString() << QStringList{u"a.wav"_s} << 1 << refusal;
+    QTest::newRow("help needs no display")
+        << QString() << QStringList{u"--help"_s} << 0 << QString();
+    // A chosen platform is Qt's business: the start goes on and hands over to this process.
+    QTest::newRow("platform in the environment")
+        << u"offscreen"_s << QStringList() << 0 << QString();
+    QTest::newRow("platform argument")
+        << QString() << QStringList{u"-platform"_s, u"offscreen"_s} << 0 << QString();
+}
+
+void TestSingleInstance::withoutDisplayItPointsToTheTerminalTool() {
+    QFETCH(QString, platformVariable);
+    QFETCH(QStringList, arguments);
+    QFETCH(int, exitCode);
+    QFETCH(QString, errorText);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : {u"DISPLAY"_s, u"WAYLAND_DISPLAY"_s, u"QT_QPA_PLATFORM"_s})
+        environment.remove(name);
+    if (!platformVariable.isEmpty())
+        environment.insert(u"QT_QPA_PLATFORM"_s, platformVariable);
+
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.setWorkingDirectory(m_media.path());
+    program.start(QStringLiteral(SONORIA_APP_PATH), arguments);
+    QVERIFY(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 60000));
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), exitCode);
+    const QString error = QString::fromUtf8(program.readAllStandardError());
+    if (!errorText.isEmpty())
+        QCOMPARE(error, errorText);
+    else
+        QVERIFY2(!error.contains(u"no display"_s), qPrintable(error));
 }
 
 SONORIA_GUI_TEST_MAIN(TestSingleInstance)

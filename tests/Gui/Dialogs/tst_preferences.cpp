@@ -1,7 +1,9 @@
+#include "App/SXServiceRequest.h"
 #include "Gui/Dialogs/SXPreferenceCtlr.h"
 #include "Shared/SXSettings.h"
 #include "support/gui/GuiTestSupport.h"
 
+#include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QSettings>
@@ -29,6 +31,7 @@ void TestPreferences::init() {
     SXSettings::setValue(SXSettingsKey::MaxTask, 5);
     SXSettings::setValue(SXSettingsKey::iTunesFmt, QStringLiteral("AAC"));
     SXSettings::setValue(SXSettingsKey::iTunesPlaylistName, QStringLiteral("Sonoria"));
+    SXSettings::removeKey(SXServiceRequest::kConsentKey);
     SXSettings::synchronize();
 }
 
@@ -62,7 +65,16 @@ void TestPreferences::everyChangeIsStoredAtOnce() {
     QTest::keyClick(playlist, Qt::Key_Backspace);
     QCOMPARE(storedOnDisk(SXSettingsKey::iTunesPlaylistName).toString(), QStringLiteral("Road Mi"));
 
-    // Tab runs through the three controls, and each has a name to read out.
+    // The network consent starts off and is the user's own act.
+    auto* consent = window.findChild<QCheckBox*>(QStringLiteral("chkServiceConsent"));
+    QVERIFY(!consent->isChecked() && !storedOnDisk(SXServiceRequest::kConsentKey).isValid());
+    consent->setFocus();
+    QTest::keyClick(consent, Qt::Key_Space);
+    QCOMPARE(storedOnDisk(SXServiceRequest::kConsentKey).toString(), QStringLiteral("true"));
+    QTest::keyClick(consent, Qt::Key_Space);
+    QCOMPARE(storedOnDisk(SXServiceRequest::kConsentKey).toString(), QStringLiteral("false"));
+
+    // Tab runs through the four controls, and each has a name to read out.
     const QStringList problems = accessibilityProblems(&window);
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
 }

@@ -172,7 +172,6 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     SXWorkspace& ws = m_window->workspace();
     auto* bitRate = child<QComboBox>("popBitRate");
     auto* library = child<QCheckBox>("btnAddToiTunes");
-    auto* original = child<QCheckBox>("btnSaveAsOriginal");
 
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     const SXFormatSettingPtr mp3 = ws.getSelectedTabFormatSetting();
@@ -184,8 +183,8 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     QTest::keyClick(bitRate, Qt::Key_Home);
     const QString lowest = bitRate->currentText();
     QCOMPARE(mp3->biteRate(), lowest);
-    QTest::mouseClick(original, Qt::LeftButton);
-    QCOMPARE(mp3->isSaveAsOriginal(), original->isChecked());
+    QTest::mouseClick(library, Qt::LeftButton);
+    QCOMPARE(mp3->enumAddToiTunes(), library->isChecked() ? 1 : 0);
 
     // A format without a library option hides the box; going back shows the edited values.
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("Ringtone")));
@@ -194,7 +193,7 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     QVERIFY(library->isVisible());
     QCOMPARE(bitRate->currentText(), lowest);
-    QCOMPARE(original->isChecked(), mp3->isSaveAsOriginal());
+    QCOMPARE(library->isChecked(), mp3->enumAddToiTunes() == 1);
 }
 
 void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
