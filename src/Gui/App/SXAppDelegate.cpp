@@ -23,13 +23,7 @@ SXAppDelegate::SXAppDelegate(QObject* parent)
     : QObject(parent)
     , m_menus(new SXMenuHandleCltr(this)) {
     connect(m_menus, &SXMenuHandleCltr::commandTriggered, this, &SXAppDelegate::perform);
-    connect(m_menus, &SXMenuHandleCltr::menuAboutToShow, this, [this] { validateMenus(true); });
-    connect(m_menus, &SXMenuHandleCltr::beepRequested, this, [this] {
-        if (SXMainAppController* key = keyWindowController())
-            key->presenter().beep();
-        else
-            QApplication::beep();
-    });
+    connect(m_menus, &SXMenuHandleCltr::menuAboutToShow, this, [this] { validateMenus(); });
 }
 
 SXAppDelegate::~SXAppDelegate() {
@@ -179,9 +173,9 @@ void SXAppDelegate::configerMenuForState(bool open) {
     validateMenus();
 }
 
-void SXAppDelegate::validateMenus(bool menuOpening) {
+void SXAppDelegate::validateMenus() {
     SXWorkspace* primary = m_coreMainWndCtlr ? &m_coreMainWndCtlr->workspace() : nullptr;
     SXMainAppController* keyWindow = keyWindowController();
     SXWorkspace* key = keyWindow ? &keyWindow->workspace() : nullptr;
-    m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen), menuOpening);
+    m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen));
 }

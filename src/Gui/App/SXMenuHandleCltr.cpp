@@ -30,9 +30,15 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::Clear, tr("Clear"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
     make(SXCommand::NextRow, tr("Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
     make(SXCommand::PreviousRow, tr("Previous File"), QKeySequence(Qt::ALT | Qt::Key_Up));
-    make(SXCommand::NextContainer, tr("Next Container"), QKeySequence(Qt::CTRL | Qt::Key_Tab));
+    // Containers cycle as tabs do everywhere: Ctrl+Tab and Ctrl+Page Down forward, back with
+    // Shift or Page Up. With Shift held, X11 sends Tab as Backtab; both are bound so the keys
+    // work whichever the keyboard layer delivers.
+    make(SXCommand::NextContainer, tr("Next Container"),
+         {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)});
     make(SXCommand::PreviousContainer, tr("Previous Container"),
-         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab));
+         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab),
+          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+          QKeySequence(Qt::CTRL | Qt::Key_PageUp)});
     make(SXCommand::TagEditor, tr("Edit Tags…"), QKeySequence(Qt::CTRL | Qt::Key_E));
     make(SXCommand::FileInfo, tr("File Information"), QKeySequence(Qt::CTRL | Qt::Key_I));
     make(SXCommand::Start, tr("Start"), QKeySequence(Qt::CTRL | Qt::Key_Return));
@@ -44,8 +50,13 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
 
 QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
                                 const QKeySequence& shortcut) {
+    return make(command, text, QList<QKeySequence>{shortcut});
+}
+
+QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
+                                const QList<QKeySequence>& shortcuts) {
     auto* action = new QAction(text, this);
-    action->setShortcut(shortcut);
+    action->setShortcuts(shortcuts);
     action->setShortcutContext(Qt::WindowShortcut);
     connect(action, &QAction::triggered, this,
             [this, command] { Q_EMIT commandTriggered(command); });
@@ -55,7 +66,7 @@ QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
 
 void SXMenuHandleCltr::installInto(QMainWindow& window) {
     QMenuBar* bar = window.menuBar();
-    addMenu(bar, QStringLiteral("File"),
+    addMenu(bar, tr("&File"),
             {SXCommand::NewContainer, SXCommand::Open, SXCommand::NewFormat, SXCommand::CloseTab,
              SXCommand::Preferences, SXCommand::Quit});
     addMenu(bar, tr("&List"),
@@ -81,14 +92,8 @@ void SXMenuHandleCltr::addMenu(QMenuBar* bar, const QString& title,
     connect(menu, &QMenu::aboutToShow, this, &SXMenuHandleCltr::menuAboutToShow);
 }
 
-void SXMenuHandleCltr::validate(const SXCommandContext& context, bool menuOpening) {
-    bool beeped = false;
-    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
-        const SXCommandAnswer answer = sxValidateMenuCommand(it.key(), context);
-        it.value()->setEnabled(answer.enabled);
-        if (answer.beep && menuOpening && !beeped) {
-            Q_EMIT beepRequested();
-            beeped = true;
-        }
-    }
+void SXMenuHandleCltr::validate(const SXCommandContext& context) {
+    // Validation only greys items out: a menu that opens never beeps, a refused command does.
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it)
+        it.value()->setEnabled(sxValidateMenuCommand(it.key(), context).enabled);
 }

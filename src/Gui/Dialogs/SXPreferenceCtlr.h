@@ -6,7 +6,8 @@ class QComboBox;
 class QLineEdit;
 
 // The preferences: how many conversions run at once, the music library's format and the
-// playlist's name. A small window of its own; every change is stored at once, there is no OK.
+// playlist's name. A small window of its own; every change is stored at once, there is no OK,
+// only Close (also Escape and Ctrl+W).
 class SXPreferenceCtlr final : public QWidget {
     Q_OBJECT
 public:

@@ -6,9 +6,14 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QMultiMap>
 #include <QTabBar>
+#include <QTabWidget>
 
 namespace SonoriaGuiTest {
 
@@ -91,6 +96,42 @@ QStringList accessibilityProblems(QWidget* root) {
             problems.append(QStringLiteral("Tab never reaches \"%1\"").arg(nameOf(widget)));
     }
     return problems;
+}
+
+QStringList mnemonicClashes(QWidget* root) {
+    QMultiMap<QKeySequence, QString> owners;
+    const auto note = [&owners](const QString& text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty())
+            owners.insert(key, QString(text).remove(QLatin1Char('&')));
+    };
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.prepend(root);
+    for (QWidget* widget : std::as_const(widgets)) {
+        if (!widget->isVisibleTo(root) && widget != root)
+            continue;
+        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            note(button->text());
+        else if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
+            note(label->text());
+        else if (auto* box = qobject_cast<QGroupBox*>(widget))
+            note(box->title());
+        else if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
+            for (QAction* menu : bar->actions())
+                note(menu->text());
+        } else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                note(tabs->tabText(i));
+        }
+    }
+    QStringList clashes;
+    for (const QKeySequence& key : owners.uniqueKeys()) {
+        const QStringList texts = owners.values(key);
+        if (texts.size() > 1)
+            clashes.append(key.toString() + QStringLiteral(": ") +
+                           texts.join(QStringLiteral(", ")));
+    }
+    return clashes;
 }
 
 } // namespace SonoriaGuiTest
