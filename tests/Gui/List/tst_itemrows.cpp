@@ -257,7 +257,7 @@ void TestItemRows::rowMenuFollowsTheState() {
     QCOMPARE(menuEntries(), entries);
     QCOMPARE(editor.count(), 0);
     QCOMPARE(workspace.selectedRows(), QList<int>{4});
-    SonoriaGuiTest::grab(m_window.get(),
+    SonoriaGuiTest::grab(m_view->rowMenu().menu(),
                          u"row-menu-"_s + QString::fromLatin1(QTest::currentDataTag()));
     QTest::keyClick(m_view->rowMenu().menu(), Qt::Key_Escape);
     QTRY_VERIFY(!m_view->rowMenu().menu()->isVisible());
