@@ -268,7 +268,7 @@ void TestWorkspaceWindow::tabBadgesMakeRoomForTheirCounts() {
         option.shape = tabs.shape();
         option.documentMode = tabs.documentMode();
         option.leftButtonSize = badge->size();
-        if (close && close->isVisible())
+        if (close) // a hidden close button keeps its room, as QTabBar paints it
             option.rightButtonSize = close->size();
         const QRect box = tabs.style()->subElementRect(QStyle::SE_TabBarTabText, &option, &tabs);
         const QSize textSize(tabs.fontMetrics().horizontalAdvance(option.text), box.height());
