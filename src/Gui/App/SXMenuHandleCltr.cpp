@@ -31,8 +31,8 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::NextRow, tr("Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
     make(SXCommand::PreviousRow, tr("Previous File"), QKeySequence(Qt::ALT | Qt::Key_Up));
     // Containers cycle as tabs do everywhere: Ctrl+Tab and Ctrl+Page Down forward, back with
-    // Shift or Page Up. With Shift held, X11 sends Tab as Backtab; both are bound so the keys
-    // work whichever the keyboard layer delivers.
+    // Shift or Page Up. With Shift held the window system delivers Tab as Backtab; both are
+    // bound, so the keys work whichever arrives.
     make(SXCommand::NextContainer, tr("Next Container"),
          {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)});
     make(SXCommand::PreviousContainer, tr("Previous Container"),

@@ -98,14 +98,10 @@ void SXItemListView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
-    // Shift+F10 is the Menu key of keyboards without one; the platform may also send the Menu
-    // key as a context menu event, which then finds the menu already open.
+    // Shift+F10 is the Menu key of keyboards without one.
     if (event->key() == Qt::Key_Menu ||
         (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)) {
-        if (!m_rowMenu->menu()->isVisible()) {
-            const QRect row = visualRect(currentIndex());
-            popupRowMenu(currentIndex(), viewport()->mapToGlobal(row.bottomLeft()));
-        }
+        popupRowMenuFromKeyboard();
         event->accept();
         return;
     }
@@ -120,8 +116,8 @@ void SXItemListView::keyPressEvent(QKeyEvent* event) {
 
 void SXItemListView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton) {
-        // The row under the pointer joins nothing: a right-click on a row outside the selection
-        // selects that row alone, as the context menu that follows acts on the selection.
+        // A right-click on a row outside the selection selects that row alone: the context
+        // menu that follows acts on the selection.
         const QModelIndex index = indexAt(event->position().toPoint());
         if (index.isValid() && !selectionModel()->isSelected(index))
             selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
@@ -156,11 +152,18 @@ void SXItemListView::mouseDoubleClickEvent(QMouseEvent* event) {
 void SXItemListView::contextMenuEvent(QContextMenuEvent* event) {
     if (event->reason() == QContextMenuEvent::Mouse) {
         popupRowMenu(indexAt(event->pos()), event->globalPos());
-    } else if (!m_rowMenu->menu()->isVisible()) {
-        const QRect row = visualRect(currentIndex());
-        popupRowMenu(currentIndex(), viewport()->mapToGlobal(row.bottomLeft()));
+    } else {
+        popupRowMenuFromKeyboard();
     }
     event->accept();
+}
+
+void SXItemListView::popupRowMenuFromKeyboard() {
+    // The platform may send the Menu key both as a key and as a context menu event.
+    if (m_rowMenu->menu()->isVisible())
+        return;
+    const QRect row = visualRect(currentIndex());
+    popupRowMenu(currentIndex(), viewport()->mapToGlobal(row.bottomLeft()));
 }
 
 void SXItemListView::popupRowMenu(const QModelIndex& index, const QPoint& globalPos) {

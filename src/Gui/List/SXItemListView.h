@@ -46,6 +46,7 @@ private:
     void setHoveredRow(int row);
     bool refuseDrag(QDropEvent* event);
     void popupRowMenu(const QModelIndex& index, const QPoint& globalPos);
+    void popupRowMenuFromKeyboard();
 
     SXWorkspaceScheduler& m_workspace;
     SXItemListModel* m_model = nullptr;
