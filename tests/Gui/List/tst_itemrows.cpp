@@ -255,6 +255,7 @@ void TestItemRows::rowMenuFollowsTheState() {
     QTest::mouseClick(m_window->windowHandle(), Qt::RightButton, {},
                       m_view->viewport()->mapTo(m_window.get(), centreOf(4)));
     QCOMPARE(menuEntries(), entries);
+    QCOMPARE(SonoriaGuiTest::mnemonicClashes(m_view->rowMenu().menu()), QStringList());
     QCOMPARE(editor.count(), 0);
     QCOMPARE(workspace.selectedRows(), QList<int>{4});
     SonoriaGuiTest::grab(m_view->rowMenu().menu(),

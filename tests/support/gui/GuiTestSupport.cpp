@@ -9,6 +9,7 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMessageBox>
 #include <QMultiMap>
@@ -99,6 +100,7 @@ QStringList accessibilityProblems(QWidget* root) {
 }
 
 QStringList mnemonicClashes(QWidget* root) {
+    QStringList clashes;
     QMultiMap<QKeySequence, QString> owners;
     const auto note = [&owners](const QString& text) {
         const QKeySequence key = QKeySequence::mnemonic(text);
@@ -117,14 +119,21 @@ QStringList mnemonicClashes(QWidget* root) {
         else if (auto* box = qobject_cast<QGroupBox*>(widget))
             note(box->title());
         else if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
-            for (QAction* menu : bar->actions())
+            for (QAction* menu : bar->actions()) {
                 note(menu->text());
+                // Each menu's items are a scope of their own while it is open.
+                if (menu->menu())
+                    clashes.append(mnemonicClashes(menu->menu()));
+            }
         } else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
             for (int i = 0; i < tabs->count(); ++i)
                 note(tabs->tabText(i));
         }
     }
-    QStringList clashes;
+    if (auto* menu = qobject_cast<QMenu*>(root)) {
+        for (QAction* item : menu->actions())
+            note(item->text());
+    }
     for (const QKeySequence& key : owners.uniqueKeys()) {
         const QStringList texts = owners.values(key);
         if (texts.size() > 1)
