@@ -94,3 +94,29 @@ bool sxSettingPanelEnabled(int state) {
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer) {
     return state != AppStateConverting && itemsInSelectedContainer > 0;
 }
+
+SXRowFacts SXRowFacts::of(const SXWorkspacePreview& workspace, const SXMusicInfoPtr& item) {
+    SXRowFacts facts;
+    facts.state = workspace.enumAppState();
+    facts.progress = item ? item->dConvertProgress() : SXProgress::Waiting;
+    facts.previewing = item && workspace.isPlayingMusic(item);
+    facts.previewPaused = workspace.isPreviewPaused();
+    return facts;
+}
+
+QList<SXRowMenuEntry> sxRowMenu(const SXRowFacts& row) {
+    if (row.state == AppStateConverting) {
+        const bool ended = row.progress == SXProgress::Done || row.progress == SXProgress::Failed ||
+                           row.progress == SXProgress::Canceled;
+        return {{SXRowCommand::CancelConversion, !ended}, {SXRowCommand::ShowInFiles, true}};
+    }
+    const bool free = row.state == AppStateIdle || row.state == AppStatePlaying;
+    SXRowCommand play = SXRowCommand::Play;
+    if (row.previewing && row.state == AppStatePlaying)
+        play = row.previewPaused ? SXRowCommand::Resume : SXRowCommand::Pause;
+    return {{play, free},
+            {SXRowCommand::EditTags, free},
+            {SXRowCommand::FileInfo, free},
+            {SXRowCommand::ShowInFiles, true},
+            {SXRowCommand::Remove, free}};
+}

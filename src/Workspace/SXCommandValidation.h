@@ -1,8 +1,12 @@
 #pragma once
 
+#include "Model/SXMusicInfo.h"
+
+#include <QList>
 #include <QString>
 
 class SXWorkspace;
+class SXWorkspacePreview;
 
 // The commands of the main menu and the toolbar. Menus, toolbar buttons and their shortcuts
 // share one answer, so a shortcut can never do what its greyed-out item would not.
@@ -47,12 +51,12 @@ struct SXCommandContext {
 
 struct SXCommandAnswer {
     bool enabled = true;
-    bool beep = false; // validating this item sounds the system beep
+    bool beep = false; // choosing the refused item sounds the beep (never its menu opening)
 };
 
 // A menu item: the main menu's validation, then the File menu's open/closed rule ("New
 // Container" only while the primary window is closed; "Open…" and "New Format" only while it is
-// open) and, for "New Format", the primary window being key. The beep is for a menu that opens.
+// open) and, for "New Format", the primary window being key.
 SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext& context);
 
 // The image, label and tool tip of a toolbar item in a state; only Start changes with it.
@@ -73,3 +77,37 @@ SXToolbarLook sxStartToolbarLook(int state);
 // whose items are converting.
 bool sxSettingPanelEnabled(int state);
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer);
+
+// The entries of a row's context menu. Play, Pause and Resume are one entry whose meaning
+// follows the preview; Cancel This Conversion is the row's share of Stop.
+enum class SXRowCommand {
+    Play,
+    Pause,
+    Resume,
+    EditTags,
+    FileInfo,
+    ShowInFiles,
+    Remove,
+    CancelConversion,
+};
+
+// What a row's context menu depends on: the window's state, the row's conversion progress
+// (an SXProgress value or a percentage) and whether the preview is on this row.
+struct SXRowFacts {
+    int state = 0;
+    double progress = 0;
+    bool previewing = false;
+    bool previewPaused = false;
+
+    static SXRowFacts of(const SXWorkspacePreview& workspace, const SXMusicInfoPtr& item);
+};
+
+struct SXRowMenuEntry {
+    SXRowCommand command;
+    bool enabled = true;
+};
+
+// The context menu of a row, in order. During a run it offers only what leaves the list whole:
+// cancelling the row's own conversion while it is waiting or converting, and showing the file.
+// Outside a run, every entry but Show in Files waits while files are being added.
+QList<SXRowMenuEntry> sxRowMenu(const SXRowFacts& row);

@@ -25,6 +25,8 @@ private Q_SLOTS:
     void menuCommandsFollowTheState_data();
     void menuCommandsFollowTheState();
     void toolbarFollowsTheRun();
+    void rowMenuFollowsTheRowAndTheRun_data();
+    void rowMenuFollowsTheRowAndTheRun();
     void removingFollowsTheRunAndTheList_data();
     void removingFollowsTheRunAndTheList();
     void chooserResultSharesListsAndKeepsNoLibrary();
@@ -164,6 +166,53 @@ void TestWindowDecisions::menuCommandsFollowTheState() {
     enabled.sort();
     QCOMPARE(got, enabled);
     QCOMPARE(beeps, beeping);
+}
+
+void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<double>("progress");
+    QTest::addColumn<bool>("previewing");
+    QTest::addColumn<bool>("paused");
+    QTest::addColumn<QString>("menu"); // entries in order, "-" before a disabled one
+    const QString rest = u" EditTags FileInfo ShowInFiles Remove"_s;
+    QTest::newRow("idle") << int(AppStateIdle) << SXProgress::Waiting << false << false
+                          << u"Play"_s + rest;
+    QTest::newRow("this row plays")
+        << int(AppStatePlaying) << 0.0 << true << false << u"Pause"_s + rest;
+    QTest::newRow("this row paused")
+        << int(AppStatePlaying) << 0.0 << true << true << u"Resume"_s + rest;
+    QTest::newRow("another row plays")
+        << int(AppStatePlaying) << 0.0 << false << false << u"Play"_s + rest;
+    QTest::newRow("adding files") << int(AppStateLoading) << 0.0 << false << false
+                                  << u"-Play -EditTags -FileInfo ShowInFiles -Remove"_s;
+    QTest::newRow("run, waiting") << int(AppStateConverting) << SXProgress::Waiting << false
+                                  << false << u"CancelConversion ShowInFiles"_s;
+    QTest::newRow("run, converting")
+        << int(AppStateConverting) << 42.0 << false << false << u"CancelConversion ShowInFiles"_s;
+    for (double ended : {SXProgress::Done, SXProgress::Failed, SXProgress::Canceled})
+        QTest::addRow("run, ended %g", ended) << int(AppStateConverting) << ended << false << false
+                                              << u"-CancelConversion ShowInFiles"_s;
+}
+
+void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun() {
+    QFETCH(int, state);
+    QFETCH(double, progress);
+    QFETCH(bool, previewing);
+    QFETCH(bool, paused);
+    QFETCH(QString, menu);
+    static const QMap<SXRowCommand, QString> names{
+        {SXRowCommand::Play, u"Play"_s},
+        {SXRowCommand::Pause, u"Pause"_s},
+        {SXRowCommand::Resume, u"Resume"_s},
+        {SXRowCommand::EditTags, u"EditTags"_s},
+        {SXRowCommand::FileInfo, u"FileInfo"_s},
+        {SXRowCommand::ShowInFiles, u"ShowInFiles"_s},
+        {SXRowCommand::Remove, u"Remove"_s},
+        {SXRowCommand::CancelConversion, u"CancelConversion"_s}};
+    QStringList got;
+    for (const SXRowMenuEntry& entry : sxRowMenu({state, progress, previewing, paused}))
+        got.append((entry.enabled ? u""_s : u"-"_s) + names.value(entry.command));
+    QCOMPARE(got.join(u' '), menu);
 }
 
 void TestWindowDecisions::toolbarFollowsTheRun() {

@@ -25,13 +25,7 @@ SXAppDelegate::SXAppDelegate(QObject* parent)
     : QObject(parent)
     , m_menus(new SXMenuHandleCltr(this)) {
     connect(m_menus, &SXMenuHandleCltr::commandTriggered, this, &SXAppDelegate::perform);
-    connect(m_menus, &SXMenuHandleCltr::menuAboutToShow, this, [this] { validateMenus(true); });
-    connect(m_menus, &SXMenuHandleCltr::beepRequested, this, [this] {
-        if (SXMainAppController* key = keyWindowController())
-            key->presenter().beep();
-        else
-            QApplication::beep();
-    });
+    connect(m_menus, &SXMenuHandleCltr::menuAboutToShow, this, [this] { validateMenus(); });
     // The session's end: nothing may be left converting or half-written. At the commit request
     // the runs are stopped but the program stays (the session manager ends it, or the logout
     // is cancelled); at the end of the event loop (any way of quitting) they are stopped too.
@@ -219,9 +213,9 @@ void SXAppDelegate::configerMenuForState(bool open) {
     validateMenus();
 }
 
-void SXAppDelegate::validateMenus(bool menuOpening) {
+void SXAppDelegate::validateMenus() {
     SXWorkspace* primary = m_coreMainWndCtlr ? &m_coreMainWndCtlr->workspace() : nullptr;
     SXMainAppController* keyWindow = keyWindowController();
     SXWorkspace* key = keyWindow ? &keyWindow->workspace() : nullptr;
-    m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen), menuOpening);
+    m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen));
 }

@@ -55,8 +55,8 @@ public:
     void clickPreference();
     void configerMenuForState(bool open);
     bool isCoreControllerIsKeyWindow() const;
-    // Validates every menu item now; beeps only when a menu is opening.
-    void validateMenus(bool menuOpening = false);
+    // Validates every menu item now; it never beeps.
+    void validateMenus();
 
 private:
     void newWindow();

@@ -18,35 +18,46 @@ QKeySequence standardOr(QKeySequence::StandardKey key, QKeyCombination fallback)
 
 SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     : QObject(parent) {
-    make(SXCommand::NewContainer, QStringLiteral("New Container"),
+    make(SXCommand::NewContainer, tr("&New Container"),
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
-    make(SXCommand::Open, QStringLiteral("Open…"), QKeySequence::Open);
-    make(SXCommand::NewFormat, QStringLiteral("New Format"), QKeySequence(Qt::CTRL | Qt::Key_T));
-    make(SXCommand::CloseTab, tr("Close Container"), QKeySequence(Qt::CTRL | Qt::Key_W));
-    make(SXCommand::Preferences, tr("Preferences…"),
+    make(SXCommand::Open, tr("&Open…"), QKeySequence::Open);
+    make(SXCommand::NewFormat, tr("New &Format"), QKeySequence(Qt::CTRL | Qt::Key_T));
+    make(SXCommand::CloseTab, tr("&Close Container"), QKeySequence(Qt::CTRL | Qt::Key_W));
+    make(SXCommand::Preferences, tr("&Preferences…"),
          standardOr(QKeySequence::Preferences, Qt::CTRL | Qt::Key_Comma));
-    make(SXCommand::Quit, tr("Quit"), standardOr(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q));
-    make(SXCommand::Delete, tr("Delete"), QKeySequence::Delete);
-    make(SXCommand::Clear, tr("Clear"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
-    make(SXCommand::NextRow, tr("Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
-    make(SXCommand::PreviousRow, tr("Previous File"), QKeySequence(Qt::ALT | Qt::Key_Up));
-    make(SXCommand::NextContainer, tr("Next Container"), QKeySequence(Qt::CTRL | Qt::Key_Tab));
-    make(SXCommand::PreviousContainer, tr("Previous Container"),
-         QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab));
-    make(SXCommand::TagEditor, tr("Edit Tags…"), QKeySequence(Qt::CTRL | Qt::Key_E));
-    make(SXCommand::FileInfo, tr("File Information"), QKeySequence(Qt::CTRL | Qt::Key_I));
-    make(SXCommand::Start, tr("Start"), QKeySequence(Qt::CTRL | Qt::Key_Return));
-    make(SXCommand::Stop, tr("Stop"), QKeySequence(Qt::CTRL | Qt::Key_Period));
-    make(SXCommand::Help, tr("Sonoria Help"), standardOr(QKeySequence::HelpContents, Qt::Key_F1));
-    make(SXCommand::Feedback, tr("Send Feedback…"), QKeySequence());
-    make(SXCommand::Website, tr("Sonoria Website"), QKeySequence());
-    make(SXCommand::About, tr("About Sonoria"), QKeySequence());
+    make(SXCommand::Quit, tr("&Quit"), standardOr(QKeySequence::Quit, Qt::CTRL | Qt::Key_Q));
+    make(SXCommand::Delete, tr("&Delete"), QKeySequence::Delete);
+    make(SXCommand::Clear, tr("C&lear"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backspace));
+    make(SXCommand::NextRow, tr("&Next File"), QKeySequence(Qt::ALT | Qt::Key_Down));
+    make(SXCommand::PreviousRow, tr("&Previous File"), QKeySequence(Qt::ALT | Qt::Key_Up));
+    // Containers cycle as tabs do everywhere: Ctrl+Tab and Ctrl+Page Down forward, back with
+    // Shift or Page Up. With Shift held the window system delivers Tab as Backtab; both are
+    // bound, so the keys work whichever arrives.
+    make(SXCommand::NextContainer, tr("Next &Container"),
+         {QKeySequence(Qt::CTRL | Qt::Key_Tab), QKeySequence(Qt::CTRL | Qt::Key_PageDown)});
+    make(SXCommand::PreviousContainer, tr("Previous Conta&iner"),
+         {QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Backtab),
+          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Tab),
+          QKeySequence(Qt::CTRL | Qt::Key_PageUp)});
+    make(SXCommand::TagEditor, tr("Edit &Tags…"), QKeySequence(Qt::CTRL | Qt::Key_E));
+    make(SXCommand::FileInfo, tr("File Inf&ormation"), QKeySequence(Qt::CTRL | Qt::Key_I));
+    make(SXCommand::Start, tr("&Start"), QKeySequence(Qt::CTRL | Qt::Key_Return));
+    make(SXCommand::Stop, tr("S&top"), QKeySequence(Qt::CTRL | Qt::Key_Period));
+    make(SXCommand::Help, tr("Sonoria &Help"), standardOr(QKeySequence::HelpContents, Qt::Key_F1));
+    make(SXCommand::Feedback, tr("Send &Feedback…"), QKeySequence());
+    make(SXCommand::Website, tr("Sonoria &Website"), QKeySequence());
+    make(SXCommand::About, tr("&About Sonoria"), QKeySequence());
 }
 
 QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
                                 const QKeySequence& shortcut) {
+    return make(command, text, QList<QKeySequence>{shortcut});
+}
+
+QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
+                                const QList<QKeySequence>& shortcuts) {
     auto* action = new QAction(text, this);
-    action->setShortcut(shortcut);
+    action->setShortcuts(shortcuts);
     action->setShortcutContext(Qt::WindowShortcut);
     connect(action, &QAction::triggered, this,
             [this, command] { Q_EMIT commandTriggered(command); });
@@ -56,7 +67,7 @@ QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
 
 void SXMenuHandleCltr::installInto(QMainWindow& window) {
     QMenuBar* bar = window.menuBar();
-    addMenu(bar, QStringLiteral("File"),
+    addMenu(bar, tr("&File"),
             {SXCommand::NewContainer, SXCommand::Open, SXCommand::NewFormat, SXCommand::CloseTab,
              SXCommand::Preferences, SXCommand::Quit});
     addMenu(bar, tr("&List"),
@@ -83,14 +94,8 @@ void SXMenuHandleCltr::addMenu(QMenuBar* bar, const QString& title,
     connect(menu, &QMenu::aboutToShow, this, &SXMenuHandleCltr::menuAboutToShow);
 }
 
-void SXMenuHandleCltr::validate(const SXCommandContext& context, bool menuOpening) {
-    bool beeped = false;
-    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it) {
-        const SXCommandAnswer answer = sxValidateMenuCommand(it.key(), context);
-        it.value()->setEnabled(answer.enabled);
-        if (answer.beep && menuOpening && !beeped) {
-            Q_EMIT beepRequested();
-            beeped = true;
-        }
-    }
+void SXMenuHandleCltr::validate(const SXCommandContext& context) {
+    // Validation only greys items out: a menu that opens never beeps, a refused command does.
+    for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it)
+        it.value()->setEnabled(sxValidateMenuCommand(it.key(), context).enabled);
 }

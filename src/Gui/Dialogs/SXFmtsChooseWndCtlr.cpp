@@ -23,7 +23,7 @@ SXFmtsChooseWndCtlr::SXFmtsChooseWndCtlr(const QList<SXFormatSettingPtr>& leftFm
     popFormat = addPopUp(form, tr("&Format:"), QStringLiteral("popFormat"));
     popBitRate = addPopUp(form, tr("&Bit rate:"), QStringLiteral("popBitRate"));
     popSmpRate = addPopUp(form, tr("&Sample rate:"), QStringLiteral("popSmpRate"));
-    popChanel = addPopUp(form, tr("&Channels:"), QStringLiteral("popChanel"));
+    popChanel = addPopUp(form, tr("C&hannels:"), QStringLiteral("popChanel"));
     btnAddToiTunes = new QCheckBox(tr("Add to the music &library"), this);
     btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
     form->addRow(QString(), btnAddToiTunes);

@@ -4,9 +4,11 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QDialogButtonBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QShortcut>
 #include <QSignalBlocker>
 
 namespace {
@@ -33,7 +35,7 @@ SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
     pbtniTunesFmt->addItems(SXPreferences::iTunesFmtTitles());
     fdPlaylistName = new QLineEdit(this);
     fdPlaylistName->setObjectName(QStringLiteral("fdPlaylistName"));
-    form->addRow(caption(tr("&Conversions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
+    form->addRow(caption(tr("Con&versions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
     form->addRow(caption(tr("Music &library format:"), pbtniTunesFmt, this), pbtniTunesFmt);
     form->addRow(caption(tr("&Playlist name:"), fdPlaylistName, this), fdPlaylistName);
     chkServiceConsent =
@@ -48,6 +50,17 @@ SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
     chkServiceConsent->setToolTip(consentText->text());
     form->addRow(chkServiceConsent);
     form->addRow(consentText);
+    // Every change is already stored: closing is the only thing left to do, by the button,
+    // Escape or Ctrl+W as in any small settings window.
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
+    buttons->setObjectName(QStringLiteral("buttons"));
+    form->addRow(buttons);
+    connect(buttons, &QDialogButtonBox::rejected, this, &QWidget::close);
+    for (const QKeySequence& keys :
+         {QKeySequence(Qt::Key_Escape), QKeySequence(Qt::CTRL | Qt::Key_W)}) {
+        auto* shortcut = new QShortcut(keys, this);
+        connect(shortcut, &QShortcut::activated, this, &QWidget::close);
+    }
     windowDidLoad();
 
     connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::clickMaxTasks);

@@ -7,8 +7,8 @@ class QComboBox;
 class QLineEdit;
 
 // The preferences: how many conversions run at once, the music library's format, the
-// playlist's name and the consent to the start-up requests. A small window of its own; every change
-// is stored at once, there is no OK.
+// playlist's name and the consent to the start-up requests. A small window of its own; every
+// change is stored at once, there is no OK, only Close (also Escape and Ctrl+W).
 class SXPreferenceCtlr final : public QWidget {
     Q_OBJECT
 public:

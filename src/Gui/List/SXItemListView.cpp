@@ -2,9 +2,13 @@
 
 #include "Gui/List/SXItemListModel.h"
 #include "Gui/List/SXItemRowDelegate.h"
+#include "Gui/List/SXRowContextMenu.h"
 #include "Workspace/SXWorkspaceScheduler.h"
 
+#include <QContextMenuEvent>
 #include <QKeyEvent>
+#include <QMenu>
+#include <QPainter>
 #include <QScopedValueRollback>
 
 SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
@@ -27,6 +31,7 @@ SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
     m_delegate = new SXItemRowDelegate(workspace, this);
     setModel(m_model);
     setItemDelegate(m_delegate);
+    m_rowMenu = new SXRowContextMenu(workspace, *this);
 
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SXItemListView::reportSelection);
@@ -93,6 +98,13 @@ void SXItemListView::keyPressEvent(QKeyEvent* event) {
         event->accept();
         return;
     }
+    // Shift+F10 is the Menu key of keyboards without one.
+    if (event->key() == Qt::Key_Menu ||
+        (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier)) {
+        popupRowMenuFromKeyboard();
+        event->accept();
+        return;
+    }
     if ((event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
         event->modifiers() == Qt::NoModifier) {
         Q_EMIT startRequested();
@@ -104,9 +116,11 @@ void SXItemListView::keyPressEvent(QKeyEvent* event) {
 
 void SXItemListView::mousePressEvent(QMouseEvent* event) {
     if (event->button() == Qt::RightButton) {
-        // The workspace decides: select and edit the tags, cancel a conversion, or nothing.
-        if (const QModelIndex index = indexAt(event->position().toPoint()); index.isValid())
-            m_workspace.didMyListViewCellRightButtonClick(m_model->itemAt(index.row()));
+        // A right-click on a row outside the selection selects that row alone: the context
+        // menu that follows acts on the selection.
+        const QModelIndex index = indexAt(event->position().toPoint());
+        if (index.isValid() && !selectionModel()->isSelected(index))
+            selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
         event->accept();
         return;
     }
@@ -133,6 +147,45 @@ void SXItemListView::mouseDoubleClickEvent(QMouseEvent* event) {
         }
     }
     QListView::mouseDoubleClickEvent(event);
+}
+
+void SXItemListView::contextMenuEvent(QContextMenuEvent* event) {
+    if (event->reason() == QContextMenuEvent::Mouse) {
+        popupRowMenu(indexAt(event->pos()), event->globalPos());
+    } else {
+        popupRowMenuFromKeyboard();
+    }
+    event->accept();
+}
+
+void SXItemListView::popupRowMenuFromKeyboard() {
+    // The platform may send the Menu key both as a key and as a context menu event.
+    if (m_rowMenu->menu()->isVisible())
+        return;
+    const QRect row = visualRect(currentIndex());
+    popupRowMenu(currentIndex(), viewport()->mapToGlobal(row.bottomLeft()));
+}
+
+void SXItemListView::popupRowMenu(const QModelIndex& index, const QPoint& globalPos) {
+    if (!index.isValid())
+        return;
+    if (!selectionModel()->isSelected(index))
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::ClearAndSelect);
+    m_rowMenu->popup(m_model->itemAt(index.row()), globalPos);
+}
+
+void SXItemListView::paintEvent(QPaintEvent* event) {
+    QListView::paintEvent(event);
+    if (m_model->rowCount() > 0)
+        return;
+    // A quiet hint in the empty list: what to do first.
+    QPainter painter(viewport());
+    QColor hint = palette().color(QPalette::Text);
+    hint.setAlphaF(0.45);
+    painter.setPen(hint);
+    painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24),
+                     Qt::AlignCenter | Qt::TextWordWrap,
+                     tr("Drop audio files here, or press Add Files"));
 }
 
 bool SXItemListView::viewportEvent(QEvent* event) {

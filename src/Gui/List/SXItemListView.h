@@ -4,6 +4,7 @@
 
 class SXItemListModel;
 class SXItemRowDelegate;
+class SXRowContextMenu;
 class SXWorkspaceScheduler;
 
 // The item list of the selected container: one view for every container of the window, rows
@@ -11,8 +12,9 @@ class SXWorkspaceScheduler;
 // shows it and reports every change the user makes, so a list with rows never has an empty one.
 // Gestures: Delete removes the selection (refused by the workspace during a run), Enter asks
 // for a run (startRequested), a double-click or the play button asks the preview to play, a
-// right-click or the right button go to the workspace's row-button rule, and rows drag within
-// the list, onto tabs, into other windows and out to file managers.
+// right-click, the Menu key or Shift+F10 open the row's context menu, the right button goes to
+// the workspace's row-button rule, and rows drag within the list, onto tabs, into other windows
+// and out to file managers. An empty list says how to fill it.
 class SXItemListView final : public QListView {
     Q_OBJECT
 public:
@@ -20,6 +22,7 @@ public:
 
     SXItemListModel& itemModel() const { return *m_model; }
     SXItemRowDelegate& rowDelegate() const { return *m_delegate; }
+    SXRowContextMenu& rowMenu() const { return *m_rowMenu; }
 
 Q_SIGNALS:
     // Enter or Return on the list: the window starts a run as its Start item would.
@@ -30,6 +33,8 @@ protected:
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
     void dragMoveEvent(QDragMoveEvent* event) override;
@@ -40,9 +45,12 @@ private:
     void reportSelection();
     void setHoveredRow(int row);
     bool refuseDrag(QDropEvent* event);
+    void popupRowMenu(const QModelIndex& index, const QPoint& globalPos);
+    void popupRowMenuFromKeyboard();
 
     SXWorkspaceScheduler& m_workspace;
     SXItemListModel* m_model = nullptr;
     SXItemRowDelegate* m_delegate = nullptr;
+    SXRowContextMenu* m_rowMenu = nullptr;
     bool m_showingSelection = false;
 };

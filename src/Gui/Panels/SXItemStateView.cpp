@@ -6,8 +6,24 @@
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
+#include <QProxyStyle>
 #include <QSlider>
 #include <QToolButton>
+
+namespace {
+// A click on the play position's track goes to that point, not a page towards it: the track is
+// a time line, and a page of it is an arbitrary jump.
+class ClickToSeekStyle final : public QProxyStyle {
+public:
+    using QProxyStyle::QProxyStyle;
+    int styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                  QStyleHintReturn* returnData) const override {
+        if (hint == SH_Slider_AbsoluteSetButtons)
+            return Qt::LeftButton;
+        return QProxyStyle::styleHint(hint, option, widget, returnData);
+    }
+};
+} // namespace
 
 SXItemStateView::SXItemStateView(QWidget* parent)
     : QWidget(parent) {
@@ -25,7 +41,14 @@ SXItemStateView::SXItemStateView(QWidget* parent)
     _priProgress->setAccessibleName(tr("Total progress"));
     _slider = new QSlider(Qt::Horizontal, this);
     _slider->setRange(0, 100);
+    _slider->setObjectName(QStringLiteral("playPosition"));
     _slider->setAccessibleName(tr("Play position"));
+    auto* seekStyle = new ClickToSeekStyle;
+    seekStyle->setParent(_slider);
+    _slider->setStyle(seekStyle);
+    // Seeking with the mouse leaves the keyboard on the list, where Space still stops the
+    // preview; Tab still reaches the slider for its arrow keys.
+    _slider->setFocusPolicy(Qt::TabFocus);
     m_pauseButton = new QToolButton(this);
     m_pauseButton->setObjectName(QStringLiteral("btnPause"));
     m_pauseButton->setAutoRaise(true);

@@ -21,7 +21,7 @@ SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     _popBitRate = addPopUp(tr("&Bit rate:"), QStringLiteral("popBitRate"));
     _popSmpRate = addPopUp(tr("Sample &rate:"), QStringLiteral("popSmpRate"));
-    _popChanel = addPopUp(tr("C&hannels:"), QStringLiteral("popChanel"));
+    _popChanel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChanel"));
     buildButtons();
 
     connect(_popBitRate, &QComboBox::textActivated, this, [this](const QString& title) {
@@ -59,11 +59,11 @@ QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) 
 void SXSettingsPanel::buildButtons() {
     auto* grid = static_cast<QGridLayout*>(layout());
     const int column = m_columns;
-    _btnAddToiTunes = new QCheckBox(tr("Add to music &library"), this);
+    _btnAddToiTunes = new QCheckBox(tr("Add to m&usic library"), this);
     _btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
     _btnSavePath =
         new QPushButton(SXIcons::icon(QStringLiteral("outputFolder"), QStringLiteral("folder")),
-                        tr("Output &Folder…"), this);
+                        tr("&Output Folder…"), this);
     _btnSavePath->setObjectName(QStringLiteral("btnSavePath"));
     _btnReveal =
         new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),

@@ -69,6 +69,10 @@ void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& 
             badge->setCount(labels.at(i), counts.value(i));
         setAccessibleTabName(i, SXWorkspaceTexts::tabAccessibleName(labels.at(i), counts.value(i)));
     }
+    // A wider badge needs a wider tab: QTabBar sizes tabs from their buttons only when it lays
+    // itself out, which a button's new size does not cause. Setting the same text again makes it.
+    for (int i = 0; i < count(); ++i)
+        setTabText(i, tabText(i));
 }
 
 void SXContainerTabBar::refreshCloseButtons() {

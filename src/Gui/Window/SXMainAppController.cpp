@@ -5,6 +5,7 @@
 #include "Gui/Dialogs/SXLoadingSheet.h"
 #include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemListView.h"
+#include "Gui/List/SXRowContextMenu.h"
 #include "Gui/List/SXWindowDrops.h"
 #include "Gui/Panels/SXFileInfoViewController.h"
 #include "Gui/Panels/SXHelpView.h"
@@ -44,6 +45,10 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
     connect(_listView, &SXItemListView::startRequested, this, &SXMainAppController::startFromList);
     m_fileInfo = new SXFileInfoViewController(*this, *m_workspace);
+    connect(&_listView->rowMenu(), &SXRowContextMenu::fileInfoRequested, this, [this] {
+        if (!m_fileInfo->isVisible()) // the panel's command toggles; the row's entry only shows
+            m_fileInfo->clickInfo();
+    });
     connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
                 auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
@@ -105,7 +110,7 @@ QWidget* SXMainAppController::buildFileButtons() {
                          QStringLiteral("list-add"));
     _btnDelete = button(tr("&Delete"), QStringLiteral("btnDelete"), QStringLiteral("deleteFile"),
                         QStringLiteral("list-remove"));
-    _btnClear = button(tr("C&lear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
+    _btnClear = button(tr("Cl&ear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
                        QStringLiteral("edit-clear-all"));
     connect(_btnAddFile, &QPushButton::clicked, this, &SXMainAppController::clickAddFiles);
     connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::clickDeleteFile);

@@ -2,11 +2,13 @@
 
 #include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
 #include "Gui/List/SXItemRowDelegate.h"
+#include "Gui/List/SXRowContextMenu.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Workspace/SXItemRowLook.h"
 
 #include <QAbstractButton>
 #include <QHelpEvent>
+#include <QMenu>
 #include <QMessageBox>
 #include <QTemporaryDir>
 #include <QToolTip>
@@ -41,8 +43,8 @@ private Q_SLOTS:
     void cleanupTestCase();
     void rowsPaintEachProgress_data();
     void rowsPaintEachProgress();
-    void rightClickFollowsTheState_data();
-    void rightClickFollowsTheState();
+    void rowMenuFollowsTheState_data();
+    void rowMenuFollowsTheState();
     void keysSelectDeleteAndMoveWithBeeps();
 
 private:
@@ -52,6 +54,10 @@ private:
     SXItemRowGeometry rowGeometry(int row) const { return SXItemRowGeometry::of(rowRect(row)); }
     // Closes the tag editor a right-click opened and gives the window back its activation.
     void closeTagEditor() const;
+    // The entries of the open row menu, "-" before a disabled one; empty when it is closed.
+    QStringList menuEntries() const;
+    // Chooses the entry of the open row menu that reads `text` with the mouse.
+    void choose(const QString& text) const;
     // Moves the mouse onto `row` from outside it (a move to where it already is sends nothing).
     void hover(int row) const;
     // Nothing drawn in `rect` of the list: every pixel like the first.
@@ -102,6 +108,31 @@ void TestItemRows::closeTagEditor() const {
     editor->reject();
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+QStringList TestItemRows::menuEntries() const {
+    QMenu* menu = m_view->rowMenu().menu();
+    if (!QTest::qWaitFor([menu] { return menu->isVisible(); }, 2000))
+        return {};
+    QStringList entries;
+    for (QAction* action : menu->actions()) {
+        if (!action->isSeparator())
+            entries.append((action->isEnabled() ? u""_s : u"-"_s) +
+                           QString(action->text()).remove(u'&'));
+    }
+    return entries;
+}
+
+void TestItemRows::choose(const QString& text) const {
+    QMenu* menu = m_view->rowMenu().menu();
+    for (QAction* action : menu->actions()) {
+        if (QString(action->text()).remove(u'&') == text) {
+            QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(action).center());
+            QTRY_VERIFY(!menu->isVisible());
+            return;
+        }
+    }
+    QFAIL(qPrintable(u"no entry "_s + text));
 }
 
 void TestItemRows::hover(int row) const {
@@ -190,18 +221,27 @@ void TestItemRows::rowsPaintEachProgress() {
     }
 }
 
-void TestItemRows::rightClickFollowsTheState_data() {
+void TestItemRows::rowMenuFollowsTheState_data() {
     QTest::addColumn<int>("state");
-    QTest::addColumn<bool>("editorAsked");
-    QTest::newRow("idle") << int(AppStateIdle) << true;
-    QTest::newRow("playing") << int(AppStatePlaying) << true;
-    QTest::newRow("loading") << int(AppStateLoading) << false;
-    QTest::newRow("converting") << int(AppStateConverting) << false;
+    QTest::addColumn<QStringList>("entries");
+    QTest::addColumn<QString>("chosen");
+    const QStringList idle{u"Play"_s, u"Edit Tags…"_s, u"File Information"_s, u"Show in Files"_s,
+                           u"Remove"_s};
+    QTest::newRow("idle") << int(AppStateIdle) << idle << u"Edit Tags…"_s;
+    QTest::newRow("playing") << int(AppStatePlaying) << idle << u"Edit Tags…"_s;
+    QTest::newRow("loading") << int(AppStateLoading)
+                             << QStringList{u"-Play"_s, u"-Edit Tags…"_s, u"-File Information"_s,
+                                            u"Show in Files"_s, u"-Remove"_s}
+                             << QString();
+    QTest::newRow("converting") << int(AppStateConverting)
+                                << QStringList{u"Cancel This Conversion"_s, u"Show in Files"_s}
+                                << u"Cancel This Conversion"_s;
 }
 
-void TestItemRows::rightClickFollowsTheState() {
+void TestItemRows::rowMenuFollowsTheState() {
     QFETCH(int, state);
-    QFETCH(bool, editorAsked);
+    QFETCH(QStringList, entries);
+    QFETCH(QString, chosen);
     SXWorkspace& workspace = m_window->workspace();
     workspace.setSelectedRows({0, 1});
     QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
@@ -210,20 +250,50 @@ void TestItemRows::rightClickFollowsTheState() {
     else
         workspace.setAppState(state);
     QSignalSpy editor(&workspace, &SXWorkspace::metadataEditorRequested);
-    QTest::mouseClick(m_view->viewport(), Qt::RightButton, {}, centreOf(4));
-    QCOMPARE(editor.count(), editorAsked ? 1 : 0);
-    QCOMPARE(workspace.selectedRows(), editorAsked ? QList<int>{4} : (QList<int>{0, 1}));
-    if (editorAsked)
+    // A right-click through the window system, which follows the press with a context menu
+    // event: the row outside the selection becomes the selection, and its menu opens.
+    QTest::mouseClick(m_window->windowHandle(), Qt::RightButton, {},
+                      m_view->viewport()->mapTo(m_window.get(), centreOf(4)));
+    QCOMPARE(menuEntries(), entries);
+    QCOMPARE(SonoriaGuiTest::mnemonicClashes(m_view->rowMenu().menu()), QStringList());
+    QCOMPARE(editor.count(), 0);
+    QCOMPARE(workspace.selectedRows(), QList<int>{4});
+    SonoriaGuiTest::grab(m_view->rowMenu().menu(),
+                         u"row-menu-"_s + QString::fromLatin1(QTest::currentDataTag()));
+    QTest::keyClick(m_view->rowMenu().menu(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_view->rowMenu().menu()->isVisible());
+
+    // The keyboard opens it for the current row: the Menu key, and Shift+F10 without one.
+    m_view->setFocus();
+    QTest::keyClick(m_view, Qt::Key_Menu);
+    QCOMPARE(menuEntries(), entries);
+    QTest::keyClick(m_view->rowMenu().menu(), Qt::Key_Escape);
+    QTRY_VERIFY(!m_view->rowMenu().menu()->isVisible());
+    QTest::keyClick(m_view, Qt::Key_F10, Qt::ShiftModifier);
+    QCOMPARE(menuEntries(), entries);
+    if (chosen.isEmpty()) {
+        QTest::keyClick(m_view->rowMenu().menu(), Qt::Key_Escape);
+        return;
+    }
+    choose(chosen);
+    QCOMPARE(editor.count(), state == AppStateConverting ? 0 : 1);
+    if (editor.count())
         closeTagEditor();
     // The right button of the row under the mouse does the same.
 
     hover(5);
     QTest::mouseClick(m_view->viewport(), Qt::LeftButton, {}, rowGeometry(5).right.center());
-    QCOMPARE(editor.count(), editorAsked ? 2 : 0);
-    if (editorAsked)
+    QCOMPARE(editor.count(), state == AppStateConverting ? 0 : 2);
+    if (editor.count())
         closeTagEditor();
-    if (state != AppStateConverting)
+    if (state != AppStateConverting) {
+        // Remove takes the rows the menu acts on, and only those.
+        QTest::mouseClick(m_window->windowHandle(), Qt::RightButton, {},
+                          m_view->viewport()->mapTo(m_window.get(), centreOf(2)));
+        choose(u"Remove"_s);
+        QCOMPARE(m_view->model()->rowCount(), 7);
         return;
+    }
     // During a run both cancelled their own item's conversion and nothing else.
     QVERIFY(finished.wait(120000));
     for (int row = 0; row < 8; ++row) {

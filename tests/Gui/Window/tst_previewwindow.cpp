@@ -18,6 +18,7 @@
 #include <QLabel>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSlider>
 #include <QTemporaryDir>
 #include <QToolBar>
 #include <QToolButton>
@@ -147,6 +148,13 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     QVERIFY2(look.playTime != u"00:00"_s, qPrintable(look.playTime));
     QVERIFY(look.slider > 0 && look.musicTime.startsWith(u'-'));
     SonoriaGuiTest::grab(m_window->toolbar().toolBar(), u"strip-playing"_s);
+    // A click on the track seeks to that point, not a page towards it.
+    auto* slider = strip->findChild<QSlider*>(u"playPosition"_s);
+    QSignalSpy moved(strip, &SXItemStateView::sliderMoved);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, {slider->width() * 3 / 4, slider->height() / 2});
+    QVERIFY(!moved.isEmpty());
+    const double at = moved.last().first().toDouble();
+    QVERIFY2(at > 70 && at < 80, qPrintable(QString::number(at)));
 
     strip->findChild<QToolButton*>(u"btnPause"_s)->click();
     QVERIFY(workspace.isPreviewPaused());

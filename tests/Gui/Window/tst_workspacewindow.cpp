@@ -12,9 +12,11 @@
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStyleOptionTab>
 #include <QTemporaryDir>
 #include <QToolButton>
 
@@ -34,6 +36,8 @@ private Q_SLOTS:
     void chooserIsReplacedByAnAlertWhenEveryFormatIsOpen();
     void settingsPanelMirrorsAndEditsTheSelectedContainer();
     void helpBarBadgesAndFileButtonsFollowTheItems();
+    void tabBadgesMakeRoomForTheirCounts_data();
+    void tabBadgesMakeRoomForTheirCounts();
     void runLocksTabsAndPanel();
     void everyControlIsNamedAndReachedByTab();
     void geometryIsRememberedBetweenRuns();
@@ -202,6 +206,20 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
     auto* clear = child<QPushButton>("btnClear");
     auto* help = child<QLabel>("helpBar");
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
+    // The empty list says what to do: its middle is not blank.
+    auto* list = child<QListView>("itemList");
+    const QImage empty = list->viewport()->grab().toImage();
+    const QRect middle(empty.width() / 4, empty.height() / 3, empty.width() / 2,
+                       empty.height() / 3);
+    const auto inked = [&middle](const QImage& image) {
+        for (int y = middle.top(); y <= middle.bottom(); ++y)
+            for (int x = middle.left(); x <= middle.right(); ++x)
+                if (image.pixel(x, y) != image.pixel(middle.topLeft()))
+                    return true;
+        return false;
+    };
+    QVERIFY(inked(empty));
+    grab(m_window.get(), QStringLiteral("window-empty"));
 
     const QString path = m_media.filePath(QStringLiteral("tone.wav"));
     QVERIFY(SonoriaTest::makeTone(path));
@@ -215,11 +233,51 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
     const int selected = m_window->tabBar().currentIndex();
     QVERIFY(m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
     grab(m_window.get(), QStringLiteral("window-one-item"));
+    QVERIFY(!inked(list->viewport()->grab().toImage())); // one row, no hint
 
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(ws.getCurentTabMusicCount(), 0);
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
     QVERIFY(!m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
+}
+
+void TestWorkspaceWindow::tabBadgesMakeRoomForTheirCounts_data() {
+    QTest::addColumn<int>("count");
+    for (int count : {1, 10, 100, 1000})
+        QTest::addRow("%d", count) << count;
+}
+
+void TestWorkspaceWindow::tabBadgesMakeRoomForTheirCounts() {
+    QFETCH(int, count);
+    SXWorkspace& ws = m_window->workspace();
+    SXContainerTabBar& tabs = m_window->tabBar();
+    const QStringList labels = ws.tabLabels();
+    // The counts as the workspace reports them: from one digit to four, the tab grows.
+    Q_EMIT ws.tabCountsChanged(labels, QList<int>(labels.size(), count));
+    grab(&tabs, QStringLiteral("tabs-%1").arg(count));
+    for (int i = 0; i < tabs.count(); ++i) {
+        QWidget* badge = tabs.tabButton(i, QTabBar::LeftSide);
+        QWidget* close = tabs.tabButton(i, QTabBar::RightSide);
+        // Where the label is drawn: the style's text rectangle beside the tab's buttons, the
+        // text centred in it.
+        QStyleOptionTab option;
+        option.initFrom(&tabs);
+        option.rect = tabs.tabRect(i);
+        option.text = tabs.tabText(i);
+        option.shape = tabs.shape();
+        option.documentMode = tabs.documentMode();
+        option.leftButtonSize = badge->size();
+        if (close) // a hidden close button keeps its room, as QTabBar paints it
+            option.rightButtonSize = close->size();
+        const QRect box = tabs.style()->subElementRect(QStyle::SE_TabBarTabText, &option, &tabs);
+        const QSize textSize(tabs.fontMetrics().horizontalAdvance(option.text), box.height());
+        const QRect text = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, textSize, box);
+        const QString where = QStringLiteral("%1 with %2").arg(option.text).arg(count);
+        QVERIFY2(!text.intersects(badge->geometry()), qPrintable(where));
+        QVERIFY2(tabs.tabRect(i).contains(badge->geometry()), qPrintable(where));
+        QVERIFY2(!(close && close->isVisible() && text.intersects(close->geometry())),
+                 qPrintable(where));
+    }
 }
 
 void TestWorkspaceWindow::runLocksTabsAndPanel() {

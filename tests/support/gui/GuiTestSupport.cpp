@@ -6,9 +6,15 @@
 #include <QAccessible>
 #include <QComboBox>
 #include <QDir>
+#include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
+#include <QMultiMap>
 #include <QTabBar>
+#include <QTabWidget>
 
 namespace SonoriaGuiTest {
 
@@ -91,6 +97,50 @@ QStringList accessibilityProblems(QWidget* root) {
             problems.append(QStringLiteral("Tab never reaches \"%1\"").arg(nameOf(widget)));
     }
     return problems;
+}
+
+QStringList mnemonicClashes(QWidget* root) {
+    QStringList clashes;
+    QMultiMap<QKeySequence, QString> owners;
+    const auto note = [&owners](const QString& text) {
+        const QKeySequence key = QKeySequence::mnemonic(text);
+        if (!key.isEmpty())
+            owners.insert(key, QString(text).remove(QLatin1Char('&')));
+    };
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.prepend(root);
+    for (QWidget* widget : std::as_const(widgets)) {
+        if (!widget->isVisibleTo(root) && widget != root)
+            continue;
+        if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            note(button->text());
+        else if (auto* label = qobject_cast<QLabel*>(widget); label && label->buddy())
+            note(label->text());
+        else if (auto* box = qobject_cast<QGroupBox*>(widget))
+            note(box->title());
+        else if (auto* bar = qobject_cast<QMenuBar*>(widget)) {
+            for (QAction* menu : bar->actions()) {
+                note(menu->text());
+                // Each menu's items are a scope of their own while it is open.
+                if (menu->menu())
+                    clashes.append(mnemonicClashes(menu->menu()));
+            }
+        } else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i)
+                note(tabs->tabText(i));
+        }
+    }
+    if (auto* menu = qobject_cast<QMenu*>(root)) {
+        for (QAction* item : menu->actions())
+            note(item->text());
+    }
+    for (const QKeySequence& key : owners.uniqueKeys()) {
+        const QStringList texts = owners.values(key);
+        if (texts.size() > 1)
+            clashes.append(key.toString() + QStringLiteral(": ") +
+                           texts.join(QStringLiteral(", ")));
+    }
+    return clashes;
 }
 
 } // namespace SonoriaGuiTest

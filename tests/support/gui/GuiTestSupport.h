@@ -45,6 +45,10 @@ void grab(QWidget* widget, const QString& name);
 // control that Tab does not reach from the first: empty when all is well.
 QStringList accessibilityProblems(QWidget* root);
 
+// Every Alt+letter that two visible controls of `root`'s window share (buttons, captions with a
+// buddy, group boxes, the menu bar's titles, tabs): empty when each mnemonic is unique.
+QStringList mnemonicClashes(QWidget* root);
+
 } // namespace SonoriaGuiTest
 
 #define SONORIA_GUI_TEST_MAIN(TestObject)                                                          \
