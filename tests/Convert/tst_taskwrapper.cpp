@@ -143,7 +143,7 @@ private Q_SLOTS:
         // (QProcess gives it its default action back).
         QTest::newRow("SIGPIPE has its default action")
             << u"sigpipe.sh"_s << u"kill -PIPE $$\necho survived\n"_s << true << QString()
-            << int(SIGPIPE) << 0;
+            << TaskWrapper::kSignalStatusBase + SIGPIPE << 0;
         // A failed launch is reported as a shell would: status 127.
         QTest::newRow("missing program")
             << u"missing"_s << QString() << false << QString() << 127 << 0;
