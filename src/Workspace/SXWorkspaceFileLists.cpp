@@ -130,18 +130,17 @@ QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths,
 
 QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
                                                      const SXMusicInfoList& current) {
-    if (current.isEmpty())
-        return candidates;
+    // A path already in the container, or named twice in one add (a folder and a file in it),
+    // is added once: adding a folder again adds only what is new in it.
     QSet<QString> present;
     for (const SXMusicInfoPtr& item : current)
         present.insert(item->strFilePath());
-    // The index advances after a drop, so the path that slid into the dropped one's place is
-    // not looked at in this pass. Users have long had this behaviour; it stays.
-    for (int i = 0; i < candidates.size(); ++i) {
-        const QString path = candidates.at(i);
+    candidates.removeIf([&present](const QString& path) {
         if (present.contains(path))
-            candidates.removeAll(path);
-    }
+            return true;
+        present.insert(path);
+        return false;
+    });
     return candidates;
 }
 

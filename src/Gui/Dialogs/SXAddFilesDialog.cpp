@@ -16,7 +16,8 @@ SXAddFilesDialog::SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& win
     QStringList patterns;
     for (const QString& ext : GlobalFun::getSupportedFmts())
         patterns.append(QStringLiteral("*.") + ext);
-    setNameFilter(tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))));
+    setNameFilters({tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))),
+                    tr("All files (*)")});
     // Folders and files side by side can be selected together in both of the dialog's views.
     for (const QString& name : {QStringLiteral("listView"), QStringLiteral("treeView")}) {
         if (auto* view = findChild<QAbstractItemView*>(name))
