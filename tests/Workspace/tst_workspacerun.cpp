@@ -314,8 +314,14 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     SXWorkspace workspace;
     workspace.setPresenter(&m_presenter);
     workspace.addDefaultTabs();
-    const QString longSource = source(u"long.flac"_s);
-    QVERIFY(addFiles(workspace, u"MP3"_s, {longSource, longSource, longSource}));
+    // Three rows of one long source, under three names (a path is added once per container).
+    QStringList longSources;
+    for (const QString& name : {u"long-a.flac"_s, u"long-b.flac"_s, u"long-c.flac"_s}) {
+        longSources.append(source(name));
+        QVERIFY(QFile::exists(longSources.last()) ||
+                QFile::link(source(u"long.flac"_s), longSources.last()));
+    }
+    QVERIFY(addFiles(workspace, u"MP3"_s, longSources));
     const SXMusicInfoList items = workspace.getDataForFormat(u"MP3"_s);
     const SXMusicInfoPtr outsider = makeWorkspaceItem(u"/nowhere/else.wav"_s, u"MP3"_s);
     QVERIFY(!workspace.findOperationForMusicInfo(outsider));
@@ -325,10 +331,10 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     const QList<SXOperationPtr> queued = workspace.queueConvertTask()->operations();
     QCOMPARE(queued.size(), 3);
 
-    // The three rows share a path: each finds its own operation, a copy the first equal one,
-    // and an item of no operation none.
+    // Each row finds its own operation, a copy (as a drag carries) its equal one, and an item
+    // of no operation none.
     QCOMPARE(workspace.findOperationForMusicInfo(items.at(2)), queued.at(2));
-    QCOMPARE(workspace.findOperationForMusicInfo(items.at(1)->copy()), queued.first());
+    QCOMPARE(workspace.findOperationForMusicInfo(items.at(1)->copy()), queued.at(1));
     QVERIFY(!workspace.findOperationForMusicInfo(outsider));
     workspace.didMyListViewCellRightButtonClick(outsider);
     QCOMPARE(workspace.queueConvertTask()->operationCount(), 3);
