@@ -121,3 +121,12 @@ std::shared_ptr<MTEAudioFile> MTEAudioFile::copy() const {
     result->d = std::make_shared<Private>(*d);
     return result;
 }
+
+void MTEAudioFile::restoreValues(const MTEAudioFile& saved) {
+    if (saved.d == d)
+        return;
+    const Private old(*saved.d); // copied under its own lock, so the two are never held together
+    QMutexLocker locker(&d->lock);
+    d->values = old.values;
+    d->artwork = old.artwork;
+}

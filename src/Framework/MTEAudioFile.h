@@ -12,7 +12,7 @@
 // generic names the rest of the program uses. A handle reads the file and closes it again; it
 // never keeps the file open. Generic field names (the keys of dicMap()):
 //   title artist albumArtist composer album date genre track copyright publisher comment lyric
-//   albumImg
+//   grouping albumImg
 // albumImg's value is an MTEArtworkList; every other value is a QString.
 class MTEAudioFile {
 public:
@@ -86,6 +86,8 @@ public:
     void setComment(const QString& value);
     QString lyric() const;
     void setLyric(const QString& value);
+    QString grouping() const;
+    void setGrouping(const QString& value);
     MTEArtworkList albumImg() const;
     void setAlbumImg(const MTEArtworkList& images);
 
@@ -95,6 +97,9 @@ public:
 
     // An independent handle with the same values (edits to one never reach the other).
     std::shared_ptr<MTEAudioFile> copy() const;
+    // Takes back the values of `saved` (a copy() of this handle), in place, so every holder of
+    // this handle sees the record as it was when the copy was made.
+    void restoreValues(const MTEAudioFile& saved);
 
     void encodeWithCoder(SXCoder& coder) const;
     static std::shared_ptr<MTEAudioFile> decodeWithCoder(const SXCoder& coder);

@@ -73,6 +73,12 @@ QString MTEAudioFile::lyric() const {
 void MTEAudioFile::setLyric(const QString& value) {
     d->setText(MTETagField::Lyric, value);
 }
+QString MTEAudioFile::grouping() const {
+    return d->text(MTETagField::Grouping);
+}
+void MTEAudioFile::setGrouping(const QString& value) {
+    d->setText(MTETagField::Grouping, value);
+}
 
 MTEArtworkList MTEAudioFile::albumImg() const {
     const QString key = d->artworkKey();

@@ -9,19 +9,9 @@
 
 namespace {
 
-constexpr MTEKeyTable kKeys{"Title",
-                            "Artist",
-                            "Album Artist",
-                            "Composer",
-                            "Album",
-                            "Year",
-                            "Genre",
-                            "Track",
-                            "Copyright",
-                            "Publisher",
-                            "Comment",
-                            "Lyrics",
-                            "Cover Art (Front)"};
+constexpr MTEKeyTable kKeys{"Title",   "Artist", "Album Artist", "Composer",         "Album",
+                            "Year",    "Genre",  "Track",        "Copyright",        "Publisher",
+                            "Comment", "Lyrics", "Grouping",     "Cover Art (Front)"};
 static_assert(mteKeyTableComplete(kKeys));
 
 } // namespace

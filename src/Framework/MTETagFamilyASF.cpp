@@ -7,9 +7,19 @@
 
 namespace {
 
-constexpr MTEKeyTable kKeys{"Title",         "Author",       "WM/AlbumArtist", "WM/Composer",
-                            "WM/AlbumTitle", "WM/Year",      "WM/Genre",       "WM/TrackNumber",
-                            "Copyright",     "WM/Publisher", "Description",    "WM/Lyrics",
+constexpr MTEKeyTable kKeys{"Title",
+                            "Author",
+                            "WM/AlbumArtist",
+                            "WM/Composer",
+                            "WM/AlbumTitle",
+                            "WM/Year",
+                            "WM/Genre",
+                            "WM/TrackNumber",
+                            "Copyright",
+                            "WM/Publisher",
+                            "Description",
+                            "WM/Lyrics",
+                            "WM/ContentGroupDescription",
                             "WM/Picture"};
 static_assert(mteKeyTableComplete(kKeys));
 

@@ -6,9 +6,9 @@
 namespace {
 
 // TagLib's own property names; it has none for pictures.
-constexpr MTEKeyTable kKeys{"TITLE", "ARTIST",      "ALBUMARTIST", "COMPOSER", "ALBUM",   "DATE",
-                            "GENRE", "TRACKNUMBER", "COPYRIGHT",   "LABEL",    "COMMENT", "LYRICS",
-                            ""};
+constexpr MTEKeyTable kKeys{"TITLE",   "ARTIST", "ALBUMARTIST", "COMPOSER",  "ALBUM",
+                            "DATE",    "GENRE",  "TRACKNUMBER", "COPYRIGHT", "LABEL",
+                            "COMMENT", "LYRICS", "GROUPING",    ""};
 static_assert(mteKeyTableComplete(kKeys));
 
 } // namespace

@@ -16,7 +16,7 @@
 namespace {
 
 constexpr MTEKeyTable kKeys{"TIT2", "TPE1", "TPE2", "TCOM", "TALB", "TDRC", "TCON",
-                            "TRCK", "TCOP", "TPUB", "COMM", "USLT", "APIC"};
+                            "TRCK", "TCOP", "TPUB", "COMM", "USLT", "GRP1", "APIC"};
 static_assert(mteKeyTableComplete(kKeys));
 
 // The encoder ffmpeg names in every file it writes.

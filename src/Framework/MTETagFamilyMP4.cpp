@@ -10,7 +10,7 @@ namespace {
 // Atom names as UTF-8 ("©" is U+00A9, which TagLib's atom keys hold as one Latin-1 byte).
 constexpr MTEKeyTable kKeys{"©nam", "©ART", "aART", "©wrt", "©alb",
                             "©day", "©gen", "trkn", "cprt", "----:com.apple.iTunes:PUBLISHER",
-                            "©cmt", "©lyr", "covr"};
+                            "©cmt", "©lyr", "©grp", "covr"};
 static_assert(mteKeyTableComplete(kKeys));
 
 // The encoder ffmpeg names in every file it writes.

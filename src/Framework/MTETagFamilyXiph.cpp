@@ -13,9 +13,13 @@
 
 namespace {
 
-constexpr MTEKeyTable kKeys{"TITLE",   "ARTIST", "ALBUMARTIST",           "COMPOSER",  "ALBUM",
-                            "DATE",    "GENRE",  "TRACKNUMBER",           "COPYRIGHT", "PUBLISHER",
-                            "COMMENT", "LYRICS", "METADATA_BLOCK_PICTURE"};
+constexpr MTEKeyTable kKeys{"TITLE",       "ARTIST",
+                            "ALBUMARTIST", "COMPOSER",
+                            "ALBUM",       "DATE",
+                            "GENRE",       "TRACKNUMBER",
+                            "COPYRIGHT",   "PUBLISHER",
+                            "COMMENT",     "LYRICS",
+                            "GROUPING",    "METADATA_BLOCK_PICTURE"};
 static_assert(mteKeyTableComplete(kKeys));
 
 // The encoder ffmpeg names in every file it writes.

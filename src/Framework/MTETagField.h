@@ -18,6 +18,7 @@ enum class MTETagField : int {
     Publisher,
     Comment,
     Lyric,
+    Grouping,
     AlbumImg,
     Count
 };
@@ -25,8 +26,8 @@ enum class MTETagField : int {
 inline constexpr std::size_t kMTETagFieldCount = static_cast<std::size_t>(MTETagField::Count);
 
 inline constexpr std::array<const char*, kMTETagFieldCount> kMTEGenericFieldNames{
-    "title", "artist",    "albumArtist", "composer", "album", "date",    "genre",
-    "track", "copyright", "publisher",   "comment",  "lyric", "albumImg"};
+    "title", "artist",    "albumArtist", "composer", "album", "date",     "genre",
+    "track", "copyright", "publisher",   "comment",  "lyric", "grouping", "albumImg"};
 
 // One own key per generic field, in MTETagField order; "" for a field the family cannot hold.
 using MTEKeyTable = std::array<const char*, kMTETagFieldCount>;

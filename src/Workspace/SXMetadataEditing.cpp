@@ -68,7 +68,7 @@ Accessors accessorsOf(Field field) {
     case Field::Lyrics:
         return {&MTEAudioFile::lyric, &MTEAudioFile::setLyric};
     case Field::Grouping:
-        break;
+        return {&MTEAudioFile::grouping, &MTEAudioFile::setGrouping};
     }
     return {};
 }
@@ -165,6 +165,29 @@ std::optional<MTEArtwork> artworkFromFile(const QString& path) {
     const QString mime = format == "jpeg" ? QStringLiteral("image/jpeg")
                                           : QStringLiteral("image/") + QString::fromLatin1(format);
     return MTEArtwork{bytes, mime};
+}
+
+void EditSession::begin(const SXMusicInfoPtr& item) {
+    const auto tags = item ? item->metHandler() : nullptr;
+    if (!tags)
+        return;
+    for (const auto& saved : std::as_const(m_saved)) {
+        if (saved.first == item)
+            return;
+    }
+    m_saved.append({item, tags->copy()});
+}
+
+void EditSession::accept() {
+    m_saved.clear();
+}
+
+void EditSession::discard() {
+    for (const auto& [item, saved] : std::as_const(m_saved)) {
+        if (const auto tags = item->metHandler())
+            tags->restoreValues(*saved);
+    }
+    m_saved.clear();
 }
 
 int noticeStripY(bool hide, QSize window) {

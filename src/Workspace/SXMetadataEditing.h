@@ -27,8 +27,7 @@ public:
 // writes, whether an item may be edited, how the artwork is sized, where the window goes.
 namespace SXMetadataEditing {
 
-// The fields in the order the window shows them. Grouping is shown and editable but keeps
-// nothing: it is neither filled from the tags nor written to them.
+// The fields in the order the window shows them.
 enum class Field {
     Title,
     Artist,
@@ -54,7 +53,7 @@ QList<FieldInfo> tagFields();
 FieldInfo lyricsField();
 
 QString readField(const MTEAudioFile& tags, Field field);
-// Stores what the user typed; a Grouping edit is dropped.
+// Stores what the user typed.
 void writeField(MTEAudioFile& tags, Field field, const QString& text);
 
 // Only containers whose format may carry edited tags.
@@ -82,6 +81,21 @@ std::optional<MTEArtwork> artworkFromFile(const QString& path);
 int noticeStripY(bool hide, QSize window);
 inline const QString kCanNotEditNotice =
     QStringLiteral("Sorry, this kind format CAN NOT support for editing for metadata");
+
+// The records of the items shown since the window opened, as they were before any edit: the
+// fields write straight into an item's record, so leaving without OK must put them back.
+class EditSession {
+public:
+    // Remembers `item`'s record unless it already is.
+    void begin(const SXMusicInfoPtr& item);
+    // OK: the edits stay.
+    void accept();
+    // Cancel, Escape or closing the window: every shown item's record is as it was.
+    void discard();
+
+private:
+    QList<std::pair<SXMusicInfoPtr, std::shared_ptr<MTEAudioFile>>> m_saved;
+};
 
 // The window's remembered origin under "com.snr.metadataWndPosition", as "{x, y}".
 QString pointString(QPoint point);

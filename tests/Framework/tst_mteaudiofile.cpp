@@ -49,6 +49,7 @@ const Field kFields[] = {
     {"publisher", &MTEAudioFile::setPublisher, &MTEAudioFile::publisher, "Label Records"},
     {"comment", &MTEAudioFile::setComment, &MTEAudioFile::comment, "a comment"},
     {"lyric", &MTEAudioFile::setLyric, &MTEAudioFile::lyric, "La la la\nsecond line ♪"},
+    {"grouping", &MTEAudioFile::setGrouping, &MTEAudioFile::grouping, "Live sets"},
 };
 
 QString taglibProperty(const QString& path, const char* name) {
@@ -144,7 +145,7 @@ private Q_SLOTS:
         // Every value sits under the kind's own key, and every own key has a generic name.
         const QMap<QString, QVariant> info = reader->dicReadInfo();
         const QMap<QString, QString> map = reader->dicMap();
-        QCOMPARE(map.size(), 13);
+        QCOMPARE(map.size(), 14);
         for (const Field& field : kFields) {
             QCOMPARE(((*reader).*field.get)(), field.value);
             QCOMPARE(info.value(map.value(field.name)).toString(), field.value);

@@ -156,6 +156,8 @@ void SXMetadataEditWndCtlr::fieldEdited(Field field, const QString& text) {
 
 void SXMetadataEditWndCtlr::setMusicInfo(const SXMusicInfoPtr& item) {
     m_musicInfo = item;
+    if (isVisible())
+        m_session.begin(item);
     const bool editable = isCanEditable(item.get());
     enableEdit(editable);
     showCanNotEditMetadataTips(editable);
@@ -212,17 +214,22 @@ void SXMetadataEditWndCtlr::clickOk() {
 }
 
 void SXMetadataEditWndCtlr::clickCancel() {
-    // The same as OK: every keystroke is already in the record.
     reject();
 }
 
 void SXMetadataEditWndCtlr::done(int result) {
+    // Escape and the window's close button arrive here as a rejection too.
+    if (result == QDialog::Accepted)
+        m_session.accept();
+    else
+        m_session.discard();
     saveWindowPosition(pos());
     QDialog::done(result);
 }
 
 void SXMetadataEditWndCtlr::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
+    m_session.begin(m_musicInfo);
     if (const std::optional<QPoint> origin = storedWindowPosition())
         move(*origin);
 }

@@ -15,8 +15,9 @@ class SXArtworkDropView;
 
 // The tag editor: a window-modal dialog over the workspace window with three tabs (tags,
 // artwork, lyrics) for one item at a time, stepping to the previous or next row without
-// closing. Every keystroke goes straight into the item's tag record, so Cancel keeps what was
-// typed; filling the fields writes nothing. SXMetadataEditing decides what each control means.
+// closing. Every keystroke goes straight into the item's tag record; only OK keeps it, Cancel,
+// Escape and closing the window put back every record shown. Filling the fields writes
+// nothing. SXMetadataEditing decides what each control means.
 class SXMetadataEditWndCtlr final : public QDialog {
     Q_OBJECT
 public:
@@ -60,6 +61,7 @@ private:
 
     SXMetadataEditWndCtlrDelegate* m_delegate = nullptr;
     SXMusicInfoPtr m_musicInfo;
+    SXMetadataEditing::EditSession m_session;
     QImage m_imgChangeBase; // the artwork at its own size; every scaled copy starts from it
     QString m_baseMimeType;
     QTabWidget* m_tabView = nullptr;

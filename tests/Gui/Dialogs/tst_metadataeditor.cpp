@@ -59,6 +59,8 @@ private Q_SLOTS:
     void init();
     void cleanup();
     void fillingWritesNothingAndTypingWritesOnlyItsField();
+    void onlyOkKeepsTheEdits_data();
+    void onlyOkKeepsTheEdits();
     void stepsThroughTheShownList();
     void formatsThatCannotCarryTagsAreReadOnly();
     void artworkSizes_data();
@@ -139,17 +141,46 @@ void TestMetadataEditor::fillingWritesNothingAndTypingWritesOnlyItsField() {
     }
     QCOMPARE(tags->dicReadInfo(), before); // shown, not written back
 
-    QTest::keyClicks(line("tfGrouping"), u"Live"_s);
-    QCOMPARE(tags->dicReadInfo(), before); // the grouping is kept nowhere
     QTest::keyClicks(line("tfArtist"), u"Ann"_s);
     QTest::keyClicks(text("tvComments"), u"Nice"_s);
     QCOMPARE(tags->artist(), u"Ann"_s);
     QCOMPARE(tags->comment(), u"Nice"_s);
     QCOMPARE(tags->album(), QString());
     grab(u"editor-tags"_s);
-    m_editor->findChild<QPushButton*>(u"btnCancel"_s)->click();
+}
+
+void TestMetadataEditor::onlyOkKeepsTheEdits_data() {
+    QTest::addColumn<QString>("leave");
+    QTest::addColumn<bool>("kept");
+    QTest::newRow("Escape") << u"Escape"_s << false;
+    QTest::newRow("Cancel") << u"btnCancel"_s << false;
+    QTest::newRow("close button") << u"close"_s << false;
+    QTest::newRow("OK") << u"btnOk"_s << true;
+}
+
+void TestMetadataEditor::onlyOkKeepsTheEdits() {
+    QFETCH(QString, leave);
+    QFETCH(bool, kept);
+    const SXMusicInfoList rows = addFiles(u"MP3"_s, {u"a.mp3"_s, u"b.mp3"_s});
+    const QMap<QString, QVariant> before = rows.at(1)->metHandler()->dicReadInfo();
+    m_editor->setMusicInfo(rows.at(0));
+    m_editor->open();
+    QVERIFY(QTest::qWaitForWindowExposed(m_editor));
+    QTest::keyClicks(line("tfArtist"), u"Ann"_s);
+    QTest::mouseClick(m_editor->findChild<QPushButton*>(u"btnNext"_s), Qt::LeftButton);
+    QTest::keyClicks(line("tfArtist"), u"Bob"_s); // a second item shown in the same visit
+    if (leave == u"Escape")
+        QTest::keyClick(line("tfArtist"), Qt::Key_Escape);
+    else if (leave == u"close")
+        m_editor->close(); // what the title bar's button asks of the window
+    else
+        QTest::mouseClick(m_editor->findChild<QPushButton*>(leave), Qt::LeftButton);
     QVERIFY(!m_editor->isVisible());
-    QCOMPARE(tags->artist(), u"Ann"_s); // Cancel undoes nothing
+    QCOMPARE(rows.at(0)->metHandler()->artist(), kept ? u"Ann"_s : QString());
+    if (kept)
+        QCOMPARE(rows.at(1)->metHandler()->artist(), u"Bob"_s);
+    else
+        QCOMPARE(rows.at(1)->metHandler()->dicReadInfo(), before);
 }
 
 void TestMetadataEditor::stepsThroughTheShownList() {
@@ -266,6 +297,7 @@ void TestMetadataEditor::editsReachTheConvertedFileOnce() {
     m_editor->open();
     QTest::keyClick(line("tfTitle"), Qt::Key_A, Qt::ControlModifier);
     QTest::keyClicks(line("tfTitle"), u"New title"_s);
+    QTest::keyClicks(line("tfGrouping"), u"Live sets"_s);
     m_editor->findChild<QTabWidget*>(u"tabView"_s)->setCurrentIndex(2);
     QTest::keyClicks(text("tvLycirs"), u"la la la"_s);
     if (container == u"FLAC")
@@ -287,9 +319,11 @@ void TestMetadataEditor::editsReachTheConvertedFileOnce() {
     QVERIFY2(written, qPrintable(output));
     QCOMPARE(written->title(), u"New title"_s);
     QCOMPARE(written->lyric(), u"la la la"_s);
+    QCOMPARE(written->grouping(), u"Live sets"_s);
     QCOMPARE(written->albumImg().size(), keepArtwork ? 1 : 0);
     QCOMPARE(tagCount(output, "TITLE"), 1);
     QCOMPARE(tagCount(output, "LYRICS"), 1);
+    QCOMPARE(tagCount(output, "GROUPING"), 1); // under the name other programs read
 }
 
 SONORIA_GUI_TEST_MAIN(TestMetadataEditor)
