@@ -1,6 +1,6 @@
 #include "RunFromEnvironment.h"
 
-#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXDesktopApp.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Workspace/SXWorkspace.h"
 
@@ -12,14 +12,14 @@ constexpr int kPollMs = 100;
 
 } // namespace
 
-void startRunFromEnvironment(SXAppDelegate& delegate) {
+void startRunFromEnvironment(SXDesktopApp& app) {
     const QString folder = qEnvironmentVariable("SONORIA_TEST_RUN_INTO");
     if (folder.isEmpty())
         return;
-    auto* poll = new QTimer(&delegate);
+    auto* poll = new QTimer(&app);
     poll->setInterval(kPollMs);
-    QObject::connect(poll, &QTimer::timeout, &delegate, [poll, folder, &delegate] {
-        SXMainAppController* window = delegate.coreMainWndCtlr();
+    QObject::connect(poll, &QTimer::timeout, &app, [poll, folder, &app] {
+        SXMainAppController* window = app.coreWindow();
         if (!window || window->workspace().enumAppState() != AppStateIdle ||
             window->workspace().getTotalNeedConvertMusic() == 0)
             return;

@@ -1,6 +1,6 @@
 #include "WindowScreenshot.h"
 
-#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXDesktopApp.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Workspace/SXWorkspace.h"
 
@@ -27,26 +27,25 @@ void saveAndExit(SXMainAppController& window, const QString& file) {
 
 } // namespace
 
-void saveWindowScreenshotFromEnvironment(SXAppDelegate& delegate) {
+void saveWindowScreenshotFromEnvironment(SXDesktopApp& app) {
     const QString file = qEnvironmentVariable("SONORIA_SCREENSHOT");
     if (file.isEmpty())
         return;
-    auto* poll = new QTimer(&delegate);
+    auto* poll = new QTimer(&app);
     poll->setInterval(kPollMs);
-    QObject::connect(poll, &QTimer::timeout, &delegate,
-                     [poll, file, &delegate, waited = 0, idlePolls = 0]() mutable {
-                         SXMainAppController* window = delegate.coreMainWndCtlr();
-                         waited += kPollMs;
-                         const bool idle =
-                             window && window->workspace().enumAppState() == AppStateIdle;
-                         idlePolls = idle ? idlePolls + 1 : 0;
-                         // Idle for a few polls: the rows queued to the main thread are drawn.
-                         if (!window || (idlePolls < kSettlePolls && waited < kLongestWaitMs))
-                             return;
-                         poll->stop();
-                         if (window->workspace().getCurentTabMusicCount() > 0)
-                             window->workspace().setSelectedRows({0});
-                         saveAndExit(*window, file);
-                     });
+    QObject::connect(
+        poll, &QTimer::timeout, &app, [poll, file, &app, waited = 0, idlePolls = 0]() mutable {
+            SXMainAppController* window = app.coreWindow();
+            waited += kPollMs;
+            const bool idle = window && window->workspace().enumAppState() == AppStateIdle;
+            idlePolls = idle ? idlePolls + 1 : 0;
+            // Idle for a few polls: the rows queued to the main thread are drawn.
+            if (!window || (idlePolls < kSettlePolls && waited < kLongestWaitMs))
+                return;
+            poll->stop();
+            if (window->workspace().currentTabItemCount() > 0)
+                window->workspace().setSelectedRows({0});
+            saveAndExit(*window, file);
+        });
     poll->start();
 }

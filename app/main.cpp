@@ -1,6 +1,6 @@
 #include "Desktop/SXSingleInstance.h"
 #include "DisplayCheck.h"
-#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXDesktopApp.h"
 #include "RunFromEnvironment.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
@@ -81,19 +81,19 @@ int main(int argc, char** argv) {
     if (!instance.claim() && SXSingleInstance::handOver(files))
         return 0;
 
-    // Outlives the delegate: a signal while the program is already ending waits in the pipe.
+    // Outlives the desktop app: a signal while the program is already ending waits in the pipe.
     SXSignalWatcher signalWatcher;
-    SXAppDelegate delegate;
-    QObject::connect(&instance, &SXSingleInstance::openRequested, &delegate,
-                     &SXAppDelegate::openFiles);
+    SXDesktopApp desktop;
+    QObject::connect(&instance, &SXSingleInstance::openRequested, &desktop,
+                     &SXDesktopApp::openFiles);
     // kill, logout, shutdown, a closed terminal and Ctrl-C do what Stop does in every window,
     // then end the program: no child is left running and no partial file is left behind.
-    QObject::connect(&signalWatcher, &SXSignalWatcher::received, &delegate,
-                     &SXAppDelegate::quitForSignal);
+    QObject::connect(&signalWatcher, &SXSignalWatcher::received, &desktop,
+                     &SXDesktopApp::quitForSignal);
     if (!signalWatcher.install(SXSignalWatcher::terminationSignals()))
         SXLog::line(QStringLiteral("cannot watch for termination signals"));
-    delegate.start(files);
-    saveWindowScreenshotFromEnvironment(delegate);
-    startRunFromEnvironment(delegate);
+    desktop.start(files);
+    saveWindowScreenshotFromEnvironment(desktop);
+    startRunFromEnvironment(desktop);
     return QApplication::exec();
 }

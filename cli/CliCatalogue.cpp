@@ -11,10 +11,10 @@ QString choiceLine(const QString& caption, const QStringList& offered, const QSt
     return QStringLiteral("    %1 %2\n").arg(caption, -14).arg(shown.join(QStringLiteral(", ")));
 }
 
-QString libraryText(int enumAddToiTunes) {
-    if (enumAddToiTunes < 0)
+QString libraryText(int enumAddToLibrary) {
+    if (enumAddToLibrary < 0)
         return QStringLiteral("not offered");
-    return enumAddToiTunes == 1 ? QStringLiteral("offered, on") : QStringLiteral("offered, off");
+    return enumAddToLibrary == 1 ? QStringLiteral("offered, on") : QStringLiteral("offered, off");
 }
 
 // Applies one choice; false with *error when the format does not offer it.
@@ -43,13 +43,13 @@ QString CliCatalogue::formatListing() {
             continue;
         text += QStringLiteral("%1 (.%2): %3\n")
                     .arg(name, format->outputExtName(), format->fmtDescribe());
-        text += choiceLine(QStringLiteral("bit rates:"), format->aryBiteRate(), format->biteRate());
+        text += choiceLine(QStringLiteral("bit rates:"), format->aryBiteRate(), format->bitRate());
         text += choiceLine(QStringLiteral("sample rates:"), format->arySampleRate(),
                            format->sampleRate());
         text += choiceLine(QStringLiteral("channels:"), format->aryChannels(), format->channels());
         text += QStringLiteral("    %1 %2\n")
                     .arg(QStringLiteral("music library:"), -14)
-                    .arg(libraryText(format->enumAddToiTunes()));
+                    .arg(libraryText(format->enumAddToLibrary()));
     }
     return text;
 }
@@ -72,7 +72,7 @@ SXFormatSettingPtr CliCatalogue::settingForOptions(const CliOptions& options, QS
                 .arg(options.formatName, engine->getAllOutputFormats().join(QStringLiteral(", ")));
         return nullptr;
     }
-    QString bitrate = format->biteRate();
+    QString bitrate = format->bitRate();
     QString samplerate = format->sampleRate();
     QString channels = format->channels();
     if (!applyChoice(options.bitrate, format->aryBiteRate(), QStringLiteral("bit rate"), *format,
@@ -86,13 +86,13 @@ SXFormatSettingPtr CliCatalogue::settingForOptions(const CliOptions& options, QS
     format->setSampleRate(samplerate);
     format->setChannels(channels);
 
-    if (options.library && format->enumAddToiTunes() < 0) {
+    if (options.library && format->enumAddToLibrary() < 0) {
         *error = QStringLiteral("%1 does not offer delivery to the music library")
                      .arg(format->fmtName());
         return nullptr;
     }
     // The tool delivers to the library only when asked, whatever the preset's default.
-    if (format->enumAddToiTunes() >= 0)
-        format->setEnumAddToiTunes(options.library ? 1 : 0);
+    if (format->enumAddToLibrary() >= 0)
+        format->setEnumAddToLibrary(options.library ? 1 : 0);
     return format;
 }

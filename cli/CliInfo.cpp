@@ -11,7 +11,7 @@ namespace {
 
 // Collects the loader's verdict; the loader calls it on its worker thread, and waitUntilDone()
 // orders that write before our read.
-class SingleLoad : public LSMediaLoaderDelegate {
+class SingleLoad : public LSMediaLoaderListener {
 public:
     void mediaLoaderDidCompleteLoadMedias(LSMediaLoader*, const std::optional<SXMusicInfoList>&,
                                           const std::optional<QSet<int>>& failedIndex) override {
@@ -36,7 +36,7 @@ int CliInfo::printInfo(const QString& path) {
 
     SingleLoad verdict;
     const LSMediaLoaderPtr loader = LSMediaLoader::create();
-    loader->setDelegate(&verdict);
+    loader->setListener(&verdict);
     loader->loadMediasWithMediaArray({item});
     loader->waitUntilDone();
     if (verdict.failed) {

@@ -221,13 +221,13 @@ void CliRun::interrupt(int signalNumber) {
     m_interruptSignal = signalNumber;
     if (m_phase == Phase::Loading) {
         CliOutput::line(stderr, QStringLiteral("sonoria-cli: interrupted, stopping the load"));
-        m_workspace->clickCancel();
+        m_workspace->cancelLoading();
     } else {
         if (m_terminal)
             m_bar.clear();
         CliOutput::line(stderr,
                         QStringLiteral("sonoria-cli: interrupted, cancelling the conversions"));
-        m_workspace->clickCancelAll();
+        m_workspace->cancelAll();
     }
 }
 

@@ -1,7 +1,7 @@
 #include "HVConfigManager.h"
 
-#include "App/MacAppHelper.h"
 #include "App/SXServiceRequest.h"
+#include "App/SXStartupReport.h"
 #include "Shared/GlobalFun.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXLog.h"
@@ -56,7 +56,7 @@ HVConfigManager* HVConfigManager::sharedInstance() {
     return instance;
 }
 
-void HVConfigManager::startupRequests(MacAppHelper& appHelper) {
+void HVConfigManager::startupRequests(SXStartupReport& appHelper) {
     appHelper.reportStartup();
     sharedInstance()->getOnlineConfig();
 }

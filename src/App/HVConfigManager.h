@@ -2,7 +2,7 @@
 
 #include <QObject>
 
-class MacAppHelper;
+class SXStartupReport;
 class QNetworkAccessManager;
 class QNetworkReply;
 
@@ -21,7 +21,7 @@ public:
     // What the desktop program does at its start, in this order: the start-up report through
     // `appHelper`, then the configuration request. Neither waits for an answer. The command-line
     // tool never calls this: it must not phone home. `appHelper` has to outlive its request.
-    static void startupRequests(MacAppHelper& appHelper);
+    static void startupRequests(SXStartupReport& appHelper);
 
     // GET "/common_task/getconfig.php"; the answer updates the stored switches. Does nothing when
     // the service address is switched off.

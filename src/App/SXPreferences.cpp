@@ -19,31 +19,31 @@ int SXPreferences::maxTasksIndex() {
         QString::number(SXSettings::integerForKey(SXSettingsKey::MaxTask))));
 }
 
-void SXPreferences::clickMaxTasks(const QString& chosenTitle) {
+void SXPreferences::setMaxTasks(const QString& chosenTitle) {
     SXSettings::setValue(SXSettingsKey::MaxTask, chosenTitle.toInt());
     SXSettings::synchronize();
 }
 
-QStringList SXPreferences::iTunesFmtTitles() {
+QStringList SXPreferences::libraryFormatTitles() {
     return {QStringLiteral("AAC"), QStringLiteral("MP3")};
 }
 
-int SXPreferences::iTunesFmtIndex() {
-    return SXSettings::stringForKey(SXSettingsKey::iTunesFmt) == QLatin1String("AAC") ? 0 : 1;
+int SXPreferences::libraryFormatIndex() {
+    return SXSettings::stringForKey(SXSettingsKey::libraryFormat) == QLatin1String("AAC") ? 0 : 1;
 }
 
-void SXPreferences::clickiTunesFmt(int chosenIndex) {
-    SXSettings::setValue(SXSettingsKey::iTunesFmt,
+void SXPreferences::setLibraryFormat(int chosenIndex) {
+    SXSettings::setValue(SXSettingsKey::libraryFormat,
                          chosenIndex == 0 ? QStringLiteral("AAC") : QStringLiteral("MP3"));
     SXSettings::synchronize();
 }
 
 QString SXPreferences::playlistName() {
-    return SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+    return SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
 }
 
 void SXPreferences::controlTextDidChange(const QString& text) {
-    SXSettings::setValue(SXSettingsKey::iTunesPlaylistName, text);
+    SXSettings::setValue(SXSettingsKey::libraryPlaylistName, text);
     SXSettings::synchronize();
 }
 
@@ -51,7 +51,7 @@ bool SXPreferences::serviceConsent() {
     return SXServiceRequest::hasConsent();
 }
 
-void SXPreferences::clickServiceConsent(bool agreed) {
+void SXPreferences::setServiceConsent(bool agreed) {
     SXServiceRequest::setConsent(agreed);
 }
 

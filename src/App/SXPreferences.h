@@ -13,12 +13,12 @@ public:
     static QStringList maxTasksTitles();
     static int maxTasksIndex(); // -1 for a stored value that is not offered
     // Stores the number the chosen title reads as.
-    static void clickMaxTasks(const QString& chosenTitle);
+    static void setMaxTasks(const QString& chosenTitle);
 
     // The library format pop-up: index 0 stands for "AAC", 1 for "MP3".
-    static QStringList iTunesFmtTitles();
-    static int iTunesFmtIndex();
-    static void clickiTunesFmt(int chosenIndex);
+    static QStringList libraryFormatTitles();
+    static int libraryFormatIndex();
+    static void setLibraryFormat(int chosenIndex);
 
     static QString playlistName();
     // Every keystroke of the playlist field is stored as the whole text.
@@ -27,7 +27,7 @@ public:
     // Whether the start-up report and the feature switches may go over the network; off until
     // the user ticks it (SXServiceRequest).
     static bool serviceConsent();
-    static void clickServiceConsent(bool agreed);
+    static void setServiceConsent(bool agreed);
     // The address the requests go to, for the sentence that explains the check box.
     static QString serviceAddress();
 

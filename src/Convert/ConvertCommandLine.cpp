@@ -23,7 +23,7 @@ QString ConvertCommandLine::ffmpegPath() {
 QStringList ConvertCommandLine::arguments(const QString& executable, const LSMedia& media,
                                           const QString& outputFile) {
     const double bitrate = media.dAOBitrate();
-    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChanels();
+    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChannels();
     return {executable,
             QStringLiteral("-i"),
             media.filePath(),

@@ -92,8 +92,8 @@ void ConvertOperation::setStateLocked(int state) {
 }
 
 void ConvertOperation::tellFinish() {
-    if (m_delegate)
-        m_delegate->didConvertOperationFinish(this);
+    if (m_listener)
+        m_listener->didConvertOperationFinish(this);
 }
 
 void ConvertOperation::main() {
@@ -237,7 +237,7 @@ void ConvertOperation::decideOutcome() {
         fail(reason);
         return;
     }
-    if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToiTunes)) {
+    if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary)) {
         setState(CvtStateSending);
         SXLibraryScript::run(strOutFilePath());
     }
@@ -274,13 +274,13 @@ QString ConvertOperation::finishOutput() {
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {
     const SXMusicInfoPtr item = musicToConvert();
-    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !item->bIsSendingToiTunes())
+    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !item->bIsSendingToLibrary())
         return;
     setState(CvtStateSending);
-    if (m_delegate)
-        m_delegate->convertStartSync(this);
+    if (m_listener)
+        m_listener->convertStartSync(this);
     setState(CvtStateSending);
-    QString playlist = SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+    QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
     if (playlist.isEmpty())
         playlist = SXBundle::productName();
     ScriptBridgeHelper::syncItunesLibrary(playlist, outputFile);
@@ -366,14 +366,14 @@ void ConvertOperation::appendOutput(const QString& output) {
         return;
     media->setDProgress(update.progress);
     media->setDLeftTime(update.leftTime);
-    if (update.renewed && m_delegate)
-        m_delegate->convertOperationHandleProgress(this, media->dProgress());
+    if (update.renewed && m_listener)
+        m_listener->convertOperationHandleProgress(this, media->dProgress());
 }
 
 void ConvertOperation::processStarted() {
     bIsConverting = true;
-    if (m_delegate)
-        m_delegate->didConvertOperationStart(this);
+    if (m_listener)
+        m_listener->didConvertOperationStart(this);
 }
 
 void ConvertOperation::processFinished() {

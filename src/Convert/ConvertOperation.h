@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Convert/ConvertOperationDelegate.h"
+#include "Convert/ConvertOperationListener.h"
 #include "Convert/ConvertOutputFile.h"
 #include "Convert/ConvertProgressTracker.h"
 #include "Convert/SXOperation.h"
@@ -23,7 +23,7 @@ class TaskWrapper;
 // the tags, moves the file to a final name that replaces nothing and hands it to the music
 // library. Every failure carries its reason on the item's record.
 //
-// Threads: main() and every delegate callback run on the queue's worker thread. cancel(),
+// Threads: main() and every listener callback run on the queue's worker thread. cancel(),
 // pause() and resume() may come from any thread (normally the main one).
 class ConvertOperation : public SXOperation, public TaskWrapperController {
 public:
@@ -32,8 +32,8 @@ public:
 
     SXMusicInfoPtr musicToConvert() const;
     void setMusicToConvert(const SXMusicInfoPtr& item);
-    ConvertOperationDelegate* delegate() const { return m_delegate; }
-    void setDelegate(ConvertOperationDelegate* delegate) { m_delegate = delegate; }
+    ConvertOperationListener* listener() const { return m_listener; }
+    void setListener(ConvertOperationListener* listener) { m_listener = listener; }
     // Before main(): the output folder (empty = beside the source). From the moment main() has
     // claimed the output's name: that final name (the file appears there only when whole).
     QString strOutFilePath() const;
@@ -77,11 +77,11 @@ private:
     SXMusicInfoPtr _musicToConvert;
     std::atomic<bool> isUserCancel{false};
     std::atomic<int> iExitCode{0};
-    ConvertOperationDelegate* m_delegate = nullptr;
+    ConvertOperationListener* m_listener = nullptr;
     QString m_strOutFilePath;
 
     // Guards the wrapper's lifetime and the cancel decision against the worker, and the fields
-    // above that are strings or shared pointers. Never held while a delegate is called.
+    // above that are strings or shared pointers. Never held while a listener is called.
     mutable QMutex m_lock;
     QPointer<QEventLoop> m_waitLoop; // woken by cancel from another thread
     bool m_childEnded = false;       // outcome decided: cancel comes too late

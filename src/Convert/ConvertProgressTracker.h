@@ -11,7 +11,7 @@ public:
         bool hasTime = false; // the chunk carried a usable "time=hh:mm:ss"
         double progress = 0;  // per cent of the duration, not clamped
         double leftTime = 0;  // seconds remaining (the last estimate when not renewed)
-        bool renewed = false; // a new estimate was made: the delegate hears of it
+        bool renewed = false; // a new estimate was made: the listener hears of it
     };
 
     static constexpr double kInitialLeftTime = 1000.0;

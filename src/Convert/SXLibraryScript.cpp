@@ -17,7 +17,7 @@ const QString kMusicVariable = QStringLiteral("SONORIA_MUSIC_DIR");
 
 int SXLibraryScript::run(const QString& outputFile) {
     const QString script =
-        SXBundle::pathForResource(QStringLiteral("SyncToiTunesLibrary"), QStringLiteral("sh"));
+        SXBundle::pathForResource(QStringLiteral("sync-music-library"), QStringLiteral("sh"));
     if (script.isEmpty()) {
         SXLog::line(QStringLiteral("library script not found"));
         return -1;

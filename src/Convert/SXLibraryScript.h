@@ -2,7 +2,7 @@
 
 #include <QString>
 
-// The library script: resource "SyncToiTunesLibrary" (a POSIX shell script), run after a
+// The library script: resource "sync-music-library" (a POSIX shell script), run after a
 // successful conversion when the user asked for every converted file to go to the library.
 class SXLibraryScript {
 public:

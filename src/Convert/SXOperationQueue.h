@@ -31,7 +31,7 @@ public:
     void cancelAllOperations();
     // Blocks until every added operation has returned or been skipped. Do not call it from a
     // thread that the operations' callbacks wait for (for example the main thread when a
-    // delegate blocks on it).
+    // listener blocks on it).
     void waitUntilAllOperationsAreFinished();
 
 Q_SIGNALS:

@@ -37,7 +37,7 @@ void readFileAttributes(LSMedia& media) {
 void copyProbeToOutput(LSMedia& media) {
     media.setDAOBitrate(media.audioBitrate() / 1000.0);
     media.setDAOSamplerate(media.audioSamplerate());
-    media.setIAOChanels(media.audioChannels());
+    media.setIAOChannels(media.audioChannels());
 }
 
 // Everything after a good probe. Unreadable tags leave the handle empty; the item still loads.
@@ -74,12 +74,12 @@ std::shared_ptr<LSMediaLoader> LSMediaLoader::create() {
     return std::shared_ptr<LSMediaLoader>(new LSMediaLoader());
 }
 
-void LSMediaLoader::setDelegate(LSMediaLoaderDelegate* delegate) {
-    m_delegate.store(delegate);
+void LSMediaLoader::setListener(LSMediaLoaderListener* listener) {
+    m_listener.store(listener);
 }
 
-LSMediaLoaderDelegate* LSMediaLoader::delegate() const {
-    return m_delegate.load();
+LSMediaLoaderListener* LSMediaLoader::listener() const {
+    return m_listener.load();
 }
 
 SXMusicInfoList LSMediaLoader::aryMediasToLoad() const {
@@ -130,7 +130,7 @@ void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
             return;
         }
         const SXMusicInfoPtr& item = medias.at(i);
-        if (LSMediaLoaderDelegate* target = delegate())
+        if (LSMediaLoaderListener* target = listener())
             target->mediaLoaderStartLoadMusic(this, item);
 
         const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
@@ -149,7 +149,7 @@ void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
             }
             fillProbedItem(*item, *media);
         }
-        if (LSMediaLoaderDelegate* target = delegate())
+        if (LSMediaLoaderListener* target = listener())
             target->mediaLoaderDidReceiveProgress(this, double(i + 1) / count);
     }
     completeLoad(medias, failedIndex);
@@ -157,7 +157,7 @@ void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
 
 void LSMediaLoader::completeLoad(const std::optional<SXMusicInfoList>& medias,
                                  const std::optional<QSet<int>>& failedIndex) {
-    if (LSMediaLoaderDelegate* target = delegate())
+    if (LSMediaLoaderListener* target = listener())
         target->mediaLoaderDidCompleteLoadMedias(this, medias, failedIndex);
 }
 

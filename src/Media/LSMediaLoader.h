@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Media/LSMediaLoaderDelegate.h"
+#include "Media/LSMediaLoaderListener.h"
 
 #include <QMutex>
 #include <QWaitCondition>
@@ -8,7 +8,7 @@
 #include <memory>
 
 // Probes one batch of added items on its own worker thread: audio properties, file size and
-// date, and the tag handle of each item, reporting to its delegate as it goes. A loader serves a
+// date, and the tag handle of each item, reporting to its listener as it goes. A loader serves a
 // single batch; once cancelled it stays cancelled. The worker holds a reference to the loader,
 // so the caller may drop its own at any time.
 class LSMediaLoader : public std::enable_shared_from_this<LSMediaLoader> {
@@ -18,8 +18,8 @@ public:
     LSMediaLoader& operator=(const LSMediaLoader&) = delete;
 
     // Not owned; may be null. Set it before loading.
-    void setDelegate(LSMediaLoaderDelegate* delegate);
-    LSMediaLoaderDelegate* delegate() const;
+    void setListener(LSMediaLoaderListener* listener);
+    LSMediaLoaderListener* listener() const;
 
     // Starts a detached worker for a non-empty batch and returns at once. An empty batch is
     // completed on the calling thread before this returns.
@@ -41,7 +41,7 @@ private:
                       const std::optional<QSet<int>>& failedIndex);
     void workerFinished();
 
-    std::atomic<LSMediaLoaderDelegate*> m_delegate{nullptr};
+    std::atomic<LSMediaLoaderListener*> m_listener{nullptr};
     std::atomic<bool> m_bCanceled{false};
     mutable QMutex m_lock;
     QWaitCondition m_idle;

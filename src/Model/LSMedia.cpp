@@ -12,8 +12,8 @@
         field = value;                                                                             \
     }
 
-SX_LOCKED_PROPERTY(bool, bSampeQuality, setBSampeQuality, m_bSampeQuality)
-SX_LOCKED_PROPERTY(int, iAOChanels, setIAOChanels, m_iAOChanels)
+SX_LOCKED_PROPERTY(bool, bSampleQuality, setBSampleQuality, m_bSampleQuality)
+SX_LOCKED_PROPERTY(int, iAOChannels, setIAOChannels, m_iAOChannels)
 SX_LOCKED_PROPERTY(int, eumCvtState, setEumCvtState, m_eumCvtState)
 SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
 SX_LOCKED_PROPERTY(double, dAOBitrate, setDAOBitrate, m_dAOBitrate)
@@ -45,11 +45,11 @@ SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
 std::shared_ptr<LSMedia> LSMedia::copy() const {
     auto result = std::make_shared<LSMedia>();
     copyBaseTo(*result);
-    result->setBSampeQuality(bSampeQuality());
+    result->setBSampleQuality(bSampleQuality());
     result->setDAOBitrate(dAOBitrate());
     result->setDAOSamplerate(dAOSamplerate());
     result->setVOACodecName(vOACodecName());
-    result->setIAOChanels(iAOChanels());
+    result->setIAOChannels(iAOChannels());
     result->setDProgress(dProgress());
     result->setDLeftTime(dLeftTime());
     result->setEumCvtState(eumCvtState());
@@ -77,7 +77,7 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("eumMediaType"), eumMediaType());
     coder.encode(QStringLiteral("dAOBitrate"), dAOBitrate());
     coder.encode(QStringLiteral("dAOSamplerate"), dAOSamplerate());
-    coder.encode(QStringLiteral("iAOChannels"), iAOChanels());
+    coder.encode(QStringLiteral("iAOChannels"), iAOChannels());
     coder.encode(QStringLiteral("vOACodecName"), vOACodecName());
     coder.encode(QStringLiteral("strOutFileExt"), strOutFileExt());
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
@@ -88,14 +88,14 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
         return;
     HVMediaInfoItem::initWithCoder(coder);
     // Fields that are not archived come back empty, quality included.
-    setBSampeQuality(false);
+    setBSampleQuality(false);
     setStrLastModified(coder.decodeString(QStringLiteral("strLastModified")));
     setDFileSize(coder.decodeDouble(QStringLiteral("dFileSize")));
     setEumCvtState(coder.decodeInt(QStringLiteral("eumCvtState")));
     setEumMediaType(coder.decodeInt(QStringLiteral("eumMediaType")));
     setDAOBitrate(coder.decodeDouble(QStringLiteral("dAOBitrate")));
     setDAOSamplerate(coder.decodeDouble(QStringLiteral("dAOSamplerate")));
-    setIAOChanels(coder.decodeInt(QStringLiteral("iAOChannels")));
+    setIAOChannels(coder.decodeInt(QStringLiteral("iAOChannels")));
     setVOACodecName(coder.decodeString(QStringLiteral("vOACodecName")));
     setStrOutFileExt(coder.decodeString(QStringLiteral("strOutFileExt")));
     setStrOutFileName(coder.decodeString(QStringLiteral("strOutFileName")));
@@ -103,7 +103,7 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
 
 std::shared_ptr<LSMedia> LSMedia::decodeWithCoder(const SXCoder& coder) {
     auto media = std::make_shared<LSMedia>();
-    media->setBSampeQuality(false);
+    media->setBSampleQuality(false);
     media->initWithCoder(coder);
     return media;
 }

@@ -22,10 +22,10 @@ class LSMedia : public HVMediaInfoItem {
 public:
     LSMedia() = default;
 
-    bool bSampeQuality() const;
-    void setBSampeQuality(bool value);
-    int iAOChanels() const;
-    void setIAOChanels(int value);
+    bool bSampleQuality() const;
+    void setBSampleQuality(bool value);
+    int iAOChannels() const;
+    void setIAOChannels(int value);
     int eumCvtState() const;
     void setEumCvtState(int value);
     QString strLastModified() const;
@@ -61,8 +61,8 @@ public:
     static std::shared_ptr<LSMedia> decodeWithCoder(const SXCoder& coder);
 
 private:
-    bool m_bSampeQuality = true;
-    int m_iAOChanels = 0;
+    bool m_bSampleQuality = true;
+    int m_iAOChannels = 0;
     int m_eumCvtState = CvtStateReady;
     QString m_strLastModified;
     double m_dFileSize = 0;

@@ -44,7 +44,7 @@ SXDataEngine* SXDataEngine::shareInstance() {
 
 SXDataEngine::SXDataEngine(const QString& presetPath) {
     load(presetPath);
-    m_aryMainWndCltrs.reserve(5);
+    m_registeredWindows.reserve(5);
 }
 
 void SXDataEngine::load(const QString& presetPath) {
@@ -98,7 +98,7 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
     format->setStrImgFileName(entry.value(QStringLiteral("image")).toString());
     format->setOutputPath(SXFileLocalManager::getDefaultOutputDir(format->fmtName()));
     format->setDecodecName(getDecodecWithCodecName(defaultOf(entry, QStringLiteral("acodec"))));
-    format->setEnumAddToiTunes(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
+    format->setEnumAddToLibrary(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
     format->setAryChannels(choicesOf(entry.value(QStringLiteral("channel")).toMap()));
     format->setArySampleRate(choicesOf(entry.value(QStringLiteral("samplerate")).toMap()));
     format->setAryBiteRate(choicesOf(entry.value(QStringLiteral("abitrate")).toMap()));
@@ -109,7 +109,7 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
 // already has that extension, the first format that has it is copied into the third place, named
 // by the bare extension. The copy's description is the displaced record's generic object text.
 void SXDataEngine::placeMusicLibraryFormat() {
-    const QString ext = SXSettings::stringForKey(SXSettingsKey::iTunesFmt);
+    const QString ext = SXSettings::stringForKey(SXSettingsKey::libraryFormat);
     if (ext.isEmpty() || m_aryAFormats.size() <= kMusicLibrarySlot)
         return;
     const SXFormatSettingPtr displaced = m_aryAFormats.at(kMusicLibrarySlot);
@@ -164,18 +164,18 @@ QStringList SXDataEngine::getCanUseImageType() {
     return {QStringLiteral("PNG"), QStringLiteral("JPEG"), QStringLiteral("JPG")};
 }
 
-void SXDataEngine::addNewMainWndCtlr(SXWindowController* controller) {
+void SXDataEngine::registerWindow(SXWindowController* controller) {
     if (controller)
-        m_aryMainWndCltrs.append(controller);
+        m_registeredWindows.append(controller);
 }
 
-void SXDataEngine::removeMainWndCtlr(SXWindowController* controller) {
+void SXDataEngine::unregisterWindow(SXWindowController* controller) {
     if (controller)
-        m_aryMainWndCltrs.removeAll(controller);
+        m_registeredWindows.removeAll(controller);
 }
 
-SXWindowController* SXDataEngine::getKeyWindowCtlr() const {
-    for (SXWindowController* controller : m_aryMainWndCltrs) {
+SXWindowController* SXDataEngine::keyWindowRecord() const {
+    for (SXWindowController* controller : m_registeredWindows) {
         if (controller->isKeyWindow())
             return controller;
     }

@@ -40,11 +40,11 @@ public:
     QStringList getCanEditMetadataMusicType() const { return m_aryCanEditTagFmts; }
 
     // The registry. Adding the same controller twice lists it twice; removing removes every entry.
-    void addNewMainWndCtlr(SXWindowController* controller);
-    void removeMainWndCtlr(SXWindowController* controller);
-    const QList<SXWindowController*>& getAllMainWndCtlr() const { return m_aryMainWndCltrs; }
+    void registerWindow(SXWindowController* controller);
+    void unregisterWindow(SXWindowController* controller);
+    const QList<SXWindowController*>& registeredWindows() const { return m_registeredWindows; }
     // The first registered controller whose window is key, or nullptr.
-    SXWindowController* getKeyWindowCtlr() const;
+    SXWindowController* keyWindowRecord() const;
 
     // The preset file's "Devices" and "Formats" values, kept as read.
     QVariant aryDevices() const { return m_aryDevices; }
@@ -61,6 +61,6 @@ private:
     QVariant m_aryFormats;
     QList<SXFormatSettingPtr> m_aryAFormats;
     QHash<QString, QString> m_dicDecodeMaps;
-    QList<SXWindowController*> m_aryMainWndCltrs;
+    QList<SXWindowController*> m_registeredWindows;
     QStringList m_aryCanEditTagFmts;
 };

@@ -5,7 +5,7 @@ std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
     result->setFmtName(m_fmtName);
     result->setFmtDescribe(m_fmtDescribe);
     result->setSampleRate(m_sampleRate);
-    result->setBiteRate(m_biteRate);
+    result->setBiteRate(m_bitRate);
     result->setChannels(m_channels);
     // The lists are handed over, not duplicated: QStringList's implicit sharing keeps one list.
     result->setAryBiteRate(m_aryBiteRate);
@@ -15,7 +15,7 @@ std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
     result->setOutputExtName(m_outputExtName);
     result->setStrImgFileName(m_strImgFileName);
     result->setOutputPath(m_outputPath);
-    result->setEnumAddToiTunes(m_enumAddToiTunes);
+    result->setEnumAddToLibrary(m_enumAddToLibrary);
     return result;
 }
 

@@ -26,8 +26,8 @@ public:
     void setFmtDescribe(const QString& text) { m_fmtDescribe = text; }
     QString sampleRate() const { return m_sampleRate; }
     void setSampleRate(const QString& choice) { m_sampleRate = choice; }
-    QString biteRate() const { return m_biteRate; }
-    void setBiteRate(const QString& choice) { m_biteRate = choice; }
+    QString bitRate() const { return m_bitRate; }
+    void setBiteRate(const QString& choice) { m_bitRate = choice; }
     QString channels() const { return m_channels; }
     void setChannels(const QString& choice) { m_channels = choice; }
     QString decodecName() const { return m_decodecName; }
@@ -39,8 +39,8 @@ public:
     QString outputPath() const { return m_outputPath; }
     void setOutputPath(const QString& path) { m_outputPath = path; }
     // -1: no music-library option for this format, 0: offered and off, 1: offered and on.
-    int enumAddToiTunes() const { return m_enumAddToiTunes; }
-    void setEnumAddToiTunes(int value) { m_enumAddToiTunes = value; }
+    int enumAddToLibrary() const { return m_enumAddToLibrary; }
+    void setEnumAddToLibrary(int value) { m_enumAddToLibrary = value; }
 
     std::shared_ptr<SXFormatSetting> copy() const;
 
@@ -54,13 +54,13 @@ private:
     QString m_fmtName;
     QString m_fmtDescribe;
     QString m_sampleRate;
-    QString m_biteRate;
+    QString m_bitRate;
     QString m_channels;
     QString m_decodecName;
     QString m_outputExtName;
     QString m_strImgFileName;
     QString m_outputPath;
-    int m_enumAddToiTunes = 0;
+    int m_enumAddToLibrary = 0;
 };
 
 using SXFormatSettingPtr = std::shared_ptr<SXFormatSetting>;

@@ -33,11 +33,11 @@ QString SXMusicInfo::getStrMusicType() const {
 void SXMusicInfo::setStrMusicType(const QString& t) {
     sxLockedSet(m_lock, m_strMusicType, t);
 }
-QString SXMusicInfo::striTunesPlaylistName() const {
-    return sxLockedGet(m_lock, m_striTunesPlaylistName);
+QString SXMusicInfo::strLibraryPlaylistName() const {
+    return sxLockedGet(m_lock, m_strLibraryPlaylistName);
 }
-void SXMusicInfo::setStriTunesPlaylistName(const QString& n) {
-    sxLockedSet(m_lock, m_striTunesPlaylistName, n);
+void SXMusicInfo::setStrLibraryPlaylistName(const QString& n) {
+    sxLockedSet(m_lock, m_strLibraryPlaylistName, n);
 }
 std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
     return sxLockedGet(m_lock, m_metHandler);
@@ -72,8 +72,8 @@ std::shared_ptr<SXMusicInfo> SXMusicInfo::copy() const {
     const auto handle = metHandler();
     result->setMetHandler(handle ? handle->copy() : nullptr);
     result->setDConvertProgress(dConvertProgress());
-    result->setBIsSendingToiTunes(bIsSendingToiTunes());
-    result->setStriTunesPlaylistName(striTunesPlaylistName());
+    result->setBIsSendingToLibrary(bIsSendingToLibrary());
+    result->setStrLibraryPlaylistName(strLibraryPlaylistName());
     return result;
 }
 
@@ -81,10 +81,10 @@ QString SXMusicInfo::description() const {
     const LSMediaPtr media = mediaInfo();
     return QString::asprintf("P = %p, path = ", static_cast<const void*>(this)) +
            (media ? media->filePath() : QString()) + QStringLiteral(", name = ") + strMusicName() +
-           QString::asprintf(
-               ", sample = %f, birat = %f,             channel = %d, inFormateType = ",
-               media ? media->audioSamplerate() : 0.0, media ? media->audioBitrate() : 0.0,
-               media ? media->audioChannels() : 0) +
+           QString::asprintf(", sample = %f, birat = %f,             channel = %d, inFormatType = ",
+                             media ? media->audioSamplerate() : 0.0,
+                             media ? media->audioBitrate() : 0.0,
+                             media ? media->audioChannels() : 0) +
            getStrMusicType();
 }
 
@@ -105,8 +105,8 @@ void SXMusicInfo::encodeWithCoder(SXCoder& coder) const {
     }
     coder.encode(QStringLiteral("strMusicType"), getStrMusicType());
     coder.encode(QStringLiteral("dConvertProgress"), dConvertProgress());
-    coder.encode(QStringLiteral("bIsSendingToiTunes"), bIsSendingToiTunes());
-    coder.encode(QStringLiteral("striTunesPlaylistName"), striTunesPlaylistName());
+    coder.encode(QStringLiteral("bIsSendingToiTunes"), bIsSendingToLibrary());
+    coder.encode(QStringLiteral("striTunesPlaylistName"), strLibraryPlaylistName());
 }
 
 std::shared_ptr<SXMusicInfo> SXMusicInfo::decodeWithCoder(const SXCoder& coder) {
@@ -123,8 +123,8 @@ std::shared_ptr<SXMusicInfo> SXMusicInfo::decodeWithCoder(const SXCoder& coder) 
             MTEAudioFile::decodeWithCoder(coder.decodeObject(QStringLiteral("metInfo"))));
     item->setStrMusicType(coder.decodeString(QStringLiteral("strMusicType")));
     item->setDConvertProgress(coder.decodeDouble(QStringLiteral("dConvertProgress")));
-    item->setBIsSendingToiTunes(coder.decodeBool(QStringLiteral("bIsSendingToiTunes")));
-    item->setStriTunesPlaylistName(coder.decodeString(QStringLiteral("striTunesPlaylistName")));
+    item->setBIsSendingToLibrary(coder.decodeBool(QStringLiteral("bIsSendingToiTunes")));
+    item->setStrLibraryPlaylistName(coder.decodeString(QStringLiteral("striTunesPlaylistName")));
     return item;
 }
 

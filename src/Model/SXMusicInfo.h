@@ -36,10 +36,10 @@ public:
     void setStrMusicType(const QString& type);
     double dConvertProgress() const { return m_dConvertProgress.load(); }
     void setDConvertProgress(double value) { m_dConvertProgress.store(value); }
-    bool bIsSendingToiTunes() const { return m_bIsSendingToiTunes.load(); }
-    void setBIsSendingToiTunes(bool value) { m_bIsSendingToiTunes.store(value); }
-    QString striTunesPlaylistName() const;
-    void setStriTunesPlaylistName(const QString& name);
+    bool bIsSendingToLibrary() const { return m_bIsSendingToLibrary.load(); }
+    void setBIsSendingToLibrary(bool value) { m_bIsSendingToLibrary.store(value); }
+    QString strLibraryPlaylistName() const;
+    void setStrLibraryPlaylistName(const QString& name);
     std::shared_ptr<MTEAudioFile> metHandler() const;
     void setMetHandler(const std::shared_ptr<MTEAudioFile>& handle);
 
@@ -70,8 +70,8 @@ private:
     LSMediaPtr m_mediaInfo;
     QString m_strMusicType;
     std::atomic<double> m_dConvertProgress{SXProgress::Waiting};
-    std::atomic<bool> m_bIsSendingToiTunes{false};
-    QString m_striTunesPlaylistName;
+    std::atomic<bool> m_bIsSendingToLibrary{false};
+    QString m_strLibraryPlaylistName;
     std::shared_ptr<MTEAudioFile> m_metHandler;
 };
 

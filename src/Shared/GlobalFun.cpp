@@ -314,7 +314,7 @@ QString GlobalFun::makeSureFullPathIdentical(const QString& path, const QString&
     }
 }
 
-bool GlobalFun::MakeSureFolderExsist(const QString& path) {
+bool GlobalFun::makeSureFolderExists(const QString& path) {
     if (path.isEmpty())
         return false;
     if (QFileInfo(path).isDir())

@@ -31,7 +31,7 @@ public:
     static QString makeSureFullPathIdentical(const QString& path, const QString& ext,
                                              const std::function<bool(const QString&)>& taken = {});
     // True when a folder exists at `path` afterwards (created with its parents when missing).
-    static bool MakeSureFolderExsist(const QString& path);
+    static bool makeSureFolderExists(const QString& path);
     // Full paths of the files below `dir` whose extension matches `filter` (case-insensitive),
     // depth first. Symbolic links are followed, yet every folder is scanned at most once.
     // Folders that cannot be listed, and names that are not valid UTF-8 (files with a matching

@@ -66,10 +66,10 @@ void SXSettings::synchronize() {
 void SXSettings::setPreferenceValue() {
     if (integerForKey(SXSettingsKey::MaxTask) == 0)
         setValue(SXSettingsKey::MaxTask, 5);
-    if (stringForKey(SXSettingsKey::iTunesFmt).isEmpty())
-        setValue(SXSettingsKey::iTunesFmt, QStringLiteral("AAC"));
-    if (stringForKey(SXSettingsKey::iTunesPlaylistName).isEmpty())
-        setValue(SXSettingsKey::iTunesPlaylistName, QStringLiteral("Sonoria"));
+    if (stringForKey(SXSettingsKey::libraryFormat).isEmpty())
+        setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
+    if (stringForKey(SXSettingsKey::libraryPlaylistName).isEmpty())
+        setValue(SXSettingsKey::libraryPlaylistName, QStringLiteral("Sonoria"));
     synchronize();
 }
 

@@ -7,12 +7,12 @@
 // "corrected": existing users' files carry them.
 namespace SXSettingsKey {
 inline const QString MaxTask = QStringLiteral("com.sx.MaxTastKey");
-inline const QString iTunesFmt = QStringLiteral("com.sx.iTunesFmtKey");
-inline const QString iTunesPlaylistName = QStringLiteral("com.sx.iTunesPlaylistNameKey");
+inline const QString libraryFormat = QStringLiteral("com.sx.iTunesFmtKey");
+inline const QString libraryPlaylistName = QStringLiteral("com.sx.iTunesPlaylistNameKey");
 inline const QString DefaultOutputPath = QStringLiteral("DEFAULT_OUTPUT_PATH_KEY");
 inline const QString DefaultSetOrganized = QStringLiteral("DEFAUTL_SET_ORIGANIZED_KEY");
 inline const QString DefaultSetOpen = QStringLiteral("DEFAULT_SET_OPEN_KEY");
-inline const QString AppBSyncToiTunes = QStringLiteral("AppBSyncToiTunesKey");
+inline const QString AppBSyncToLibrary = QStringLiteral("AppBSyncToiTunesKey");
 inline const QString AppSupportVob = QStringLiteral("bAppSupportVob");
 inline const QString SupportVOB = QStringLiteral("SupportVOBKey");
 inline const QString Experimental = QStringLiteral("ExperimentalKey");

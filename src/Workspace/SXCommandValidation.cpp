@@ -8,7 +8,7 @@ SXCommandContext SXCommandContext::of(const SXWorkspace* primary, const SXWorksp
     SXCommandContext context;
     if (primary) {
         context.state = primary->enumAppState();
-        context.count = primary->getCurentTabMusicCount();
+        context.count = primary->currentTabItemCount();
         context.primaryIsKey = primary->isKeyWindow();
     }
     if (key) {

@@ -37,7 +37,7 @@ namespace SXContainerMemory {
 void storeChoices(const SXFormatSetting& setting) {
     if (setting.fmtName().isEmpty())
         return;
-    const QJsonObject choices{{kBitRate, setting.biteRate()},
+    const QJsonObject choices{{kBitRate, setting.bitRate()},
                               {kSampleRate, setting.sampleRate()},
                               {kChannels, setting.channels()}};
     SXSettings::setValue(choicesKey(setting.fmtName()),

@@ -26,11 +26,11 @@ SXFormatChooser::Choices SXFormatChooser::changeFormatSelect(const QString& name
     choices.bitRates = format->aryBiteRate();
     choices.channels = format->aryChannels();
     choices.sampleRates = format->arySampleRate();
-    choices.bitRate = format->biteRate();
+    choices.bitRate = format->bitRate();
     choices.channel = format->channels();
     choices.sampleRate = format->sampleRate();
-    choices.libraryVisible = format->enumAddToiTunes() != -1;
-    choices.libraryOn = format->enumAddToiTunes() == 1;
+    choices.libraryVisible = format->enumAddToLibrary() != -1;
+    choices.libraryOn = format->enumAddToLibrary() == 1;
     return choices;
 }
 
@@ -42,7 +42,7 @@ SXFormatSettingPtr SXFormatChooser::getFormatSettingResult(const Selection& sele
     result->setSampleRate(selection.sampleRate);
     result->setBiteRate(selection.bitRate);
     result->setChannels(selection.channel);
-    if (result->enumAddToiTunes() != -1)
-        result->setEnumAddToiTunes(selection.libraryOn ? 1 : 0);
+    if (result->enumAddToLibrary() != -1)
+        result->setEnumAddToLibrary(selection.libraryOn ? 1 : 0);
     return result;
 }

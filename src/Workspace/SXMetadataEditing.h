@@ -14,13 +14,12 @@
 
 // What the tag editor asks the workspace that opened it: whether there is a previous (0) or a
 // next (1) item in the shown list, and that item, with its row selected.
-class SXMetadataEditWndCtlrDelegate {
+class SXMetadataEditListener {
 public:
-    virtual ~SXMetadataEditWndCtlrDelegate() = default;
-    virtual bool isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
-                                                         int function) const = 0;
-    virtual SXMusicInfoPtr metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
-                                                           int function) = 0;
+    virtual ~SXMetadataEditListener() = default;
+    virtual bool canMetadataEditorPerform(const SXMusicInfoPtr& editing, int function) const = 0;
+    virtual SXMusicInfoPtr metadataEditorAsksForItem(const SXMusicInfoPtr& editing,
+                                                     int function) = 0;
 };
 
 // The tag editor's decisions, without its window: which fields it shows and which tag each one

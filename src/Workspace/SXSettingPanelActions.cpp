@@ -8,35 +8,35 @@
 #include <QDir>
 #include <QFileInfo>
 
-void SXSettingPanelActions::clickPopBitRiate(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setBitRate(SXWorkspaceData& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setBiteRate(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::clickPopSampRiate(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setSampleRate(SXWorkspaceData& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setSampleRate(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::clickPopChannelRiate(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setChannels(SXWorkspaceData& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setChannels(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::clickAddToiTunes(SXWorkspaceData& workspace, bool on) {
+void SXSettingPanelActions::setAddToLibrary(SXWorkspaceData& workspace, bool on) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
-        setting->setEnumAddToiTunes(on ? 1 : 0);
+        setting->setEnumAddToLibrary(on ? 1 : 0);
         workspace.setFmtSetting(setting);
     }
 }
 
-void SXSettingPanelActions::clickSavePath(SXWorkspaceData& workspace, const QString& folder) {
+void SXSettingPanelActions::setOutputFolder(SXWorkspaceData& workspace, const QString& folder) {
     const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
     if (setting && !folder.isEmpty())
         setting->setOutputPath(folder);
@@ -60,7 +60,7 @@ QString SXSettingPanelActions::revealFolder(const SXWorkspaceData& workspace) {
     return folder;
 }
 
-void SXSettingPanelActions::clickReveal(SXWorkspaceData& workspace) {
+void SXSettingPanelActions::revealOutputFolder(SXWorkspaceData& workspace) {
     if (workspace.presenter())
         workspace.presenter()->openFolder(revealFolder(workspace));
 }

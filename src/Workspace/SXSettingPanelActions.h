@@ -9,12 +9,12 @@ class SXWorkspaceData;
 // start of the program (SXContainerMemory).
 class SXSettingPanelActions {
 public:
-    static void clickPopBitRiate(SXWorkspaceData& workspace, const QString& title);
-    static void clickPopSampRiate(SXWorkspaceData& workspace, const QString& title);
-    static void clickPopChannelRiate(SXWorkspaceData& workspace, const QString& title);
+    static void setBitRate(SXWorkspaceData& workspace, const QString& title);
+    static void setSampleRate(SXWorkspaceData& workspace, const QString& title);
+    static void setChannels(SXWorkspaceData& workspace, const QString& title);
     // Refills the panel afterwards, as the setting now reads.
-    static void clickAddToiTunes(SXWorkspaceData& workspace, bool on);
-    static void clickSavePath(SXWorkspaceData& workspace, const QString& folder);
+    static void setAddToLibrary(SXWorkspaceData& workspace, bool on);
+    static void setOutputFolder(SXWorkspaceData& workspace, const QString& folder);
     // The selected container's output folder as the next Start would offer it: the stored output
     // folder (else the default one), with the format's folder when output is organised by format.
     static QString containerOutputFolder(const SXWorkspaceData& workspace);
@@ -22,5 +22,5 @@ public:
     // showing creates nothing.
     static QString revealFolder(const SXWorkspaceData& workspace);
     // Asks the presenter to open revealFolder().
-    static void clickReveal(SXWorkspaceData& workspace);
+    static void revealOutputFolder(SXWorkspaceData& workspace);
 };

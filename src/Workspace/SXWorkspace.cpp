@@ -9,14 +9,14 @@
 SXWorkspace::SXWorkspace(QObject* parent)
     : SXWorkspaceScheduler(parent) {
     removeallTabs();
-    SXDataEngine::shareInstance()->addNewMainWndCtlr(this);
+    SXDataEngine::shareInstance()->registerWindow(this);
     m_registered = true;
     sxAssertSignalsOnOwnerThread(this);
 }
 
 SXWorkspace::~SXWorkspace() {
     if (m_registered)
-        SXDataEngine::shareInstance()->removeMainWndCtlr(this);
+        SXDataEngine::shareInstance()->unregisterWindow(this);
 }
 
 void SXWorkspace::reNewDefaultWindow() {
@@ -27,7 +27,7 @@ void SXWorkspace::reNewDefaultWindow() {
 }
 
 void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) {
-    const bool last = SXDataEngine::shareInstance()->getAllMainWndCtlr().size() < 2;
+    const bool last = SXDataEngine::shareInstance()->registeredWindows().size() < 2;
     if (!last || getTotalNeedConvertMusic() == 0) {
         closeAfterAnswer(last);
         decided(true);
@@ -52,12 +52,12 @@ void SXWorkspace::closeAfterAnswer(bool last) {
     abandonRun();
     if (last) {
         for (const QString& name : containerNames())
-            createArrayForFormate(name);
+            createListForFormat(name);
         refreshListView();
         refreshTabCount();
         Q_EMIT lastWorkspaceClosing();
     }
-    SXDataEngine::shareInstance()->removeMainWndCtlr(this);
+    SXDataEngine::shareInstance()->unregisterWindow(this);
     m_registered = false;
     disconnect(SXWorkspaceNotifier::defaultCenter(), nullptr, this, nullptr);
 }
@@ -65,7 +65,7 @@ void SXWorkspace::closeAfterAnswer(bool last) {
 void SXWorkspace::registerAgain() {
     if (m_registered)
         return;
-    SXDataEngine::shareInstance()->addNewMainWndCtlr(this);
+    SXDataEngine::shareInstance()->registerWindow(this);
     m_registered = true;
     connectNotifier();
 }

@@ -12,7 +12,7 @@
 //
 // A headless run: set a presenter, addDefaultTabs(), selectContainer(name),
 // loadAndParseFiles(paths) and wait for loadFinished(); then doRealConverterTask(folder) (or
-// clickStart(), which asks the presenter for the folder) and wait for runFinished() or for
+// toggleRun(), which asks the presenter for the folder) and wait for runFinished() or for
 // appStateChanged(AppStateIdle). Everything is called on the thread that runs the event loop.
 class SXWorkspace : public SXWorkspaceScheduler, public SXWindowController {
     Q_OBJECT

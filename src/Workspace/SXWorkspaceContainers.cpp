@@ -105,7 +105,7 @@ void SXWorkspaceContainers::selectTab(int index) {
     if (SXFormatSettingPtr setting = getSelectedTabFormatSetting())
         Q_EMIT formatSettingShown(setting);
     refreshListView();
-    setSelectedRows(getCurentTabMusicCount() > 0 ? QList<int>{0} : QList<int>{});
+    setSelectedRows(currentTabItemCount() > 0 ? QList<int>{0} : QList<int>{});
 }
 
 bool SXWorkspaceContainers::selectContainer(const QString& name) {
@@ -184,7 +184,7 @@ QList<SXFormatSettingPtr> SXWorkspaceContainers::formatsWithoutContainer() const
     return formats;
 }
 
-void SXWorkspaceContainers::clickAddNewFormat() {
+void SXWorkspaceContainers::addContainer() {
     const QList<SXFormatSettingPtr> formats = formatsWithoutContainer();
     if (formats.isEmpty()) {
         runAlert({QStringLiteral(
@@ -216,7 +216,7 @@ void SXWorkspaceContainers::addContainerWithFormat(const SXFormatSettingPtr& set
         QMutexLocker locker(&m_dataLock);
         m_tabLabels.last() = name;
     }
-    createArrayForFormate(name);
+    createListForFormat(name);
     emitTabs();
     Q_EMIT formatSettingShown(setting);
     refreshListView();

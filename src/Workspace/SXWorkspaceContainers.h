@@ -30,7 +30,7 @@ public:
     bool disableTabClose(const QString& label) const;
     bool shouldCloseTab(const QString& label);
     // Adds a container through the format chooser of the presenter.
-    void clickAddNewFormat();
+    void addContainer();
     // The formats that have no container yet, in catalogue order: what the chooser offers.
     QList<SXFormatSettingPtr> formatsWithoutContainer() const;
     // The end of the chooser with OK: a new last tab for `setting`, selected.

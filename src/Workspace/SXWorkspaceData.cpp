@@ -83,11 +83,11 @@ SXFormatSettingPtr SXWorkspaceData::getSelectedTabFormatSetting() const {
     return getFormatSettingForFormatName(getSelectedMusicFormat());
 }
 
-int SXWorkspaceData::getCurentTabMusicCount() const {
+int SXWorkspaceData::currentTabItemCount() const {
     return int(getCurTableDatasource().size());
 }
 
-void SXWorkspaceData::createArrayForFormate(const QString& name) {
+void SXWorkspaceData::createListForFormat(const QString& name) {
     if (name.isEmpty())
         return;
     QMutexLocker locker(&m_dataLock);

@@ -57,8 +57,8 @@ public:
     QString getSelectedMusicFormat() const;
     SXMusicInfoList getCurTableDatasource() const;
     SXFormatSettingPtr getSelectedTabFormatSetting() const;
-    int getCurentTabMusicCount() const;
-    void createArrayForFormate(const QString& name);
+    int currentTabItemCount() const;
+    void createListForFormat(const QString& name);
     void refreshTabCount();
     // Every container name that holds a list: tab order first, then any others by name.
     QStringList containerNames() const;

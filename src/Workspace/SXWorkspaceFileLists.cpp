@@ -50,7 +50,7 @@ SXWorkspaceFileLists::SXWorkspaceFileLists(QObject* parent)
 SXWorkspaceFileLists::~SXWorkspaceFileLists() {
     // A worker that still runs must not report to a workspace that is gone.
     if (m_mediaLoader) {
-        m_mediaLoader->setDelegate(nullptr);
+        m_mediaLoader->setListener(nullptr);
         m_mediaLoader->cancel();
         m_mediaLoader->waitUntilDone();
     }
@@ -66,9 +66,9 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     setAppState(AppStateLoading);
 
     if (m_mediaLoader)
-        m_mediaLoader->setDelegate(nullptr);
+        m_mediaLoader->setListener(nullptr);
     m_mediaLoader = LSMediaLoader::create();
-    m_mediaLoader->setDelegate(this);
+    m_mediaLoader->setListener(this);
 
     // Scanning folders and making the items of a large drop takes a while: the batch is made
     // on a thread of its own from what the container holds now, then handed to the loader.
@@ -183,7 +183,7 @@ void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
 void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
     m_loadProgress.flush();
     refreshListView();
-    if (selectedRows().isEmpty() && getCurentTabMusicCount() > 0)
+    if (selectedRows().isEmpty() && currentTabItemCount() > 0)
         setSelectedRows({0});
     refreshTabCount();
     // Nothing waits for the alert's answer: the run ends while it shows.
@@ -214,7 +214,7 @@ QString SXWorkspaceFileLists::loadFailureDetails(const SXMusicInfoList& failed) 
     return SXFailureTexts::detailLines(failures);
 }
 
-void SXWorkspaceFileLists::clickCancel() {
+void SXWorkspaceFileLists::cancelLoading() {
     if (enumAppState() == AppStateLoading && m_mediaLoader)
         m_mediaLoader->cancel();
     Q_EMIT loadCancelled();
@@ -244,7 +244,7 @@ void SXWorkspaceFileLists::removeFile(const SXMusicInfoList& items, const QStrin
     refreshTabCount();
 }
 
-void SXWorkspaceFileLists::clickDeleteFile() {
+void SXWorkspaceFileLists::removeSelected() {
     if (refusedDuringRun())
         return;
     const SXMusicInfoList items = selectedItems();
@@ -260,7 +260,7 @@ void SXWorkspaceFileLists::clickDeleteFile() {
     refreshListView();
 }
 
-void SXWorkspaceFileLists::clickClear() {
+void SXWorkspaceFileLists::clearContainer() {
     if (refusedDuringRun())
         return;
     const SXMusicInfoList items = getCurTableDatasource();
@@ -298,15 +298,15 @@ SXWorkspaceFileLists::getDuplicateFiles(const SXMusicInfoList& items,
 
 // --- The tag editor's neighbours ---
 
-bool SXWorkspaceFileLists::isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
-                                                                   int function) const {
+bool SXWorkspaceFileLists::canMetadataEditorPerform(const SXMusicInfoPtr& editing,
+                                                    int function) const {
     const SXMusicInfoList list = getCurTableDatasource();
     const int index = indexMusicItem(editing, list);
     return function == 0 ? index > 0 : index >= 0 && index < list.size() - 1;
 }
 
-SXMusicInfoPtr SXWorkspaceFileLists::metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
-                                                                     int function) {
+SXMusicInfoPtr SXWorkspaceFileLists::metadataEditorAsksForItem(const SXMusicInfoPtr& editing,
+                                                               int function) {
     const SXMusicInfoList list = getCurTableDatasource();
     const int index = indexMusicItem(editing, list) + (function == 0 ? -1 : 1);
     if (indexMusicItem(editing, list) < 0 || index < 0 || index >= list.size())

@@ -11,8 +11,8 @@
 // The file lists of a workspace: adding files (an add run probes them on a loader's worker
 // thread), removing and finding items.
 class SXWorkspaceFileLists : public SXWorkspaceContainers,
-                             public LSMediaLoaderDelegate,
-                             public SXMetadataEditWndCtlrDelegate {
+                             public LSMediaLoaderListener,
+                             public SXMetadataEditListener {
     Q_OBJECT
 public:
     explicit SXWorkspaceFileLists(QObject* parent = nullptr);
@@ -24,7 +24,7 @@ public:
     // (state back to idle).
     void loadAndParseFiles(const QStringList& paths);
     // The loading sheet's cancel button.
-    void clickCancel();
+    void cancelLoading();
     // The end of an add run on the main thread; `failed` are the items that could not be probed.
     void mainSelCompleteLoad(const SXMusicInfoList& failed);
     LSMediaLoaderPtr mediaLoader() const { return m_mediaLoader; }
@@ -46,7 +46,7 @@ public:
     // Every failed item with its folder and the loader's reason, one a line.
     static QString loadFailureDetails(const SXMusicInfoList& failed);
 
-    // LSMediaLoaderDelegate (worker thread)
+    // LSMediaLoaderListener (worker thread)
     void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) override;
     void mediaLoaderDidReceiveProgress(LSMediaLoader* loader, double progress) override;
     void mediaLoaderDidCompleteLoadMedias(LSMediaLoader* loader,
@@ -59,17 +59,15 @@ public:
     void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
     // Delete and Clear, from the buttons, the menu and the list's keys: refused with a beep
     // during a run.
-    void clickDeleteFile();
-    void clickClear();
+    void removeSelected();
+    void clearContainer();
     static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
     static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
                                              const SXMusicInfoList& inSelectedTableView);
 
-    // SXMetadataEditWndCtlrDelegate: the tag editor steps through the shown list.
-    bool isMetadataEditWndCltrCanPerformFunction(const SXMusicInfoPtr& editing,
-                                                 int function) const override;
-    SXMusicInfoPtr metadataEditWndCltrAskMusicInfo(const SXMusicInfoPtr& editing,
-                                                   int function) override;
+    // SXMetadataEditListener: the tag editor steps through the shown list.
+    bool canMetadataEditorPerform(const SXMusicInfoPtr& editing, int function) const override;
+    SXMusicInfoPtr metadataEditorAsksForItem(const SXMusicInfoPtr& editing, int function) override;
 
 Q_SIGNALS:
     // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader

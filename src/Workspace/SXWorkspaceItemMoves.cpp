@@ -22,7 +22,7 @@ SXWorkspaceItemMoves::~SXWorkspaceItemMoves() = default;
 
 void SXWorkspaceItemMoves::moveSelectedTo(int direction) {
     const QList<int> rows = selectedRows();
-    const int count = getCurentTabMusicCount();
+    const int count = currentTabItemCount();
     const int row = rows.isEmpty() ? -1 : rows.first();
     if (count == 0 || (row == 0 && direction >= 1) || (row == count - 1 && direction < 0)) {
         beep();

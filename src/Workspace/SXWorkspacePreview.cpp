@@ -86,7 +86,7 @@ void SXWorkspacePreview::myListViewCelClickStopPlay(const SXMusicInfoPtr& item) 
 
 // --- Gestures ---
 
-void SXWorkspacePreview::clickPlayButton(const SXMusicInfoPtr& item) {
+void SXWorkspacePreview::togglePlay(const SXMusicInfoPtr& item) {
     if (!m_player || !item || enumAppState() == AppStateConverting)
         return;
     if (sameItem(item, m_player->playingMusic()) && m_player->isPlaying()) {
@@ -102,13 +102,13 @@ void SXWorkspacePreview::clickPlayButton(const SXMusicInfoPtr& item) {
     myListViewCelClickStartPlay(item);
 }
 
-void SXWorkspacePreview::clickPlaySelected() {
+void SXWorkspacePreview::playSelected() {
     const SXMusicInfoList items = selectedItems();
     if (items.isEmpty()) {
         beep();
         return;
     }
-    clickPlayButton(items.first());
+    togglePlay(items.first());
 }
 
 void SXWorkspacePreview::playRow(int row) {

@@ -31,9 +31,9 @@ public:
     // --- Gestures ---
     // A row's play button: stops the item's preview when it plays, otherwise plays it. Nothing
     // during a run.
-    void clickPlayButton(const SXMusicInfoPtr& item);
+    void togglePlay(const SXMusicInfoPtr& item);
     // Space: the play button of the first selected row.
-    void clickPlaySelected();
+    void playSelected();
     // A double-click on a row of the shown list: plays it unless it already plays.
     void playRow(int row);
     void pauseOrResumePreview();

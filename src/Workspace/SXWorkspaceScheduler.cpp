@@ -36,9 +36,9 @@ SXWorkspaceScheduler::~SXWorkspaceScheduler() {
 
 // --- Start ---
 
-void SXWorkspaceScheduler::clickStart() {
+void SXWorkspaceScheduler::toggleRun() {
     if (enumAppState() == AppStateConverting) {
-        clickCancelAll();
+        cancelAll();
         return;
     }
     QString path = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
@@ -103,7 +103,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
     m_totalConvertOps = getTotalNeedConvertMusic();
     startConvertOperation();
-    const QString playlist = SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName);
+    const QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
 
     // Every item is queued again at each Start, whatever an earlier run made of it. All are
     // prepared before the first is queued: the first conversions' start-up would otherwise
@@ -121,7 +121,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
             copyChoicesInto(item, *setting, playlist);
             auto operation = std::make_shared<ConvertOperation>(item);
             operation->setStrOutFilePath(output);
-            operation->setDelegate(this);
+            operation->setListener(this);
             operations.push_back(std::move(operation));
         }
     }
@@ -146,18 +146,18 @@ void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
     const QString useSource = QStringLiteral("Use Source");
     media->setDProgress(0);
     media->setFailReason(QString());
-    media->setDAOBitrate(setting.biteRate() == useSource ? media->audioBitrate() / 1000
-                                                         : choiceValue(setting.biteRate()));
+    media->setDAOBitrate(setting.bitRate() == useSource ? media->audioBitrate() / 1000
+                                                        : choiceValue(setting.bitRate()));
     media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
                                                               : choiceValue(setting.sampleRate()));
     if (setting.channels() == useSource)
-        media->setIAOChanels(media->audioChannels());
+        media->setIAOChannels(media->audioChannels());
     else
-        media->setIAOChanels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
+        media->setIAOChannels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
     media->setVOACodecName(setting.decodecName());
     media->setStrOutFileExt(setting.outputExtName());
-    item->setBIsSendingToiTunes(setting.enumAddToiTunes() == 1);
-    item->setStriTunesPlaylistName(playlist);
+    item->setBIsSendingToLibrary(setting.enumAddToLibrary() == 1);
+    item->setStrLibraryPlaylistName(playlist);
 }
 
 double SXWorkspaceScheduler::choiceValue(const QString& choice) {
@@ -172,7 +172,7 @@ void SXWorkspaceScheduler::startConvertOperation() {
     Q_EMIT totalProgressChanged(0.0);
 }
 
-void SXWorkspaceScheduler::setConvertOperationFinshed() {
+void SXWorkspaceScheduler::setConvertOperationFinished() {
     setAppState(AppStateIdle);
 }
 
@@ -185,10 +185,10 @@ void SXWorkspaceScheduler::abandonRun() {
         _timerToRefresh = nullptr;
     }
     if (_queueConvertTask) {
-        clickCancelAll();
+        cancelAll();
         _queueConvertTask->waitUntilAllOperationsAreFinished();
     }
-    setConvertOperationFinshed();
+    setConvertOperationFinished();
 }
 
 // --- Progress ---
@@ -214,7 +214,7 @@ void SXWorkspaceScheduler::finishRun() {
     }
     if (!_queueConvertTask || _queueConvertTask->operationCount() == 0)
         QMetaObject::invokeMethod(
-            this, [this] { setConvertOperationFinshed(); }, Qt::QueuedConnection);
+            this, [this] { setConvertOperationFinished(); }, Qt::QueuedConnection);
 
     int succeeded = 0;
     SXPathFailureList failures;
@@ -285,7 +285,7 @@ int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
 
 // --- Cancel ---
 
-void SXWorkspaceScheduler::clickCancelAll() {
+void SXWorkspaceScheduler::cancelAll() {
     if (!_queueConvertTask)
         return;
     for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
@@ -323,7 +323,7 @@ ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusi
     return nullptr;
 }
 
-void SXWorkspaceScheduler::didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item) {
+void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
     const int state = enumAppState();
     if (state == AppStateIdle || state == AppStatePlaying) {
         const int row = indexMusicItem(item, getCurTableDatasource());

@@ -17,24 +17,24 @@
 //
 // Threads: the operation callbacks come on queue workers; they only store the item's progress
 // value and hand the signals to the main thread. Everything else runs on the main thread.
-class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationDelegate {
+class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationListener {
     Q_OBJECT
 public:
     explicit SXWorkspaceScheduler(QObject* parent = nullptr);
     ~SXWorkspaceScheduler() override;
 
     // Start, or Stop during a run.
-    void clickStart();
+    void toggleRun();
     // Starts the run into `folder` (per container below it when organising by format). When an
     // output folder cannot be made or written, no child starts: the user is told which folder
     // and why (an alert, and runRefused) and this returns false.
     bool doRealConverterTask(const QString& folder);
     void startConvertOperation();
-    void setConvertOperationFinshed();
+    void setConvertOperationFinished();
     int getTotalNeedConvertMusic() const;
     // Fraction 0..1 over every item (0 without items).
     double getTotalConvertProgress() const;
-    void clickCancelAll();
+    void cancelAll();
     // Ends a run for good, without its summary: every conversion is cancelled, the children are
     // waited for (their partial files are gone when this returns) and the state is idle. For a
     // window that closes or a program that quits during a run.
@@ -44,7 +44,7 @@ public:
     ConvertOperationPtr findOperationForMusicInfo(const SXMusicInfoPtr& item);
     // A row's right button: the tag editor when idle or playing; during a run it cancels that
     // row's own conversion while it waits or converts, and does nothing once it has ended.
-    void didMyListViewCellRightButtonClick(const SXMusicInfoPtr& item);
+    void cancelOrEditTags(const SXMusicInfoPtr& item);
 
     // The run's parallelism instead of the stored maximum, without storing it (nullopt: the
     // stored maximum again). Kept until changed.
@@ -63,7 +63,7 @@ public:
     // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
     static double choiceValue(const QString& choice);
 
-    // ConvertOperationDelegate (worker threads)
+    // ConvertOperationListener (worker threads)
     void didConvertOperationStart(ConvertOperation* operation) override;
     void convertOperationHandleProgress(ConvertOperation* operation, double percent) override;
     void convertStartSync(ConvertOperation* operation) override;

@@ -1,6 +1,6 @@
 #include "App/HVConfigManager.h"
-#include "App/MacAppHelper.h"
 #include "App/SXServiceRequest.h"
+#include "App/SXStartupReport.h"
 #include "Shared/GlobalFun.h"
 #include "Shared/SXBundle.h"
 #include "Shared/SXSettings.h"
@@ -150,13 +150,13 @@ private Q_SLOTS:
         SXSettings::setValue(SXSettingsKey::ServiceBaseURL, server.baseURL());
         QSignalSpy finished(config(), &HVConfigManager::onlineConfigFinished);
         {
-            MacAppHelper helper;
+            SXStartupReport helper;
             HVConfigManager::startupRequests(helper);
             QVERIFY(finished.wait(kWaitMs));
             QTRY_COMPARE_WITH_TIMEOUT(server.requests.size(), 2, kWaitMs);
         }
         SXSettings::setValue(SXSettingsKey::ServiceBaseURL, server.baseURL() + QLatin1Char('/'));
-        MacAppHelper second;
+        SXStartupReport second;
         second.reportStartup();
         QTRY_COMPARE_WITH_TIMEOUT(server.requests.size(), 3, kWaitMs);
         const QString guid = storedOnDisk(SXSettingsKey::Guid).toString(); // made at once
@@ -189,7 +189,7 @@ private Q_SLOTS:
         // go out as they are, not escaped.
         const QString oddId = QStringLiteral("a+b/c:d;e,f@g!h$i'j(k)*~l");
         SXSettings::setValue(SXSettingsKey::Guid, oddId);
-        MacAppHelper third;
+        SXStartupReport third;
         third.reportStartup();
         QTRY_COMPARE_WITH_TIMEOUT(server.requests.size(), 4, kWaitMs);
         QVERIFY2(server.requests.last().target.endsWith("&userid=" + oddId.toUtf8()),
@@ -219,7 +219,7 @@ private Q_SLOTS:
         QSignalSpy finished(config(), &HVConfigManager::onlineConfigFinished);
         LogCapture log;
         {
-            MacAppHelper helper;
+            SXStartupReport helper;
             HVConfigManager::startupRequests(helper);
         }
 

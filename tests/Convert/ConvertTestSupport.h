@@ -9,13 +9,13 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-// Shared by the conversion tests: a delegate that records its calls, and items whose output
+// Shared by the conversion tests: a listener that records its calls, and items whose output
 // settings are filled in directly (as the workspace does) rather than taken from the catalogue.
 namespace ConvertTest {
 
 using namespace Qt::StringLiterals;
 
-class Recorder : public ConvertOperationDelegate {
+class Recorder : public ConvertOperationListener {
 public:
     void didConvertOperationStart(ConvertOperation*) override { add(u"start"_s); }
     void convertOperationHandleProgress(ConvertOperation*, double) override { add(u"progress"_s); }
@@ -51,7 +51,7 @@ inline SXMusicInfoPtr makeItem(const QString& source, double duration,
     media->setDuration(duration);
     media->setDAOBitrate(128.0);
     media->setDAOSamplerate(44100.0);
-    media->setIAOChanels(2);
+    media->setIAOChannels(2);
     media->setVOACodecName(codec);
     media->setStrOutFileExt(ext);
     return item;
@@ -61,7 +61,7 @@ inline ConvertOperationPtr makeOperation(const SXMusicInfoPtr& item, const QStri
                                          Recorder* recorder) {
     auto operation = std::make_shared<ConvertOperation>(item);
     operation->setStrOutFilePath(folder);
-    operation->setDelegate(recorder);
+    operation->setListener(recorder);
     return operation;
 }
 

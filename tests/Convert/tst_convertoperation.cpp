@@ -41,7 +41,7 @@ private Q_SLOTS:
         const QByteArray sourceHash = SonoriaTest::fileHash(source);
         auto item = makeItem(source, 3.0, u"AAC"_s, u"aac"_s, u"m4a"_s);
         item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
-        item->setBIsSendingToiTunes(true);
+        item->setBIsSendingToLibrary(true);
 
         LogCapture log;
         Recorder recorder;
@@ -193,7 +193,7 @@ private Q_SLOTS:
         media.setVOACodecName(u"libmp3lame"_s);
         media.setDAOSamplerate(44100);
         media.setDAOBitrate(192.0);
-        media.setIAOChanels(1);
+        media.setIAOChannels(1);
         QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
                  (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
                               "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));

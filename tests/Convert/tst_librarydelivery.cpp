@@ -27,7 +27,7 @@ QStringList entriesOf(const QString& folder) {
 
 // The shipped script, as the conversion runs it, with the given music folder.
 int runScript(const QString& file, const QString& music) {
-    const QString script = SXBundle::pathForResource(u"SyncToiTunesLibrary"_s, u"sh"_s);
+    const QString script = SXBundle::pathForResource(u"sync-music-library"_s, u"sh"_s);
     return SXLibraryScript::runScript(script, file, music);
 }
 } // namespace

@@ -104,7 +104,7 @@ void TestInstall::installsEveryFileInPlace_data() {
     QTest::newRow("program") << u"bin/sonoria"_s << true;
     QTest::newRow("command-line tool") << u"bin/sonoria-cli"_s << true;
     QTest::newRow("catalogue") << u"share/sonoria/Formats.plist"_s << false;
-    QTest::newRow("library script") << u"share/sonoria/SyncToiTunesLibrary.sh"_s << true;
+    QTest::newRow("library script") << u"share/sonoria/sync-music-library.sh"_s << true;
     QTest::newRow("desktop entry") << u"share/applications/app.sonoria.Sonoria.desktop"_s << false;
     QTest::newRow("metainfo") << u"share/metainfo/app.sonoria.Sonoria.metainfo.xml"_s << false;
     QTest::newRow("scalable icon")

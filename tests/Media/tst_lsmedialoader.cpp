@@ -17,9 +17,9 @@ namespace {
 
 // Records every callback as text ("start 1", "progress 0.5", "complete") and the threads they
 // came on; the test reads the record once the completion has been released to it.
-class RecordingDelegate : public LSMediaLoaderDelegate {
+class RecordingListener : public LSMediaLoaderListener {
 public:
-    explicit RecordingDelegate(const SXMusicInfoList& batch)
+    explicit RecordingListener(const SXMusicInfoList& batch)
         : m_batch(batch) {}
 
     void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) override {
@@ -66,11 +66,11 @@ SXMusicInfoList makeItems(const QStringList& paths) {
 }
 
 // Loads `batch` with a fresh loader and waits for the end; the loader is returned for checks.
-LSMediaLoaderPtr load(const SXMusicInfoList& batch, RecordingDelegate& delegate) {
+LSMediaLoaderPtr load(const SXMusicInfoList& batch, RecordingListener& listener) {
     const LSMediaLoaderPtr loader = LSMediaLoader::create();
-    loader->setDelegate(&delegate);
+    loader->setListener(&listener);
     loader->loadMediasWithMediaArray(batch);
-    return delegate.waitForCompletion() && loader->waitUntilDone(60000) ? loader : nullptr;
+    return listener.waitForCompletion() && loader->waitUntilDone(60000) ? loader : nullptr;
 }
 
 } // namespace
@@ -112,26 +112,26 @@ private Q_SLOTS:
         SXMusicInfoList batch =
             makeItems({m_mp3, m_text, m_flac, m_ac3, m_mka, empty, folder, path("gone.mp3")});
         batch.insert(5, std::make_shared<SXMusicInfo>());
-        RecordingDelegate delegate(batch);
+        RecordingListener listener(batch);
         LogCapture log;
         std::weak_ptr<LSMediaLoader> watcher;
         {
             const LSMediaLoaderPtr loader = LSMediaLoader::create();
             watcher = loader;
-            loader->setDelegate(&delegate);
+            loader->setListener(&listener);
             loader->loadMediasWithMediaArray(batch);
         }
-        QVERIFY(delegate.waitForCompletion());
+        QVERIFY(listener.waitForCompletion());
         QTRY_VERIFY_WITH_TIMEOUT(watcher.expired(), 10000);
 
         QStringList expected;
         for (int i = 0; i < 9; ++i)
             expected << QStringLiteral("start %1").arg(i)
                      << QStringLiteral("progress %1").arg((i + 1) / 9.0);
-        QCOMPARE(delegate.events, expected << "complete");
-        QVERIFY(!delegate.threads.contains(QThread::currentThread()));
-        QCOMPARE(delegate.medias, std::optional<SXMusicInfoList>(batch));
-        QCOMPARE(delegate.failed, std::optional<QSet<int>>(QSet<int>{1, 5, 6, 7, 8}));
+        QCOMPARE(listener.events, expected << "complete");
+        QVERIFY(!listener.threads.contains(QThread::currentThread()));
+        QCOMPARE(listener.medias, std::optional<SXMusicInfoList>(batch));
+        QCOMPARE(listener.failed, std::optional<QSet<int>>(QSet<int>{1, 5, 6, 7, 8}));
         QCOMPARE(log.lines().filter(QRegularExpression("^(load |Failed:index)")),
                  QStringList({"Failed:index:1", "load " + m_ac3 + " failed!",
                               "load " + m_mka + " failed!", "Failed:index:5", "Failed:index:6",
@@ -139,34 +139,34 @@ private Q_SLOTS:
 
         const LSMediaPtr good = batch[0]->mediaInfo();
         QVERIFY(good->dAOBitrate() == 128 && good->dAOSamplerate() == 44100 &&
-                good->iAOChanels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
+                good->iAOChannels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
         // 24-hour clock, no leading zeros, and the marker in upper case ("PM", never "pm").
         QCOMPARE(good->strLastModified(),
                  QStringLiteral("7/3/21 14:5 ") + QLocale::system().pmText().toUpper());
         QVERIFY(batch[0]->metHandler() && batch[2]->metHandler());
-        QCOMPARE(batch[2]->mediaInfo()->iAOChanels(), 2);
-        QCOMPARE(batch[3]->mediaInfo()->iAOChanels(), 6);
+        QCOMPARE(batch[2]->mediaInfo()->iAOChannels(), 2);
+        QCOMPARE(batch[3]->mediaInfo()->iAOChannels(), 6);
         for (const SXMusicInfoPtr& untagged : batch.mid(3, 2))
             QVERIFY(!untagged->metHandler() && untagged->mediaInfo()->dFileSize() > 0 &&
                     !untagged->mediaInfo()->strLastModified().isEmpty());
 
         const LSMediaPtr bad = batch[1]->mediaInfo();
         QVERIFY(!batch[1]->metHandler() && bad->dFileSize() == 0 &&
-                bad->strLastModified().isEmpty() && bad->iAOChanels() == 0);
+                bad->strLastModified().isEmpty() && bad->iAOChannels() == 0);
     }
 
     // Nothing to probe: the answer comes before the call returns, on the caller's thread.
     void emptyBatchCompletesAtOnce() {
-        RecordingDelegate delegate({});
+        RecordingListener listener({});
         const LSMediaLoaderPtr loader = LSMediaLoader::create();
-        loader->setDelegate(&delegate);
+        loader->setListener(&listener);
         loader->loadMediasWithMediaArray({});
-        QCOMPARE(delegate.events, QStringList{"complete"});
-        QCOMPARE(delegate.threads, QSet<QThread*>{QThread::currentThread()});
-        QVERIFY(!delegate.medias.has_value() && !delegate.failed.has_value());
+        QCOMPARE(listener.events, QStringList{"complete"});
+        QCOMPARE(listener.threads, QSet<QThread*>{QThread::currentThread()});
+        QVERIFY(!listener.medias.has_value() && !listener.failed.has_value());
         QVERIFY(loader->waitUntilDone(0) && !loader->bCanceled());
 
-        // Without a delegate there is simply nobody to tell.
+        // Without a listener there is simply nobody to tell.
         const LSMediaLoaderPtr silent = LSMediaLoader::create();
         silent->loadMediasWithMediaArray(makeItems({m_mp3, m_text}));
         QVERIFY(silent->waitUntilDone(60000));
@@ -176,21 +176,21 @@ private Q_SLOTS:
     // dropped as a whole. Cancelled before it starts, not one item is touched.
     void cancelStopsBetweenItems() {
         const SXMusicInfoList batch = makeItems({m_mp3, m_flac, m_mp3});
-        RecordingDelegate delegate(batch);
-        delegate.cancelAtItem = 1;
-        const LSMediaLoaderPtr loader = load(batch, delegate);
+        RecordingListener listener(batch);
+        listener.cancelAtItem = 1;
+        const LSMediaLoaderPtr loader = load(batch, listener);
         QVERIFY(loader);
-        QCOMPARE(delegate.events,
+        QCOMPARE(listener.events,
                  QStringList({"start 0", "progress 0.333333", "start 1", "complete"}));
-        QVERIFY(!delegate.medias.has_value() && !delegate.failed.has_value());
+        QVERIFY(!listener.medias.has_value() && !listener.failed.has_value());
         QVERIFY(loader->bCanceled() && batch[0]->metHandler() && !batch[1]->metHandler());
-        QVERIFY(batch[1]->mediaInfo()->iAOChanels() == 0 &&
+        QVERIFY(batch[1]->mediaInfo()->iAOChannels() == 0 &&
                 batch[2]->mediaInfo()->audioSamplerate() == 0);
 
         const SXMusicInfoList second = makeItems({m_mp3});
-        RecordingDelegate idle(second);
+        RecordingListener idle(second);
         const LSMediaLoaderPtr early = LSMediaLoader::create();
-        early->setDelegate(&idle);
+        early->setListener(&idle);
         early->cancel();
         early->loadMediasWithMediaArray(second);
         QVERIFY(idle.waitForCompletion());

@@ -27,7 +27,7 @@ struct Conversion {
 Conversion conversionCommand(const SXFormatSetting& format, const QString& source,
                              const ProbeReference& src, const QString& outFile) {
     const double kbps =
-        format.biteRate() == kUseSource ? src.bitRate / 1000 : format.biteRate().toDouble();
+        format.bitRate() == kUseSource ? src.bitRate / 1000 : format.bitRate().toDouble();
     const double rate =
         format.sampleRate() == kUseSource ? src.sampleRate : format.sampleRate().toDouble();
     int channels = format.channels() == kUseSource                ? src.channels
@@ -58,13 +58,13 @@ QList<SXFormatSettingPtr> settingsToTry(const SXFormatSetting& catalogueRecord) 
     };
     vary(catalogueRecord.arySampleRate(), catalogueRecord.sampleRate(),
          &SXFormatSetting::setSampleRate);
-    vary(catalogueRecord.aryBiteRate(), catalogueRecord.biteRate(), &SXFormatSetting::setBiteRate);
+    vary(catalogueRecord.aryBiteRate(), catalogueRecord.bitRate(), &SXFormatSetting::setBiteRate);
     vary(catalogueRecord.aryChannels(), catalogueRecord.channels(), &SXFormatSetting::setChannels);
     return settings;
 }
 
 bool usesSource(const SXFormatSetting& setting) {
-    return setting.sampleRate() == kUseSource || setting.biteRate() == kUseSource ||
+    return setting.sampleRate() == kUseSource || setting.bitRate() == kUseSource ||
            setting.channels() == kUseSource;
 }
 
@@ -150,7 +150,7 @@ private Q_SLOTS:
                     conversionCommand(*setting, m_sources[s], m_sourceProps[s], out);
                 conversion.label =
                     QStringLiteral("%1 [%2 / %3 / %4] from %5")
-                        .arg(name, setting->sampleRate(), setting->biteRate(), setting->channels(),
+                        .arg(name, setting->sampleRate(), setting->bitRate(), setting->channels(),
                              QFileInfo(m_sources[s]).fileName());
                 conversions.append(conversion);
             }

@@ -21,7 +21,7 @@ LSMediaPtr probedRecord() {
     media->setDFileSize(3145728);
     media->setDAOBitrate(256);
     media->setDAOSamplerate(48000);
-    media->setIAOChanels(1);
+    media->setIAOChannels(1);
     media->setVOACodecName(QStringLiteral("libmp3lame"));
     media->setStrOutFileExt(QStringLiteral("mp3"));
     media->setStrOutFileName(QStringLiteral("a song"));
@@ -50,7 +50,7 @@ private Q_SLOTS:
         QVERIFY(a->description().startsWith(QStringLiteral("P = 0x")));
         QVERIFY(a->description().endsWith(QStringLiteral(
             ", path = /music/a song.flac, name = One, sample = 44100.000000, birat = "
-            "912000.000000,             channel = 2, inFormateType = MP3")));
+            "912000.000000,             channel = 2, inFormatType = MP3")));
         QVERIFY(a->mediaInfo()->description().contains(
             QRegularExpression(QStringLiteral("^id:0x[0-9a-f]+, filePath = /music/a song.flac$"))));
     }
@@ -72,7 +72,7 @@ private Q_SLOTS:
         QCOMPARE(again.toData(), coder.toData());
         QCOMPARE(back->eumCvtState(), int(CvtStateFailed));
         QVERIFY(back->dProgress() == 0 && back->dLeftTime() == 0 &&
-                back->strDescription().isEmpty() && !back->bSampeQuality());
+                back->strDescription().isEmpty() && !back->bSampleQuality());
     }
 
     // Items travel as one archive for drag and drop; a copy made for a drop shares no record and
@@ -80,8 +80,8 @@ private Q_SLOTS:
     void itemsTravelAsOneArchive() {
         const auto first = item(QStringLiteral("/x/é \"1\".mp3"));
         first->setDConvertProgress(-4);
-        first->setStriTunesPlaylistName(QStringLiteral("Mix"));
-        first->setBIsSendingToiTunes(true);
+        first->setStrLibraryPlaylistName(QStringLiteral("Mix"));
+        first->setBIsSendingToLibrary(true);
         const auto second = item(QStringLiteral("/x/2.wav"));
         second->setMediaInfo(nullptr);
 
@@ -91,7 +91,7 @@ private Q_SLOTS:
         QVERIFY(ok);
         QCOMPARE(back.size(), 2);
         QVERIFY(back[0]->isEqualToMusic(*first) && back[0]->dConvertProgress() == -4.0 &&
-                back[0]->striTunesPlaylistName() == "Mix" && back[0]->bIsSendingToiTunes());
+                back[0]->strLibraryPlaylistName() == "Mix" && back[0]->bIsSendingToLibrary());
         QCOMPARE(back[0]->mediaInfo()->eumCvtState(), int(CvtStateFailed));
         QVERIFY(back[1]->isEqualToMusic(*second) && !back[1]->mediaInfo());
 

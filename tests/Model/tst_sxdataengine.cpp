@@ -72,11 +72,11 @@ private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_dir.isValid());
         // The shared instance reads the library preference once; make sure it finds none.
-        SXSettings::removeKey(SXSettingsKey::iTunesFmt);
+        SXSettings::removeKey(SXSettingsKey::libraryFormat);
         QVERIFY(SXDataEngine::shareInstance() != nullptr);
     }
 
-    void cleanup() { SXSettings::removeKey(SXSettingsKey::iTunesFmt); }
+    void cleanup() { SXSettings::removeKey(SXSettingsKey::libraryFormat); }
 
     // The shipped preset: fixed containers first, every default among its choices, every
     // encoder resolved, every editable name a real format.
@@ -88,7 +88,7 @@ private Q_SLOTS:
         for (const QString& name : names) {
             const SXFormatSettingPtr format = engine->getFormatWithName(name);
             QVERIFY2(format && format->arySampleRate().contains(format->sampleRate()) &&
-                         format->aryBiteRate().contains(format->biteRate()) &&
+                         format->aryBiteRate().contains(format->bitRate()) &&
                          format->aryChannels().contains(format->channels()) &&
                          !format->decodecName().isEmpty() && !format->outputExtName().isEmpty() &&
                          !format->fmtDescribe().isEmpty() && !format->strImgFileName().isEmpty() &&
@@ -110,18 +110,18 @@ private Q_SLOTS:
         const QString rate = first->sampleRate();
         first->setSampleRate(u"8000"_s);
         first->setFmtName(u"Changed"_s);
-        first->setEnumAddToiTunes(1);
+        first->setEnumAddToLibrary(1);
         first->setOutputPath(u"/elsewhere"_s);
         QVERIFY(!engine->getFormatWithName(u"Changed"_s));
         // Only the choice lists are shared, by the catalogue and all its copies.
         for (const SXFormatSettingPtr& other : {second, engine->getFormatWithName(u"MP3"_s)})
             QVERIFY(other->sampleRate() == rate && other->fmtName() == "MP3" &&
-                    other->enumAddToiTunes() == 0 && other->outputPath() != "/elsewhere" &&
+                    other->enumAddToLibrary() == 0 && other->outputPath() != "/elsewhere" &&
                     first->aryBiteRate().isSharedWith(other->aryBiteRate()));
         const SXFormatSettingPtr copied = first->copy();
         QVERIFY(copied->aryChannels().isSharedWith(first->aryChannels()));
         QVERIFY(copied->sampleRate() == "8000" && copied->outputPath() == "/elsewhere" &&
-                copied->enumAddToiTunes() == 1);
+                copied->enumAddToLibrary() == 1);
     }
 
     void readsEveryFieldOfAPreset() {
@@ -132,7 +132,7 @@ private Q_SLOTS:
                 one->strImgFileName() == "one.png");
         QCOMPARE(one->arySampleRate(), QStringList({"44100", "48000"}));
         QCOMPARE(one->aryChannels(), QStringList({"Stereo", "Mono"}));
-        QVERIFY(one->biteRate() == "128" && one->enumAddToiTunes() == 1);
+        QVERIFY(one->bitRate() == "128" && one->enumAddToLibrary() == 1);
         QCOMPARE(engine.getDecodecWithCodecName(u"aac"_s), u"aac"_s);
         QVERIFY(engine.getDecodecWithCodecName(u"AAC"_s).isNull());
         QCOMPARE(engine.getCanEditMetadataMusicType(), QStringList{u"One"_s});
@@ -152,9 +152,9 @@ private Q_SLOTS:
         const SXFormatSettingPtr bare = engine.getFormatWithName(u"Bare"_s);
         QVERIFY(bare && bare->decodecName().isNull() && bare->sampleRate().isEmpty());
         QVERIFY(bare->arySampleRate().isEmpty() && bare->aryChannels().isEmpty());
-        QCOMPARE(bare->enumAddToiTunes(), 0);
+        QCOMPARE(bare->enumAddToLibrary(), 0);
         QCOMPARE(bare->aryBiteRate(), QStringList({"64", " 96", "", "128"}));
-        QCOMPARE(bare->biteRate(), u" 96"_s);
+        QCOMPARE(bare->bitRate(), u" 96"_s);
         QVERIFY(engine.getCanEditMetadataMusicType().isEmpty());
     }
 
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QFETCH(QString, copiedFrom);
         QFETCH(int, formats);
         if (!preference.isNull())
-            SXSettings::setValue(SXSettingsKey::iTunesFmt, preference);
+            SXSettings::setValue(SXSettingsKey::libraryFormat, preference);
         SXDataEngine engine(writePreset(u"slot.plist"_s, presetXml(formats)));
         QCOMPARE(engine.getAllOutputFormats(), expectedNames);
         if (copiedFrom.isEmpty())
@@ -229,20 +229,20 @@ private Q_SLOTS:
     void registryKeepsOrderAndDuplicates() {
         SXDataEngine engine(writePreset(u"reg.plist"_s, presetXml(0)));
         FakeWindow a, b, c;
-        QCOMPARE(engine.getKeyWindowCtlr(), nullptr);
+        QCOMPARE(engine.keyWindowRecord(), nullptr);
         for (FakeWindow* window : {&a, static_cast<FakeWindow*>(nullptr), &b, &a, &c})
-            engine.addNewMainWndCtlr(window);
-        QCOMPARE(engine.getAllMainWndCtlr(), (QList<SXWindowController*>{&a, &b, &a, &c}));
-        QCOMPARE(engine.getKeyWindowCtlr(), nullptr);
+            engine.registerWindow(window);
+        QCOMPARE(engine.registeredWindows(), (QList<SXWindowController*>{&a, &b, &a, &c}));
+        QCOMPARE(engine.keyWindowRecord(), nullptr);
         c.key = b.key = true;
-        QCOMPARE(engine.getKeyWindowCtlr(), &b);
+        QCOMPARE(engine.keyWindowRecord(), &b);
         // The registry is handed out itself, so callers see later changes.
-        const QList<SXWindowController*>& live = engine.getAllMainWndCtlr();
-        engine.removeMainWndCtlr(&a);
-        engine.removeMainWndCtlr(nullptr);
+        const QList<SXWindowController*>& live = engine.registeredWindows();
+        engine.unregisterWindow(&a);
+        engine.unregisterWindow(nullptr);
         QCOMPARE(live, (QList<SXWindowController*>{&b, &c}));
-        engine.removeMainWndCtlr(&b);
-        QCOMPARE(engine.getKeyWindowCtlr(), &c);
+        engine.unregisterWindow(&b);
+        QCOMPARE(engine.keyWindowRecord(), &c);
     }
 
     void tagFileKinds() {

@@ -178,7 +178,7 @@ void TestAudioPlayer::seekPauseAndResumeMovesThePosition() {
 void TestAudioPlayer::movedItemPlaysOnAndRemovedItemStops() {
     m_workspace->setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
     m_workspace->selectContainer(u"MP3"_s);
-    m_workspace->clickPlayButton(m_workspace->getDataForFormat(u"MP3"_s).first());
+    m_workspace->togglePlay(m_workspace->getDataForFormat(u"MP3"_s).first());
     const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
         SXMusicInfo::archiveItems(m_workspace->getDataForFormat(u"MP3"_s)));
     m_workspace->acceptDropOnTab(dragged, u"AAC"_s);
@@ -187,7 +187,7 @@ void TestAudioPlayer::movedItemPlaysOnAndRemovedItemStops() {
 
     m_workspace->selectContainer(u"AAC"_s);
     m_workspace->setSelectedRows({0});
-    m_workspace->clickDeleteFile();
+    m_workspace->removeSelected();
     QVERIFY(!m_player->isPlaying() && !m_player->playingMusic());
     QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
 }

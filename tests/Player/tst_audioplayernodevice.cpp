@@ -36,7 +36,7 @@ void TestAudioPlayerNoDevice::playingWithoutASoundServerFailsCleanly() {
 
     for (int attempt = 1; attempt <= 2; ++attempt) {
         QSignalSpy failed(player, &SXPreviewPlayer::playFailed);
-        workspace.clickPlayButton(item);
+        workspace.togglePlay(item);
         QVERIFY(failed.wait(10000));
         QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
         QVERIFY(!player->isPlaying() && !player->playingMusic());

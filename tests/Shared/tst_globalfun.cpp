@@ -132,13 +132,13 @@ private Q_SLOTS:
 
     void folderIsMadeSure() {
         QTemporaryDir dir;
-        QVERIFY(!GlobalFun::MakeSureFolderExsist(QString()));
-        QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
+        QVERIFY(!GlobalFun::makeSureFolderExists(QString()));
+        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
         QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
-        QVERIFY(GlobalFun::MakeSureFolderExsist(dir.filePath("a/b/c")));
+        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
         touch(dir.filePath("plain"));
-        QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain")));
-        QVERIFY(!GlobalFun::MakeSureFolderExsist(dir.filePath("plain/below")));
+        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain")));
+        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain/below")));
     }
 
     void scanIsDepthFirstAndSurvivesLinkLoops() {

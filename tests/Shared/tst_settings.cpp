@@ -14,18 +14,18 @@ private Q_SLOTS:
         QVERIFY(SXSettings::fileName().endsWith("Sonoria/Sonoria.conf"));
         SXSettings::setPreferenceValue();
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesFmt), QStringLiteral("AAC"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
         QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat)
-                     .value(SXSettingsKey::iTunesPlaylistName),
+                     .value(SXSettingsKey::libraryPlaylistName),
                  QStringLiteral("Sonoria"));
 
         SXSettings::setValue(SXSettingsKey::MaxTask, 3); // not offered, still honoured
-        SXSettings::setValue(SXSettingsKey::iTunesFmt, QStringLiteral("MP3"));
-        SXSettings::setValue(SXSettingsKey::iTunesPlaylistName, QString());
+        SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("MP3"));
+        SXSettings::setValue(SXSettingsKey::libraryPlaylistName, QString());
         SXSettings::setPreferenceValue();
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesFmt), QStringLiteral("MP3"));
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName),
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
                  QStringLiteral("Sonoria"));
         SXSettings::setValue(SXSettingsKey::MaxTask, 0);
         SXSettings::setPreferenceValue();

@@ -274,7 +274,7 @@ void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
     const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
     QCOMPARE(shown.bitRates, flac->aryBiteRate());
     QCOMPARE(shown.sampleRate, flac->sampleRate());
-    QCOMPARE(shown.libraryVisible, flac->enumAddToiTunes() != -1);
+    QCOMPARE(shown.libraryVisible, flac->enumAddToLibrary() != -1);
 
     const QString rate = flac->arySampleRate().last();
     const SXFormatSettingPtr result = chooser.getFormatSettingResult(
@@ -284,13 +284,13 @@ void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
     QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
     result->setFmtName(u"changed"_s);
     QCOMPARE(flac->fmtName(), u"FLAC"_s);
-    QCOMPARE(result->enumAddToiTunes(), flac->enumAddToiTunes() == -1 ? -1 : 1);
+    QCOMPARE(result->enumAddToLibrary(), flac->enumAddToLibrary() == -1 ? -1 : 1);
 
     // A format without the library option keeps -1 whatever the hidden box says.
-    flac->setEnumAddToiTunes(-1);
+    flac->setEnumAddToLibrary(-1);
     const SXFormatSettingPtr none = chooser.getFormatSettingResult(
-        {u"FLAC"_s, flac->sampleRate(), flac->biteRate(), flac->channels(), true});
-    QCOMPARE(none->enumAddToiTunes(), -1);
+        {u"FLAC"_s, flac->sampleRate(), flac->bitRate(), flac->channels(), true});
+    QCOMPARE(none->enumAddToLibrary(), -1);
     QVERIFY(!chooser.changeFormatSelect(u"FLAC"_s).libraryVisible);
     QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
 }
@@ -362,14 +362,14 @@ void TestWindowDecisions::containersAndChoicesSurviveARestart() {
         QCOMPARE(first.tabLabels(), expected);
 
         QVERIFY(first.selectContainer(u"MP3"_s));
-        SXSettingPanelActions::clickPopBitRiate(first, catalogueMp3->aryBiteRate().first());
-        SXSettingPanelActions::clickPopSampRiate(first, catalogueMp3->arySampleRate().last());
-        SXSettingPanelActions::clickPopChannelRiate(first, catalogueMp3->aryChannels().last());
+        SXSettingPanelActions::setBitRate(first, catalogueMp3->aryBiteRate().first());
+        SXSettingPanelActions::setSampleRate(first, catalogueMp3->arySampleRate().last());
+        SXSettingPanelActions::setChannels(first, catalogueMp3->aryChannels().last());
         QVERIFY(first.selectContainer(u"FLAC"_s));
-        SXSettingPanelActions::clickPopChannelRiate(first, u"Mono"_s);
+        SXSettingPanelActions::setChannels(first, u"Mono"_s);
         // A name with a blank, which must not become a group of the settings file.
         QVERIFY(first.selectContainer(u"Ogg Vorbis"_s));
-        SXSettingPanelActions::clickPopBitRiate(first, vorbisRates.first());
+        SXSettingPanelActions::setBitRate(first, vorbisRates.first());
     }
     // On disk, where the next process reads it (this one shares Qt's parsed copy).
     const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
@@ -381,20 +381,19 @@ void TestWindowDecisions::containersAndChoicesSurviveARestart() {
     second.addDefaultTabs();
     QCOMPARE(second.tabLabels(), expected);
     const SXFormatSettingPtr mp3 = second.getFormatSettingForFormatName(u"MP3"_s);
-    QCOMPARE(mp3->biteRate(), catalogueMp3->aryBiteRate().first());
+    QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
     QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
     QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
     QCOMPARE(second.getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
-    QCOMPARE(second.getFormatSettingForFormatName(u"Ogg Vorbis"_s)->biteRate(),
-             vorbisRates.first());
+    QCOMPARE(second.getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(), vorbisRates.first());
     // The catalogue itself is untouched.
-    QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->biteRate(),
-             catalogueMp3->biteRate());
+    QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
+             catalogueMp3->bitRate());
 
     SXWorkspace other;
     other.addDefaultTabs();
     QCOMPARE(other.tabLabels(), fixed);
-    QCOMPARE(other.getFormatSettingForFormatName(u"MP3"_s)->biteRate(), catalogueMp3->biteRate());
+    QCOMPARE(other.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
 
     // Hand-edited or outdated values: an unknown format and a rate nobody offers.
     SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
@@ -404,7 +403,7 @@ void TestWindowDecisions::containersAndChoicesSurviveARestart() {
     third.setRemembersContainers(true);
     third.addDefaultTabs();
     QCOMPARE(third.tabLabels(), fixed + QStringList{u"Opus"_s});
-    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->biteRate(), catalogueMp3->biteRate());
+    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
     QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
 }
 
@@ -443,13 +442,13 @@ void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
     workspace.addDefaultTabs();
     workspace.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
     QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), folder);
-    SXSettingPanelActions::clickReveal(workspace);
+    SXSettingPanelActions::revealOutputFolder(workspace);
     // A folder not made yet shows its nearest existing parent.
     const QString shown = exists ? folder : stored ? chosen : home.processHome();
     QCOMPARE(presenter.openedFolders, QStringList{shown});
 
     presenter.folderAnswer.reset(); // the Start dialog is cancelled
-    workspace.clickStart();
+    workspace.toggleRun();
     QCOMPARE(presenter.folderRequests.size(), 1);
     QCOMPARE(presenter.folderRequests.first().startFolder, base);
     QCOMPARE(entriesBelow(home.processHome()), before);

@@ -86,7 +86,7 @@ void TestWorkspaceLists::init() {
 
 void TestWorkspaceLists::windowLifecycle() {
     const auto registered = [](SXWorkspace* window) {
-        return SXDataEngine::shareInstance()->getAllMainWndCtlr().contains(window);
+        return SXDataEngine::shareInstance()->registeredWindows().contains(window);
     };
     SXWorkspace workspace;
     QVERIFY(registered(&workspace));
@@ -99,7 +99,7 @@ void TestWorkspaceLists::windowLifecycle() {
 
     // A revived window starts empty again, without the containers added meanwhile.
     m_presenter.formatAnswer = u"FLAC"_s;
-    workspace.clickAddNewFormat();
+    workspace.addContainer();
     QVERIFY(addFiles(workspace, {path(u"a.mp3"_s)}));
     workspace.reNewDefaultWindow();
     QCOMPARE(workspace.tabLabels(), fixed);
@@ -144,7 +144,7 @@ void TestWorkspaceLists::containerRules() {
 
     // The chooser offers only formats without a container, in catalogue order.
     m_presenter.formatAnswer = u"WAV"_s;
-    workspace.clickAddNewFormat();
+    workspace.addContainer();
     QStringList offered;
     for (const SXFormatSettingPtr& format : std::as_const(m_presenter.offeredFormats))
         offered.append(format->fmtName());
@@ -173,9 +173,9 @@ void TestWorkspaceLists::containerRules() {
 
     // An added container closes and takes its items with it.
     m_presenter.formatAnswer = u"Opus"_s;
-    workspace.clickAddNewFormat();
+    workspace.addContainer();
     QVERIFY(addFiles(workspace, {path(u"b.wav"_s)}));
-    QCOMPARE(workspace.getCurentTabMusicCount(), 1);
+    QCOMPARE(workspace.currentTabItemCount(), 1);
     QVERIFY(workspace.closeTab());
     QVERIFY(!workspace.tabLabels().contains(u"Opus"_s));
     QVERIFY(!workspace.hasDataForFormat(u"Opus"_s));
@@ -198,7 +198,7 @@ void TestWorkspaceLists::containerRules() {
                 SXDataEngine::shareInstance()->getFormatWithName(name));
     }
     m_presenter.offeredFormats.clear();
-    workspace.clickAddNewFormat();
+    workspace.addContainer();
     QVERIFY(m_presenter.offeredFormats.isEmpty());
     QCOMPARE(m_presenter.alerts.last().messageText,
              u"All formats are opened, you can set the paramas in the setting window."_s);
@@ -324,7 +324,7 @@ void TestWorkspaceLists::cancelDuringLoadingKeepsNothing() {
     // lands before the batch is through.
     connect(
         &workspace, &SXWorkspace::loadProgressText, &workspace,
-        [&workspace] { workspace.clickCancel(); }, Qt::DirectConnection);
+        [&workspace] { workspace.cancelLoading(); }, Qt::DirectConnection);
     QTemporaryDir copies;
     QStringList batch;
     for (int i = 0; i < 20; ++i) {
@@ -334,7 +334,7 @@ void TestWorkspaceLists::cancelDuringLoadingKeepsNothing() {
     QVERIFY(addFiles(workspace, batch));
     QVERIFY(cancelled.count() >= 1);
     QVERIFY(workspace.mediaLoader()->bCanceled());
-    QCOMPARE(workspace.getCurentTabMusicCount(), 0);
+    QCOMPARE(workspace.currentTabItemCount(), 0);
     QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
     QVERIFY(m_presenter.alerts.isEmpty());
 }
@@ -344,8 +344,8 @@ void TestWorkspaceLists::rowsSelectReorderAndDelete() {
     workspace.setPresenter(&m_presenter);
     workspace.addDefaultTabs();
     // Nothing to act on: an audible refusal.
-    workspace.clickClear();
-    workspace.clickDeleteFile();
+    workspace.clearContainer();
+    workspace.removeSelected();
     workspace.moveSelectedTo(-1);
     QCOMPARE(m_presenter.beeps, 3);
 
@@ -374,10 +374,10 @@ void TestWorkspaceLists::rowsSelectReorderAndDelete() {
              (QStringList{u"4.wav"_s, u"3.wav"_s, u"1.wav"_s, u"2.wav"_s}));
 
     workspace.setSelectedRows({0, 2});
-    workspace.clickDeleteFile();
+    workspace.removeSelected();
     QCOMPARE(fileNames(workspace.getCurTableDatasource()), (QStringList{u"3.wav"_s, u"2.wav"_s}));
-    workspace.clickClear();
-    QCOMPARE(workspace.getCurentTabMusicCount(), 0);
+    workspace.clearContainer();
+    QCOMPARE(workspace.currentTabItemCount(), 0);
     QCOMPARE(m_presenter.beeps, 5);
 }
 

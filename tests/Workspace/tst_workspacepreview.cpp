@@ -150,7 +150,7 @@ void TestWorkspacePreview::endOfPreviewRunsOnWithinItsContainer() {
 
 void TestWorkspacePreview::playButtonTogglesAndStopTwiceIsHarmless() {
     QSignalSpy notes(m_player.get(), &SXPreviewPlayer::notificationPosted);
-    m_workspace->clickPlayButton(row(1));
+    m_workspace->togglePlay(row(1));
     QVERIFY(m_workspace->isPlayingMusic(row(1)));
     QCOMPARE(m_workspace->enumAppState(), int(AppStatePlaying));
     QCOMPARE(m_workspace->appStateItem(), row(1));
@@ -160,7 +160,7 @@ void TestWorkspacePreview::playButtonTogglesAndStopTwiceIsHarmless() {
     m_workspace->pauseOrResumePreview();
     QVERIFY(!m_workspace->isPreviewPaused() && m_player->isPlaying());
 
-    m_workspace->clickPlayButton(row(1)); // the same row again stops it
+    m_workspace->togglePlay(row(1)); // the same row again stops it
     QVERIFY(!m_player->playingMusic());
     QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
     QCOMPARE(notes.last().value(0).toString(), SXPlayerNotify::PlayEnd);
@@ -172,11 +172,11 @@ void TestWorkspacePreview::playButtonTogglesAndStopTwiceIsHarmless() {
 
     // Space plays the selected row; nothing plays during a run; a double-click plays.
     m_workspace->setSelectedRows({2});
-    m_workspace->clickPlaySelected();
+    m_workspace->playSelected();
     QVERIFY(m_workspace->isPlayingMusic(row(2)));
     m_workspace->stopPlayerWithRefreshUI();
     m_workspace->setAppState(AppStateConverting);
-    m_workspace->clickPlayButton(row(0));
+    m_workspace->togglePlay(row(0));
     m_workspace->playRow(0);
     QVERIFY(!m_player->playingMusic());
     m_workspace->setAppState(AppStateIdle);
@@ -202,17 +202,17 @@ void TestWorkspacePreview::workspaceStopsThePreview() {
     m_workspace->addContainerWithFormat(
         SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
     m_workspace->selectContainer(u"MP3"_s);
-    m_workspace->clickPlayButton(row(1));
+    m_workspace->togglePlay(row(1));
     if (action.startsWith(u"delete")) {
         m_workspace->setSelectedRows({action.back().digitValue()});
-        m_workspace->clickDeleteFile();
+        m_workspace->removeSelected();
     } else if (action == u"clear") {
-        m_workspace->clickClear();
+        m_workspace->clearContainer();
     } else if (action == u"add") {
         m_workspace->loadAndParseFiles({});
     } else if (action == u"start") {
         m_workspace->doRealConverterTask(QDir::tempPath());
-        m_workspace->clickCancelAll();
+        m_workspace->cancelAll();
     } else if (action == u"close FLAC") {
         m_workspace->selectContainer(u"FLAC"_s);
         QVERIFY(m_workspace->closeTab());
@@ -226,7 +226,7 @@ void TestWorkspacePreview::workspaceStopsThePreview() {
 }
 
 void TestWorkspacePreview::movedItemKeepsPlaying() {
-    m_workspace->clickPlayButton(row(2));
+    m_workspace->togglePlay(row(2));
     const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
         SXMusicInfo::archiveItems({m_workspace->getDataForFormat(u"MP3"_s).at(2)}));
     m_workspace->acceptDropOnTab(dragged, u"AAC"_s);

@@ -77,7 +77,7 @@ void TestWorkspaceRun::initTestCase() {
 
 void TestWorkspaceRun::init() {
     for (const QString& key : {SXSettingsKey::DefaultOutputPath, SXSettingsKey::DefaultSetOrganized,
-                               SXSettingsKey::DefaultSetOpen, SXSettingsKey::AppBSyncToiTunes})
+                               SXSettingsKey::DefaultSetOpen, SXSettingsKey::AppBSyncToLibrary})
         SXSettings::removeKey(key);
     SXSettings::setValue(SXSettingsKey::MaxTask, 3);
     m_presenter = WorkspaceTestPresenter();
@@ -96,7 +96,7 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     workspace.setPresenter(&m_presenter);
     workspace.addDefaultTabs();
     m_presenter.formatAnswer = u"FLAC"_s;
-    workspace.clickAddNewFormat();
+    workspace.addContainer();
 
     auto mp3 = workspace.getFormatSettingForFormatName(u"MP3"_s);
     mp3->setBiteRate(u"128"_s);
@@ -118,7 +118,7 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QSignalSpy totals(&workspace, &SXWorkspace::totalProgressChanged);
     QSignalSpy redraws(&workspace, &SXWorkspace::rowsRedrawRequested);
     QSignalSpy itemsDone(&workspace, &SXWorkspace::itemFinished);
-    workspace.clickStart();
+    workspace.toggleRun();
     QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
     QCOMPARE(workspace.queueConvertTask()->maxConcurrentOperationCount(), 3);
     QCOMPARE(workspace.totalConvertOps(), 3);
@@ -149,19 +149,19 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     const LSMediaPtr m1 = workspace.getDataForFormat(u"MP3"_s).first()->mediaInfo();
     QCOMPARE(m1->dAOBitrate(), 128.0);
     QCOMPARE(m1->dAOSamplerate(), 22050.0);
-    QCOMPARE(m1->iAOChanels(), 1);
+    QCOMPARE(m1->iAOChannels(), 1);
     QCOMPARE(m1->vOACodecName(), mp3->decodecName());
     QCOMPARE(m1->strOutFileExt(), u"mp3"_s);
     const LSMediaPtr m2 = workspace.getDataForFormat(u"AAC"_s).first()->mediaInfo();
     QCOMPARE(m2->dAOBitrate(), m2->audioBitrate() / 1000);
     QCOMPARE(m2->dAOSamplerate(), 44100.0);
-    QCOMPARE(m2->iAOChanels(), 2);
+    QCOMPARE(m2->iAOChannels(), 2);
     const SXMusicInfoPtr flacItem = workspace.getDataForFormat(u"FLAC"_s).first();
-    QCOMPARE(flacItem->mediaInfo()->iAOChanels(), 2);
+    QCOMPARE(flacItem->mediaInfo()->iAOChannels(), 2);
     QCOMPARE(flacItem->mediaInfo()->dAOBitrate(), 0.0); // "Lossless" carries no number
-    QVERIFY(!flacItem->bIsSendingToiTunes());
-    QCOMPARE(flacItem->striTunesPlaylistName(),
-             SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName));
+    QVERIFY(!flacItem->bIsSendingToLibrary());
+    QCOMPARE(flacItem->strLibraryPlaylistName(),
+             SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName));
     QCOMPARE(flacItem->dConvertProgress(), SXProgress::Done);
 
     // Organised by format.
@@ -178,7 +178,7 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     // The open flag came from the chooser: off again, nothing is opened.
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, false};
     finished.clear();
-    workspace.clickStart();
+    workspace.toggleRun();
     QCOMPARE(m_presenter.folderRequests.last().startFolder, folder);
     QVERIFY(m_presenter.folderRequests.last().openWhenDone);
     QVERIFY(finished.wait(kRunTimeoutMs));
@@ -187,7 +187,7 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
 
     // A cancelled chooser changes nothing.
     m_presenter.folderAnswer.reset();
-    workspace.clickStart();
+    workspace.toggleRun();
     QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
 }
 
@@ -336,21 +336,21 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     QCOMPARE(workspace.findOperationForMusicInfo(items.at(2)), queued.at(2));
     QCOMPARE(workspace.findOperationForMusicInfo(items.at(1)->copy()), queued.at(1));
     QVERIFY(!workspace.findOperationForMusicInfo(outsider));
-    workspace.didMyListViewCellRightButtonClick(outsider);
+    workspace.cancelOrEditTags(outsider);
     QCOMPARE(workspace.queueConvertTask()->operationCount(), 3);
 
     // The waiting last row is cancelled, and only it; a second click finds nothing to do.
-    workspace.didMyListViewCellRightButtonClick(items.at(2));
+    workspace.cancelOrEditTags(items.at(2));
     QCOMPARE(items.at(2)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Canceled);
     QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateReady));
     QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
-    workspace.didMyListViewCellRightButtonClick(items.at(2));
+    workspace.cancelOrEditTags(items.at(2));
     QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
 
     // Stop is the Start button during a run: the queued items are marked cancelled at once,
     // and the run ends later, through the refresh.
-    workspace.clickStart();
+    workspace.toggleRun();
     QVERIFY(m_presenter.folderRequests.isEmpty());
     QCOMPARE(items.at(0)->dConvertProgress(), SXProgress::Canceled);
     QCOMPARE(items.at(1)->dConvertProgress(), SXProgress::Canceled);
@@ -431,13 +431,13 @@ void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
 
     // A right-click on the finished row cancels nothing (it once cancelled the last file).
     QTRY_COMPARE(workspace.queueConvertTask()->operationCount(), 2);
-    workspace.didMyListViewCellRightButtonClick(items.at(0));
+    workspace.cancelOrEditTags(items.at(0));
     QCOMPARE(workspace.queueConvertTask()->operationCount(), 2);
     // Every way out of the list is refused aloud; a move out of another window is refused
     // quietly.
     const int beeps = m_presenter.beeps;
-    workspace.clickDeleteFile();
-    workspace.clickClear();
+    workspace.removeSelected();
+    workspace.clearContainer();
     QVERIFY(!workspace.acceptDrop({items.at(2)->copy()}, 0, SXWorkspace::DropAboveRow));
     workspace.acceptDropOnTab({items.at(0)->copy()}, u"AAC"_s);
     workspace.dragMusicInfos({items.at(1)->copy()}, u"MP3"_s, u"AAC"_s, -1);
@@ -461,7 +461,7 @@ void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
 
     // Once the run is over the list may be cleared; an empty list has no progress.
     QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
-    workspace.clickClear();
+    workspace.clearContainer();
     QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
     QCOMPARE(workspace.getTotalConvertProgress(), 0.0);
 }

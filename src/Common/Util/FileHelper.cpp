@@ -195,7 +195,7 @@ QString FileHelper::getADImagesPath() {
 
 QString FileHelper::getLangConfigPath() {
     const QString folder = getLibraryPath() + QStringLiteral("/Caches/lang");
-    GlobalFun::MakeSureFolderExsist(folder);
+    GlobalFun::makeSureFolderExists(folder);
     return folder + QStringLiteral("/lang.dat");
 }
 

@@ -70,7 +70,7 @@ void SXLoadingSheet::showValue(double fraction) {
 
 void SXLoadingSheet::reject() {
     // The workspace cancels its loader and answers with loadCancelled, which ends the sheet.
-    m_workspace.clickCancel();
+    m_workspace.cancelLoading();
 }
 
 void SXLoadingSheet::endSheet() {

@@ -46,13 +46,12 @@ SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
             qOverload<>(&QWidget::update));
     connect(this, &QAbstractItemView::doubleClicked, this,
             [this](const QModelIndex& index) { m_workspace.playRow(index.row()); });
-    connect(m_delegate, &SXItemRowDelegate::playButtonClicked, this,
-            [this](const QModelIndex& index) {
-                m_workspace.clickPlayButton(m_model->itemAt(index.row()));
-            });
+    connect(
+        m_delegate, &SXItemRowDelegate::playButtonClicked, this,
+        [this](const QModelIndex& index) { m_workspace.togglePlay(m_model->itemAt(index.row())); });
     connect(m_delegate, &SXItemRowDelegate::rightButtonClicked, this,
             [this](const QModelIndex& index) {
-                m_workspace.didMyListViewCellRightButtonClick(m_model->itemAt(index.row()));
+                m_workspace.cancelOrEditTags(m_model->itemAt(index.row()));
             });
     showSelection(m_workspace.selectedRows());
 }
@@ -94,7 +93,7 @@ void SXItemListView::reportSelection() {
 
 void SXItemListView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
-        m_workspace.clickDeleteFile();
+        m_workspace.removeSelected();
         event->accept();
         return;
     }

@@ -49,7 +49,7 @@ void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos
         connect(action, &QAction::triggered, this, [this, command, item] {
             switch (command) {
             case SXRowCommand::Play:
-                m_workspace.clickPlayButton(item);
+                m_workspace.togglePlay(item);
                 break;
             case SXRowCommand::Pause:
             case SXRowCommand::Resume:
@@ -58,7 +58,7 @@ void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos
             case SXRowCommand::EditTags:
             case SXRowCommand::CancelConversion:
                 // The same rule as the row's right button: tags when idle, cancel in a run.
-                m_workspace.didMyListViewCellRightButtonClick(item);
+                m_workspace.cancelOrEditTags(item);
                 break;
             case SXRowCommand::FileInfo:
                 Q_EMIT fileInfoRequested();
@@ -67,7 +67,7 @@ void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos
                 SXFileManager::revealItem(item->strFilePath());
                 break;
             case SXRowCommand::Remove:
-                m_workspace.clickDeleteFile();
+                m_workspace.removeSelected();
                 break;
             }
         });

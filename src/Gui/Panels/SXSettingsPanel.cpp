@@ -21,25 +21,25 @@ SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
     grid->setContentsMargins(0, 0, 0, 0);
     _popBitRate = addPopUp(tr("&Bit rate:"), QStringLiteral("popBitRate"));
     _popSmpRate = addPopUp(tr("Sample &rate:"), QStringLiteral("popSmpRate"));
-    _popChanel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChanel"));
+    _popChannel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChannel"));
     buildButtons();
 
     connect(_popBitRate, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::clickPopBitRiate(m_workspace, title);
+        SXSettingPanelActions::setBitRate(m_workspace, title);
     });
     connect(_popSmpRate, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::clickPopSampRiate(m_workspace, title);
+        SXSettingPanelActions::setSampleRate(m_workspace, title);
     });
-    connect(_popChanel, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::clickPopChannelRiate(m_workspace, title);
+    connect(_popChannel, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::setChannels(m_workspace, title);
     });
-    connect(_btnAddToiTunes, &QCheckBox::clicked, this,
-            [this](bool on) { SXSettingPanelActions::clickAddToiTunes(m_workspace, on); });
+    connect(_btnAddToLibrary, &QCheckBox::clicked, this,
+            [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_workspace, on); });
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
     connect(_btnReveal, &QPushButton::clicked, this,
-            [this] { SXSettingPanelActions::clickReveal(m_workspace); });
+            [this] { SXSettingPanelActions::revealOutputFolder(m_workspace); });
     connect(&m_workspace, &SXWorkspaceData::formatSettingShown, this,
-            &SXSettingsPanel::reflushDownPartSettingPanel);
+            &SXSettingsPanel::showSetting);
 }
 
 QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) {
@@ -59,8 +59,8 @@ QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) 
 void SXSettingsPanel::buildButtons() {
     auto* grid = static_cast<QGridLayout*>(layout());
     const int column = m_columns;
-    _btnAddToiTunes = new QCheckBox(tr("Add to m&usic library"), this);
-    _btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
+    _btnAddToLibrary = new QCheckBox(tr("Add to m&usic library"), this);
+    _btnAddToLibrary->setObjectName(QStringLiteral("btnAddToLibrary"));
     _btnSavePath =
         new QPushButton(SXIcons::icon(QStringLiteral("outputFolder"), QStringLiteral("folder")),
                         tr("&Output Folder…"), this);
@@ -69,26 +69,26 @@ void SXSettingsPanel::buildButtons() {
         new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),
                         tr("Show in F&iles"), this);
     _btnReveal->setObjectName(QStringLiteral("btnReveal"));
-    grid->addWidget(_btnAddToiTunes, 0, column);
+    grid->addWidget(_btnAddToLibrary, 0, column);
     grid->addWidget(_btnSavePath, 0, column + 1);
     grid->addWidget(_btnReveal, 1, column + 1);
     grid->setColumnStretch(column + 2, 1);
 }
 
-void SXSettingsPanel::reflushDownPartSettingPanel(const SXFormatSettingPtr& setting) {
+void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     if (!setting)
         return;
-    SXPopUps::fill(_popBitRate, setting->aryBiteRate(), setting->biteRate());
-    SXPopUps::fill(_popChanel, setting->aryChannels(), setting->channels());
+    SXPopUps::fill(_popBitRate, setting->aryBiteRate(), setting->bitRate());
+    SXPopUps::fill(_popChannel, setting->aryChannels(), setting->channels());
     SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
-    _btnAddToiTunes->setVisible(setting->enumAddToiTunes() != -1);
-    _btnAddToiTunes->setChecked(setting->enumAddToiTunes() == 1);
+    _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
+    _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
     _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
-    for (QWidget* control : std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChanel,
-                                                            _btnAddToiTunes, _btnSavePath})
+    for (QWidget* control : std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChannel,
+                                                            _btnAddToLibrary, _btnSavePath})
         control->setEnabled(enabled);
 }
 
@@ -100,8 +100,8 @@ void SXSettingsPanel::clickSavePath() {
     picker->setOption(QFileDialog::ShowDirsOnly);
     picker->setWindowModality(Qt::WindowModal);
     connect(picker, &QFileDialog::fileSelected, this, [this](const QString& folder) {
-        SXSettingPanelActions::clickSavePath(m_workspace, folder);
-        reflushDownPartSettingPanel(m_workspace.getSelectedTabFormatSetting());
+        SXSettingPanelActions::setOutputFolder(m_workspace, folder);
+        showSetting(m_workspace.getSelectedTabFormatSetting());
     });
     picker->open();
 }

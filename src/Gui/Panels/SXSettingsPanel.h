@@ -18,7 +18,7 @@ class SXSettingsPanel final : public QWidget {
 public:
     explicit SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent = nullptr);
 
-    void reflushDownPartSettingPanel(const SXFormatSettingPtr& setting);
+    void showSetting(const SXFormatSettingPtr& setting);
     void setSettingPanelEnable(bool enabled);
 
 private:
@@ -30,8 +30,8 @@ private:
     int m_columns = 0; // pop-ups placed so far, one column each
     QComboBox* _popBitRate = nullptr;
     QComboBox* _popSmpRate = nullptr;
-    QComboBox* _popChanel = nullptr;
-    QCheckBox* _btnAddToiTunes = nullptr;
+    QComboBox* _popChannel = nullptr;
+    QCheckBox* _btnAddToLibrary = nullptr;
     QPushButton* _btnSavePath = nullptr;
     QPushButton* _btnReveal = nullptr;
 };

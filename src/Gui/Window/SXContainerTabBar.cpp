@@ -32,8 +32,7 @@ SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* 
             m_workspace.selectTab(index);
     });
     connect(this, &QTabBar::tabCloseRequested, this, &SXContainerTabBar::closeRequested);
-    connect(m_addButton, &QToolButton::clicked, &m_workspace,
-            &SXWorkspaceContainers::clickAddNewFormat);
+    connect(m_addButton, &QToolButton::clicked, &m_workspace, &SXWorkspaceContainers::addContainer);
     connect(&m_workspace, &SXWorkspaceData::tabsChanged, this, &SXContainerTabBar::showTabs);
     connect(&m_workspace, &SXWorkspaceData::tabCountsChanged, this, &SXContainerTabBar::showCounts);
     connect(&m_workspace, &SXWorkspaceData::appStateChanged, this,

@@ -3,7 +3,7 @@
 #include "App/SXPreferences.h"
 #include "Gui/Dialogs/SXAddFilesDialog.h"
 #include "Gui/Dialogs/SXLoadingSheet.h"
-#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
+#include "Gui/Dialogs/SXMetadataEditDialog.h"
 #include "Gui/List/SXItemListView.h"
 #include "Gui/List/SXRowContextMenu.h"
 #include "Gui/List/SXWindowDrops.h"
@@ -51,10 +51,10 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     });
     connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
-                auto* editor = findChild<SXMetadataEditWndCtlr*>(); // one per window, reused
+                auto* editor = findChild<SXMetadataEditDialog*>(); // one per window, reused
                 if (!editor) {
-                    editor = new SXMetadataEditWndCtlr(this);
-                    editor->setCustomDelegate(m_workspace);
+                    editor = new SXMetadataEditDialog(this);
+                    editor->setListener(m_workspace);
                 }
                 editor->setMusicInfo(item);
                 editor->open();
@@ -113,8 +113,8 @@ QWidget* SXMainAppController::buildFileButtons() {
     _btnClear = button(tr("Cl&ear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
                        QStringLiteral("edit-clear-all"));
     connect(_btnAddFile, &QPushButton::clicked, this, &SXMainAppController::clickAddFiles);
-    connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::clickDeleteFile);
-    connect(_btnClear, &QPushButton::clicked, m_workspace, &SXWorkspace::clickClear);
+    connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::removeSelected);
+    connect(_btnClear, &QPushButton::clicked, m_workspace, &SXWorkspace::clearContainer);
     return box;
 }
 
@@ -138,7 +138,7 @@ void SXMainAppController::connectWorkspace() {
 
 void SXMainAppController::refreshListView() {
     const bool removable =
-        sxRemoveButtonsEnabled(m_workspace->enumAppState(), m_workspace->getCurentTabMusicCount());
+        sxRemoveButtonsEnabled(m_workspace->enumAppState(), m_workspace->currentTabItemCount());
     _btnDelete->setEnabled(removable);
     _btnClear->setEnabled(removable);
     _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(*m_workspace));
@@ -156,16 +156,16 @@ void SXMainAppController::perform(SXCommand command) {
         clickAddFiles();
         break;
     case SXCommand::NewFormat:
-        ws.clickAddNewFormat();
+        ws.addContainer();
         break;
     case SXCommand::CloseTab:
         ws.closeTab(); // beeps for a fixed container
         break;
     case SXCommand::Delete:
-        ws.clickDeleteFile();
+        ws.removeSelected();
         break;
     case SXCommand::Clear:
-        ws.clickClear();
+        ws.clearContainer();
         break;
     case SXCommand::NextRow:
         ws.moveSelectedTo(-1);
@@ -181,11 +181,11 @@ void SXMainAppController::perform(SXCommand command) {
         break;
     case SXCommand::Start:
     case SXCommand::Stop:
-        ws.clickStart(); // one toggle: Stop during a run
+        ws.toggleRun(); // one toggle: Stop during a run
         break;
     case SXCommand::TagEditor:
         if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
-            ws.didMyListViewCellRightButtonClick(items.first());
+            ws.cancelOrEditTags(items.first());
         break;
     case SXCommand::FileInfo:
         m_fileInfo->clickInfo();

@@ -23,7 +23,7 @@ SXPreviewWiring::SXPreviewWiring(QWidget& window, QAbstractItemView& list, SXIte
     SXWorkspace* ws = &workspace;
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), &list);
     space->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(space, &QShortcut::activated, ws, &SXWorkspace::clickPlaySelected);
+    connect(space, &QShortcut::activated, ws, &SXWorkspace::playSelected);
     auto* pause = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Space), &window);
     connect(pause, &QShortcut::activated, ws, &SXWorkspace::pauseOrResumePreview);
 

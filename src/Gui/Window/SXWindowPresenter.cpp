@@ -1,7 +1,7 @@
 #include "Gui/Window/SXWindowPresenter.h"
 
 #include "Desktop/SXFileManager.h"
-#include "Gui/Dialogs/SXFmtsChooseWndCtlr.h"
+#include "Gui/Dialogs/SXFormatChooserDialog.h"
 #include "Gui/Dialogs/SXOutputFolderDialog.h"
 #include "Workspace/SXFormatChooser.h"
 
@@ -70,7 +70,7 @@ void SXWindowPresenter::chooseOutputFolder(const SXOutputFolderRequest& request,
 
 void SXWindowPresenter::chooseNewFormat(const QList<SXFormatSettingPtr>& formats,
                                         Answer<SXFormatSettingPtr> chosen) {
-    auto* dialog = new SXFmtsChooseWndCtlr(formats, &m_window);
+    auto* dialog = new SXFormatChooserDialog(formats, &m_window);
     connect(dialog, &QDialog::finished, this, [dialog, chosen](int result) {
         chosen(result == QDialog::Accepted ? dialog->getFormatSettingResult() : nullptr);
     });

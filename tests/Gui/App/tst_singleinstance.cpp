@@ -1,5 +1,5 @@
 #include "Desktop/SXSingleInstance.h"
-#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXDesktopApp.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Model/SXMusicInfo.h"
 #include "Shared/SXSettings.h"
@@ -55,11 +55,11 @@ private:
     runProgram(const QStringList& arguments, const QString& workingDir,
                const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
     void becomeTheRunningInstance();
-    SXWorkspace& workspace() const { return m_app->coreMainWndCtlr()->workspace(); }
+    SXWorkspace& workspace() const { return m_app->coreWindow()->workspace(); }
 
     SonoriaTest::PrivateSessionBus m_bus;
     QTemporaryDir m_media;
-    std::unique_ptr<SXAppDelegate> m_app;
+    std::unique_ptr<SXDesktopApp> m_app;
     std::unique_ptr<SXSingleInstance> m_instance;
 };
 
@@ -67,7 +67,7 @@ void TestSingleInstance::initTestCase() {
     QVERIFY(m_bus.start());
     // The program started beside this test shares its settings store: no start-up requests.
     SXSettings::setValue(SXSettingsKey::ServiceBaseURL, QString());
-    m_app = std::make_unique<SXAppDelegate>();
+    m_app = std::make_unique<SXDesktopApp>();
     m_app->start({}, false);
     becomeTheRunningInstance();
 }
@@ -76,7 +76,7 @@ void TestSingleInstance::becomeTheRunningInstance() {
     m_instance = std::make_unique<SXSingleInstance>();
     QVERIFY(m_instance->claim());
     connect(m_instance.get(), &SXSingleInstance::openRequested, m_app.get(),
-            &SXAppDelegate::openFiles);
+            &SXDesktopApp::openFiles);
 }
 
 void TestSingleInstance::cleanupTestCase() {
@@ -105,13 +105,13 @@ int TestSingleInstance::runProgram(const QStringList& arguments, const QString& 
 }
 
 void TestSingleInstance::secondStartWithoutFilesRevivesTheClosedWindow() {
-    SXMainAppController* window = m_app->coreMainWndCtlr();
+    SXMainAppController* window = m_app->coreWindow();
     window->close(); // empty: closes without asking
     QTRY_VERIFY(!window->isVisible());
 
     QCOMPARE(runProgram({}, m_media.path()), 0);
     QTRY_VERIFY(window->isVisible());
-    QCOMPARE(m_app->coreMainWndCtlr(), window); // revived, not replaced
+    QCOMPARE(m_app->coreWindow(), window); // revived, not replaced
     QVERIFY(workspace().isRegistered());
 }
 

@@ -3,7 +3,7 @@
 
 #include "Framework/MTEAudioFileMgr.h"
 #include "Gui/Dialogs/SXArtworkDropView.h"
-#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
+#include "Gui/Dialogs/SXMetadataEditDialog.h"
 #include "Model/SXDataEngine.h"
 #include "Shared/SXSettings.h"
 #include "Workspace/SXWorkspace.h"
@@ -81,7 +81,7 @@ private:
     WorkspaceTestPresenter m_presenter;
     std::unique_ptr<SXWorkspace> m_workspace;
     std::unique_ptr<QWidget> m_window;
-    SXMetadataEditWndCtlr* m_editor = nullptr;
+    SXMetadataEditDialog* m_editor = nullptr;
 };
 
 void TestMetadataEditor::initTestCase() {
@@ -98,8 +98,8 @@ void TestMetadataEditor::init() {
     m_window = std::make_unique<QWidget>();
     m_window->resize(700, 500);
     m_window->show();
-    m_editor = new SXMetadataEditWndCtlr(m_window.get());
-    m_editor->setCustomDelegate(m_workspace.get());
+    m_editor = new SXMetadataEditDialog(m_window.get());
+    m_editor->setListener(m_workspace.get());
 }
 
 void TestMetadataEditor::cleanup() {
@@ -189,14 +189,14 @@ void TestMetadataEditor::stepsThroughTheShownList() {
     QPushButton* next = m_editor->findChild<QPushButton*>(u"btnNext"_s);
     m_editor->setMusicInfo(rows.at(2));
     QVERIFY(previous->isEnabled() && !next->isEnabled());
-    QCOMPARE(m_workspace->metadataEditWndCltrAskMusicInfo(rows.at(2), 1), nullptr);
+    QCOMPARE(m_workspace->metadataEditorAsksForItem(rows.at(2), 1), nullptr);
     previous->click();
     QCOMPARE(m_editor->musicInfo(), rows.at(1));
     QCOMPARE(m_workspace->selectedRows(), QList<int>{1});
     QCOMPARE(line("tfTitle")->text(), u"Old b.mp3"_s);
     previous->click();
     QVERIFY(!previous->isEnabled() && next->isEnabled());
-    m_editor->setCustomDelegate(nullptr);
+    m_editor->setListener(nullptr);
     m_editor->setMusicInfo(rows.at(1));
     QVERIFY(!previous->isEnabled() && !next->isEnabled());
 }

@@ -1,5 +1,5 @@
 #include "App/SXServiceRequest.h"
-#include "Gui/Dialogs/SXPreferenceCtlr.h"
+#include "Gui/Dialogs/SXPreferencesDialog.h"
 #include "Shared/SXSettings.h"
 #include "support/gui/GuiTestSupport.h"
 
@@ -29,18 +29,18 @@ private:
 
 void TestPreferences::init() {
     SXSettings::setValue(SXSettingsKey::MaxTask, 5);
-    SXSettings::setValue(SXSettingsKey::iTunesFmt, QStringLiteral("AAC"));
-    SXSettings::setValue(SXSettingsKey::iTunesPlaylistName, QStringLiteral("Sonoria"));
+    SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
+    SXSettings::setValue(SXSettingsKey::libraryPlaylistName, QStringLiteral("Sonoria"));
     SXSettings::removeKey(SXServiceRequest::kConsentKey);
     SXSettings::synchronize();
 }
 
 void TestPreferences::everyChangeIsStoredAtOnce() {
-    SXPreferenceCtlr window;
+    SXPreferencesDialog window;
     window.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     auto* tasks = window.findChild<QComboBox*>(QStringLiteral("pbtnMaxTasks"));
-    auto* library = window.findChild<QComboBox*>(QStringLiteral("pbtniTunesFmt"));
+    auto* library = window.findChild<QComboBox*>(QStringLiteral("pbtnLibraryFormat"));
     auto* playlist = window.findChild<QLineEdit*>(QStringLiteral("fdPlaylistName"));
     QCOMPARE(tasks->currentText(), QStringLiteral("5"));
     QCOMPARE(library->currentText(), QStringLiteral("AAC"));
@@ -55,15 +55,16 @@ void TestPreferences::everyChangeIsStoredAtOnce() {
 
     library->setFocus();
     QTest::keyClick(library, Qt::Key_Down);
-    QCOMPARE(storedOnDisk(SXSettingsKey::iTunesFmt).toString(), QStringLiteral("MP3"));
+    QCOMPARE(storedOnDisk(SXSettingsKey::libraryFormat).toString(), QStringLiteral("MP3"));
 
     playlist->setFocus();
     playlist->selectAll();
     QTest::keyClicks(playlist, QStringLiteral("Road Mix"));
-    QCOMPARE(storedOnDisk(SXSettingsKey::iTunesPlaylistName).toString(),
+    QCOMPARE(storedOnDisk(SXSettingsKey::libraryPlaylistName).toString(),
              QStringLiteral("Road Mix"));
     QTest::keyClick(playlist, Qt::Key_Backspace);
-    QCOMPARE(storedOnDisk(SXSettingsKey::iTunesPlaylistName).toString(), QStringLiteral("Road Mi"));
+    QCOMPARE(storedOnDisk(SXSettingsKey::libraryPlaylistName).toString(),
+             QStringLiteral("Road Mi"));
 
     // The network consent starts off and is the user's own act.
     auto* consent = window.findChild<QCheckBox*>(QStringLiteral("chkServiceConsent"));
@@ -81,11 +82,11 @@ void TestPreferences::everyChangeIsStoredAtOnce() {
 
 void TestPreferences::aStoredValueOutsideTheChoicesShowsNoChoice() {
     SXSettings::setValue(SXSettingsKey::MaxTask, 3);
-    SXSettings::setValue(SXSettingsKey::iTunesFmt, QStringLiteral("MP3"));
-    SXPreferenceCtlr window;
+    SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("MP3"));
+    SXPreferencesDialog window;
     auto* tasks = window.findChild<QComboBox*>(QStringLiteral("pbtnMaxTasks"));
     QCOMPARE(tasks->currentIndex(), -1);
-    QCOMPARE(window.findChild<QComboBox*>(QStringLiteral("pbtniTunesFmt"))->currentText(),
+    QCOMPARE(window.findChild<QComboBox*>(QStringLiteral("pbtnLibraryFormat"))->currentText(),
              QStringLiteral("MP3"));
     // Showing it wrote nothing back.
     QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);

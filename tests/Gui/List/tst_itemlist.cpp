@@ -198,7 +198,7 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
     QCOMPARE(stateWhileShown, int(AppStateLoading));
     QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
     QCOMPARE(sheet->windowModality(), Qt::WindowModal);
-    QCOMPARE(workspace.getCurentTabMusicCount(), 0);
+    QCOMPARE(workspace.currentTabItemCount(), 0);
     QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
     QVERIFY(!SonoriaGuiTest::openDialog<QMessageBox>(window.get()));
 }

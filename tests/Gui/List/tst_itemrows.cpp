@@ -1,6 +1,6 @@
 #include "ItemListTestSupport.h"
 
-#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
+#include "Gui/Dialogs/SXMetadataEditDialog.h"
 #include "Gui/List/SXItemRowDelegate.h"
 #include "Gui/List/SXRowContextMenu.h"
 #include "Gui/Window/SXWindowPresenter.h"
@@ -97,13 +97,13 @@ void TestItemRows::init() {
 }
 
 void TestItemRows::refill() {
-    m_window->workspace().clickClear();
+    m_window->workspace().clearContainer();
     QVERIFY(dropFilesOnList(m_window.get(), m_files));
     QCOMPARE(m_view->model()->rowCount(), 8);
 }
 
 void TestItemRows::closeTagEditor() const {
-    auto* editor = SonoriaGuiTest::openDialog<SXMetadataEditWndCtlr>(m_window.get());
+    auto* editor = SonoriaGuiTest::openDialog<SXMetadataEditDialog>(m_window.get());
     QVERIFY(editor);
     editor->reject();
     m_window->activateWindow();

@@ -111,7 +111,7 @@ void TestWindowRun::init() {
 
 void TestWindowRun::cleanup() {
     m_window.reset();
-    QVERIFY(SXDataEngine::shareInstance()->getAllMainWndCtlr().isEmpty());
+    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
 }
 
 void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
@@ -123,7 +123,7 @@ void TestWindowRun::addSources(const QStringList& names, double seconds, const Q
     SXWorkspace& ws = m_window->workspace();
     ws.loadAndParseFiles(paths);
     QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 20000);
-    QCOMPARE(ws.getCurentTabMusicCount(), names.size());
+    QCOMPARE(ws.currentTabItemCount(), names.size());
 }
 
 QAction* TestWindowRun::startAction() const {
@@ -280,7 +280,7 @@ void TestWindowRun::nothingLeavesTheListDuringARun() {
     QTest::mouseClick(remove, Qt::LeftButton);
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(list->model()->rowCount(), 2);
-    QCOMPARE(ws.getCurentTabMusicCount(), 2);
+    QCOMPARE(ws.currentTabItemCount(), 2);
     QCOMPARE(ws.queueConvertTask()->operationCount(), 2);
 
     // Stop still reaches both children, and the summary comes with both rows in place.

@@ -1,5 +1,5 @@
 #include "App/SXPreferences.h"
-#include "Gui/Dialogs/SXFmtsChooseWndCtlr.h"
+#include "Gui/Dialogs/SXFormatChooserDialog.h"
 #include "Gui/Window/SXContainerTabBar.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Gui/Window/SXWindowPresenter.h"
@@ -47,7 +47,7 @@ private:
         return m_window->findChild<T*>(QLatin1String(name));
     }
     int tabIndex(const QString& label) const;
-    SXFmtsChooseWndCtlr* openChooser();
+    SXFormatChooserDialog* openChooser();
 
     QTemporaryDir m_media;
     std::unique_ptr<SXMainAppController> m_window;
@@ -72,12 +72,12 @@ int TestWorkspaceWindow::tabIndex(const QString& label) const {
     return -1;
 }
 
-SXFmtsChooseWndCtlr* TestWorkspaceWindow::openChooser() {
+SXFormatChooserDialog* TestWorkspaceWindow::openChooser() {
     QToolButton* add = m_window->tabBar().addButton();
     if (!add || !add->isVisible())
         return nullptr;
     QTest::mouseClick(add, Qt::LeftButton);
-    return openDialog<SXFmtsChooseWndCtlr>(m_window.get());
+    return openDialog<SXFormatChooserDialog>(m_window.get());
 }
 
 void TestWorkspaceWindow::tabsShowContainersAndCloseOnlyWhereAllowed() {
@@ -116,13 +116,13 @@ void TestWorkspaceWindow::tabsShowContainersAndCloseOnlyWhereAllowed() {
 
 void TestWorkspaceWindow::chooserAddsTheChosenContainerAndCancelAddsNothing() {
     const int before = m_window->tabBar().count();
-    SXFmtsChooseWndCtlr* chooser = openChooser();
+    SXFormatChooserDialog* chooser = openChooser();
     QVERIFY(chooser);
     QCOMPARE(chooser->objectName(), QStringLiteral("OtherFormat"));
     QVERIFY(chooser->isModal());
     auto* buttons = chooser->findChild<QDialogButtonBox*>();
     buttons->button(QDialogButtonBox::Cancel)->click();
-    QTRY_VERIFY(!m_window->findChild<SXFmtsChooseWndCtlr*>());
+    QTRY_VERIFY(!m_window->findChild<SXFormatChooserDialog*>());
     QCOMPARE(m_window->tabBar().count(), before);
 
     chooser = openChooser();
@@ -169,35 +169,35 @@ void TestWorkspaceWindow::chooserIsReplacedByAnAlertWhenEveryFormatIsOpen() {
     grab(alert, QStringLiteral("alert-all-formats"));
     grab(m_window.get(), QStringLiteral("window-all-containers"));
     QVERIFY(clickMessageButton(alert, QStringLiteral("Yes")));
-    QVERIFY(!m_window->findChild<SXFmtsChooseWndCtlr*>());
+    QVERIFY(!m_window->findChild<SXFormatChooserDialog*>());
 }
 
 void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     SXWorkspace& ws = m_window->workspace();
     auto* bitRate = child<QComboBox>("popBitRate");
-    auto* library = child<QCheckBox>("btnAddToiTunes");
+    auto* library = child<QCheckBox>("btnAddToLibrary");
 
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     const SXFormatSettingPtr mp3 = ws.getSelectedTabFormatSetting();
-    QCOMPARE(bitRate->currentText(), mp3->biteRate());
+    QCOMPARE(bitRate->currentText(), mp3->bitRate());
     QVERIFY(library->isVisible());
 
     // Choosing by keyboard writes the selected container's setting, nobody else's.
     bitRate->setFocus();
     QTest::keyClick(bitRate, Qt::Key_Home);
     const QString lowest = bitRate->currentText();
-    QCOMPARE(mp3->biteRate(), lowest);
+    QCOMPARE(mp3->bitRate(), lowest);
     QTest::mouseClick(library, Qt::LeftButton);
-    QCOMPARE(mp3->enumAddToiTunes(), library->isChecked() ? 1 : 0);
+    QCOMPARE(mp3->enumAddToLibrary(), library->isChecked() ? 1 : 0);
 
     // A format without a library option hides the box; going back shows the edited values.
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("Ringtone")));
-    QCOMPARE(ws.getSelectedTabFormatSetting()->enumAddToiTunes(), -1);
+    QCOMPARE(ws.getSelectedTabFormatSetting()->enumAddToLibrary(), -1);
     QVERIFY(!library->isVisible());
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     QVERIFY(library->isVisible());
     QCOMPARE(bitRate->currentText(), lowest);
-    QCOMPARE(library->isChecked(), mp3->enumAddToiTunes() == 1);
+    QCOMPARE(library->isChecked(), mp3->enumAddToLibrary() == 1);
 }
 
 void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
@@ -225,7 +225,7 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
     QVERIFY(SonoriaTest::makeTone(path));
     ws.loadAndParseFiles({path});
     QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
-    QCOMPARE(ws.getCurentTabMusicCount(), 1);
+    QCOMPARE(ws.currentTabItemCount(), 1);
     QVERIFY(remove->isEnabled() && clear->isEnabled());
     const QString text = SXWorkspaceTexts::helpBarText(ws);
     QVERIFY(text.startsWith(QStringLiteral("1 file")));
@@ -236,7 +236,7 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
     QVERIFY(!inked(list->viewport()->grab().toImage())); // one row, no hint
 
     QTest::mouseClick(clear, Qt::LeftButton);
-    QCOMPARE(ws.getCurentTabMusicCount(), 0);
+    QCOMPARE(ws.currentTabItemCount(), 0);
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
     QVERIFY(!m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
 }
@@ -303,7 +303,7 @@ void TestWorkspaceWindow::runLocksTabsAndPanel() {
 void TestWorkspaceWindow::everyControlIsNamedAndReachedByTab() {
     const QStringList problems = accessibilityProblems(m_window.get());
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
-    SXFmtsChooseWndCtlr* chooser = openChooser();
+    SXFormatChooserDialog* chooser = openChooser();
     QVERIFY(chooser);
     const QStringList chooserProblems = accessibilityProblems(chooser);
     QVERIFY2(chooserProblems.isEmpty(), qPrintable(chooserProblems.join(QLatin1Char('\n'))));

@@ -6,29 +6,29 @@
 #include <QPointer>
 #include <QStringList>
 
-class MacAppHelper;
+class SXStartupReport;
 class SXMainAppController;
-class SXMenuHandleCltr;
-class SXPreferenceCtlr;
+class SXMenuHandler;
+class SXPreferencesDialog;
 class SXWorkspace;
 
 // The application: starts the program in its fixed order, keeps the one primary workspace
 // window (revived by "New Container", never replaced), routes every menu command to the
 // workspace window that is key, and keeps the menus validated.
-class SXAppDelegate final : public QObject {
+class SXDesktopApp final : public QObject {
     Q_OBJECT
 public:
-    explicit SXAppDelegate(QObject* parent = nullptr);
-    ~SXAppDelegate() override;
+    explicit SXDesktopApp(QObject* parent = nullptr);
+    ~SXDesktopApp() override;
 
     // The whole start-up: the window first, then the preference defaults, then the default
     // output folder and the start-up requests (only when `contactService`). `files` go into the
     // selected container.
     void start(const QStringList& files, bool contactService = true);
 
-    SXMainAppController* coreMainWndCtlr() const;
-    SXMenuHandleCltr& menus() const { return *m_menus; }
-    SXPreferenceCtlr* preferenceCltr() const;
+    SXMainAppController* coreWindow() const;
+    SXMenuHandler& menus() const { return *m_menus; }
+    SXPreferencesDialog* preferencesDialog() const;
     // The workspace window whose window is key, if any.
     SXMainAppController* keyWindowController() const;
 
@@ -64,10 +64,10 @@ private:
     void clickCloseTab(SXMainAppController* key);
     void loadPendingFiles();
 
-    SXMenuHandleCltr* m_menus = nullptr;
-    QPointer<SXMainAppController> m_coreMainWndCtlr;
-    QPointer<SXPreferenceCtlr> m_preferenceCltr;
-    MacAppHelper* m_appHelper = nullptr;
+    SXMenuHandler* m_menus = nullptr;
+    QPointer<SXMainAppController> m_coreWindow;
+    QPointer<SXPreferencesDialog> m_preferencesDialog;
+    SXStartupReport* m_appHelper = nullptr;
     bool m_primaryOpen = true;
     QStringList m_pendingFiles;
 };

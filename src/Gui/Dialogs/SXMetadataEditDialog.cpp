@@ -1,4 +1,4 @@
-#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
+#include "Gui/Dialogs/SXMetadataEditDialog.h"
 
 #include "Gui/Dialogs/SXArtworkDropView.h"
 #include "Shared/SXLog.h"
@@ -23,16 +23,16 @@ constexpr int kArtworkView = 200; // the artwork well is square
 constexpr int kNoticeHeight = 40;
 } // namespace
 
-SXMetadataEditWndCtlr::SXMetadataEditWndCtlr(QWidget* parent)
+SXMetadataEditDialog::SXMetadataEditDialog(QWidget* parent)
     : QDialog(parent) {
-    setObjectName(QStringLiteral("SXMetadataEditWndCtlr"));
+    setObjectName(QStringLiteral("SXMetadataEditDialog"));
     setWindowModality(Qt::WindowModal);
     m_tabView = new QTabWidget(this);
     m_tabView->setObjectName(QStringLiteral("tabView"));
     m_tabView->addTab(buildTagsTab(), tr("&Tags"));
     m_tabView->addTab(buildArtworkTab(), tr("A&rtwork"));
     m_tabView->addTab(buildLyricsTab(), tr("&Lyrics"));
-    connect(m_tabView, &QTabWidget::currentChanged, this, &SXMetadataEditWndCtlr::updateTabView);
+    connect(m_tabView, &QTabWidget::currentChanged, this, &SXMetadataEditDialog::updateTabView);
 
     const auto button = [this](const QString& text, const QString& name) {
         auto* b = new QPushButton(text, this);
@@ -45,10 +45,10 @@ SXMetadataEditWndCtlr::SXMetadataEditWndCtlr(QWidget* parent)
     m_btnCancel = button(tr("Cancel"), QStringLiteral("btnCancel"));
     m_btnOk = button(tr("OK"), QStringLiteral("btnOk"));
     m_btnOk->setDefault(true);
-    connect(m_btnPre, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickPre);
-    connect(m_btnNext, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickNext);
-    connect(m_btnCancel, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickCancel);
-    connect(m_btnOk, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickOk);
+    connect(m_btnPre, &QPushButton::clicked, this, &SXMetadataEditDialog::clickPre);
+    connect(m_btnNext, &QPushButton::clicked, this, &SXMetadataEditDialog::clickNext);
+    connect(m_btnCancel, &QPushButton::clicked, this, &SXMetadataEditDialog::clickCancel);
+    connect(m_btnOk, &QPushButton::clicked, this, &SXMetadataEditDialog::clickOk);
     auto* buttons = new QHBoxLayout;
     buttons->addWidget(m_btnPre);
     buttons->addWidget(m_btnNext);
@@ -73,9 +73,9 @@ SXMetadataEditWndCtlr::SXMetadataEditWndCtlr(QWidget* parent)
     enableEdit(false);
 }
 
-SXMetadataEditWndCtlr::~SXMetadataEditWndCtlr() = default;
+SXMetadataEditDialog::~SXMetadataEditDialog() = default;
 
-QWidget* SXMetadataEditWndCtlr::buildTagsTab() {
+QWidget* SXMetadataEditDialog::buildTagsTab() {
     auto* tab = new QWidget(this);
     auto* form = new QFormLayout(tab);
     for (const FieldInfo& info : tagFields()) {
@@ -90,25 +90,25 @@ QWidget* SXMetadataEditWndCtlr::buildTagsTab() {
     return tab;
 }
 
-QWidget* SXMetadataEditWndCtlr::buildArtworkTab() {
+QWidget* SXMetadataEditDialog::buildArtworkTab() {
     auto* tab = new QWidget(this);
     m_ivArtworkImg = new SXArtworkDropView(tab);
     m_ivArtworkImg->setObjectName(QStringLiteral("ivArtworkImg"));
     m_ivArtworkImg->setAccessibleName(tr("Artwork"));
     m_ivArtworkImg->setFixedSize(kArtworkView, kArtworkView);
     connect(m_ivArtworkImg, &SXArtworkDropView::didAcceptDrag, this,
-            &SXMetadataEditWndCtlr::takeArtwork);
+            &SXMetadataEditDialog::takeArtwork);
     m_sldScale = new QSlider(Qt::Horizontal, tab);
     m_sldScale->setObjectName(QStringLiteral("sldScale"));
     m_sldScale->setAccessibleName(tr("Artwork size"));
     m_sldScale->setRange(0, 100);
-    connect(m_sldScale, &QSlider::valueChanged, this, &SXMetadataEditWndCtlr::scaleImage);
+    connect(m_sldScale, &QSlider::valueChanged, this, &SXMetadataEditDialog::scaleImage);
     m_btnAddImg = new QPushButton(tr("&Add…"), tab);
     m_btnAddImg->setObjectName(QStringLiteral("btnAddImg"));
     m_btnDeleteImg = new QPushButton(tr("&Delete"), tab);
     m_btnDeleteImg->setObjectName(QStringLiteral("btnDeleteImg"));
-    connect(m_btnAddImg, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickAdd);
-    connect(m_btnDeleteImg, &QPushButton::clicked, this, &SXMetadataEditWndCtlr::clickDelete);
+    connect(m_btnAddImg, &QPushButton::clicked, this, &SXMetadataEditDialog::clickAdd);
+    connect(m_btnDeleteImg, &QPushButton::clicked, this, &SXMetadataEditDialog::clickDelete);
     auto* row = new QHBoxLayout;
     row->addWidget(m_btnAddImg);
     row->addWidget(m_btnDeleteImg);
@@ -121,7 +121,7 @@ QWidget* SXMetadataEditWndCtlr::buildArtworkTab() {
     return tab;
 }
 
-QWidget* SXMetadataEditWndCtlr::buildLyricsTab() {
+QWidget* SXMetadataEditDialog::buildLyricsTab() {
     auto* tab = new QWidget(this);
     auto* editor = new QPlainTextEdit(tab);
     auto* layout = new QVBoxLayout(tab);
@@ -130,7 +130,7 @@ QWidget* SXMetadataEditWndCtlr::buildLyricsTab() {
     return tab;
 }
 
-void SXMetadataEditWndCtlr::addTextField(const FieldInfo& info, QWidget* editor) {
+void SXMetadataEditDialog::addTextField(const FieldInfo& info, QWidget* editor) {
     editor->setObjectName(info.outlet);
     editor->setAccessibleName(info.caption);
     const Field field = info.field;
@@ -147,14 +147,14 @@ void SXMetadataEditWndCtlr::addTextField(const FieldInfo& info, QWidget* editor)
     }
 }
 
-void SXMetadataEditWndCtlr::fieldEdited(Field field, const QString& text) {
+void SXMetadataEditDialog::fieldEdited(Field field, const QString& text) {
     if (const auto tags = m_musicInfo ? m_musicInfo->metHandler() : nullptr)
         writeField(*tags, field, text);
 }
 
 // --- The item ---
 
-void SXMetadataEditWndCtlr::setMusicInfo(const SXMusicInfoPtr& item) {
+void SXMetadataEditDialog::setMusicInfo(const SXMusicInfoPtr& item) {
     m_musicInfo = item;
     if (isVisible())
         m_session.begin(item);
@@ -171,7 +171,7 @@ void SXMetadataEditWndCtlr::setMusicInfo(const SXMusicInfoPtr& item) {
     setWindowTitle(item ? QFileInfo(item->strFilePath()).fileName() : QString());
 }
 
-void SXMetadataEditWndCtlr::updateTabView() {
+void SXMetadataEditDialog::updateTabView() {
     const auto tags = m_musicInfo ? m_musicInfo->metHandler() : nullptr;
     if (!tags)
         return;
@@ -192,32 +192,30 @@ void SXMetadataEditWndCtlr::updateTabView() {
     }
 }
 
-void SXMetadataEditWndCtlr::updateButtonState() {
-    m_btnPre->setEnabled(m_delegate &&
-                         m_delegate->isMetadataEditWndCltrCanPerformFunction(m_musicInfo, 0));
-    m_btnNext->setEnabled(m_delegate &&
-                          m_delegate->isMetadataEditWndCltrCanPerformFunction(m_musicInfo, 1));
+void SXMetadataEditDialog::updateButtonState() {
+    m_btnPre->setEnabled(m_listener && m_listener->canMetadataEditorPerform(m_musicInfo, 0));
+    m_btnNext->setEnabled(m_listener && m_listener->canMetadataEditorPerform(m_musicInfo, 1));
 }
 
-void SXMetadataEditWndCtlr::clickPre() {
-    if (m_delegate)
-        setMusicInfo(m_delegate->metadataEditWndCltrAskMusicInfo(m_musicInfo, 0));
+void SXMetadataEditDialog::clickPre() {
+    if (m_listener)
+        setMusicInfo(m_listener->metadataEditorAsksForItem(m_musicInfo, 0));
 }
 
-void SXMetadataEditWndCtlr::clickNext() {
-    if (m_delegate)
-        setMusicInfo(m_delegate->metadataEditWndCltrAskMusicInfo(m_musicInfo, 1));
+void SXMetadataEditDialog::clickNext() {
+    if (m_listener)
+        setMusicInfo(m_listener->metadataEditorAsksForItem(m_musicInfo, 1));
 }
 
-void SXMetadataEditWndCtlr::clickOk() {
+void SXMetadataEditDialog::clickOk() {
     accept();
 }
 
-void SXMetadataEditWndCtlr::clickCancel() {
+void SXMetadataEditDialog::clickCancel() {
     reject();
 }
 
-void SXMetadataEditWndCtlr::done(int result) {
+void SXMetadataEditDialog::done(int result) {
     // Escape and the window's close button arrive here as a rejection too.
     if (result == QDialog::Accepted)
         m_session.accept();
@@ -227,7 +225,7 @@ void SXMetadataEditWndCtlr::done(int result) {
     QDialog::done(result);
 }
 
-void SXMetadataEditWndCtlr::showEvent(QShowEvent* event) {
+void SXMetadataEditDialog::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     m_session.begin(m_musicInfo);
     if (const std::optional<QPoint> origin = storedWindowPosition())
@@ -236,7 +234,7 @@ void SXMetadataEditWndCtlr::showEvent(QShowEvent* event) {
 
 // --- Editing allowed or not ---
 
-void SXMetadataEditWndCtlr::enableEdit(bool flag) {
+void SXMetadataEditDialog::enableEdit(bool flag) {
     for (QWidget* control :
          {static_cast<QWidget*>(m_btnPre), static_cast<QWidget*>(m_btnNext),
           static_cast<QWidget*>(m_btnCancel), static_cast<QWidget*>(m_btnDeleteImg),
@@ -251,25 +249,25 @@ void SXMetadataEditWndCtlr::enableEdit(bool flag) {
         m_viewdisable->setFocus(); // no field keeps the keyboard
 }
 
-void SXMetadataEditWndCtlr::showCanNotEditMetadataTips(bool hide) {
+void SXMetadataEditDialog::showCanNotEditMetadataTips(bool hide) {
     m_noticeHidden = hide;
     m_viewdisable->setGeometry(0, noticeStripY(hide, size()), width(), kNoticeHeight);
     m_viewdisable->setVisible(!hide);
     m_viewdisable->raise();
 }
 
-void SXMetadataEditWndCtlr::resizeEvent(QResizeEvent* event) {
+void SXMetadataEditDialog::resizeEvent(QResizeEvent* event) {
     QDialog::resizeEvent(event);
     showCanNotEditMetadataTips(m_noticeHidden);
 }
 
 // --- Artwork ---
 
-QSize SXMetadataEditWndCtlr::artworkViewSize() const {
+QSize SXMetadataEditDialog::artworkViewSize() const {
     return m_ivArtworkImg->size();
 }
 
-void SXMetadataEditWndCtlr::clickAdd() {
+void SXMetadataEditDialog::clickAdd() {
     auto* chooser = new QFileDialog(this, tr("Choose Artwork"));
     chooser->setObjectName(QStringLiteral("artworkChooser"));
     chooser->setAttribute(Qt::WA_DeleteOnClose);
@@ -283,7 +281,7 @@ void SXMetadataEditWndCtlr::clickAdd() {
     chooser->open();
 }
 
-void SXMetadataEditWndCtlr::takeArtwork(const MTEArtwork& artwork) {
+void SXMetadataEditDialog::takeArtwork(const MTEArtwork& artwork) {
     m_imgChangeBase = decodeArtwork(artwork);
     SXLog::line(QStringLiteral("the changed img = %1 %2x%3")
                     .arg(artwork.mimeType)
@@ -295,7 +293,7 @@ void SXMetadataEditWndCtlr::takeArtwork(const MTEArtwork& artwork) {
     resetImageSlider();
 }
 
-void SXMetadataEditWndCtlr::clickDelete() {
+void SXMetadataEditDialog::clickDelete() {
     m_imgChangeBase = QImage();
     m_baseMimeType.clear();
     showArtwork(QImage());
@@ -303,14 +301,14 @@ void SXMetadataEditWndCtlr::clickDelete() {
         tags->setAlbumImg({});
 }
 
-void SXMetadataEditWndCtlr::resetImageSlider() {
+void SXMetadataEditDialog::resetImageSlider() {
     if (m_imgChangeBase.isNull())
         return;
     const QSignalBlocker quiet(m_sldScale); // placing the slider is not moving it
     m_sldScale->setValue(initialSliderValue(m_imgChangeBase.size(), artworkViewSize()));
 }
 
-void SXMetadataEditWndCtlr::scaleImage(int value) {
+void SXMetadataEditDialog::scaleImage(int value) {
     if (m_imgChangeBase.isNull())
         return;
     const QSizeF target = scaledArtworkSize(m_imgChangeBase.size(), artworkViewSize(), value);
@@ -324,11 +322,11 @@ void SXMetadataEditWndCtlr::scaleImage(int value) {
     storeArtwork(scaled);
 }
 
-void SXMetadataEditWndCtlr::showArtwork(const QImage& image) {
+void SXMetadataEditDialog::showArtwork(const QImage& image) {
     m_ivArtworkImg->setPixmap(image.isNull() ? QPixmap() : QPixmap::fromImage(image));
 }
 
-void SXMetadataEditWndCtlr::storeArtwork(const MTEArtwork& artwork) {
+void SXMetadataEditDialog::storeArtwork(const MTEArtwork& artwork) {
     if (const auto tags = m_musicInfo ? m_musicInfo->metHandler() : nullptr)
         tags->setAlbumImg({artwork});
 }

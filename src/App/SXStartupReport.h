@@ -6,10 +6,10 @@ class QNetworkAccessManager;
 
 // The application object that tells the maker's service that the program started. The desktop
 // program owns one for its whole run; HVConfigManager::startupRequests() uses it.
-class MacAppHelper : public QObject {
+class SXStartupReport : public QObject {
     Q_OBJECT
 public:
-    explicit MacAppHelper(QObject* parent = nullptr);
+    explicit SXStartupReport(QObject* parent = nullptr);
 
     // GET "/common_task/reportstartup.php", fire and forget: the answer is not read and a
     // failure is not logged. Does nothing when the service address is switched off.

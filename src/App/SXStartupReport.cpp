@@ -1,4 +1,4 @@
-#include "MacAppHelper.h"
+#include "SXStartupReport.h"
 
 #include "App/SXServiceRequest.h"
 #include "Shared/GlobalFun.h"
@@ -12,18 +12,18 @@ const QString kReportPath = QStringLiteral("/common_task/reportstartup.php");
 constexpr int kChannelId = 5;
 } // namespace
 
-MacAppHelper::MacAppHelper(QObject* parent)
+SXStartupReport::SXStartupReport(QObject* parent)
     : QObject(parent)
     , m_network(new QNetworkAccessManager(this)) {}
 
-QString MacAppHelper::reportStartupQuery() {
+QString SXStartupReport::reportStartupQuery() {
     return QStringLiteral("appver=%1&appid=%2&sysver=%3&channelid=%4&userid=%5")
         .arg(GlobalFun::getAppBuildVersion(), GlobalFun::bundleID(),
              GlobalFun::getSystemVersionString(), QString::number(kChannelId),
              GlobalFun::getGUID());
 }
 
-void MacAppHelper::reportStartup() {
+void SXStartupReport::reportStartup() {
     // Checked first: a switched-off service must not even cause an identifier to be created.
     if (!SXServiceRequest::isEnabled())
         return;

@@ -1,4 +1,4 @@
-#include "Gui/Dialogs/SXPreferenceCtlr.h"
+#include "Gui/Dialogs/SXPreferencesDialog.h"
 
 #include "App/SXPreferences.h"
 
@@ -20,9 +20,9 @@ QLabel* caption(const QString& text, QWidget* buddy, QWidget* parent) {
 }
 } // namespace
 
-SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
+SXPreferencesDialog::SXPreferencesDialog(QWidget* parent)
     : QWidget(parent, Qt::Window) {
-    setObjectName(QStringLiteral("SXPreferenceCtlr"));
+    setObjectName(QStringLiteral("SXPreferencesDialog"));
     setWindowTitle(tr("Preferences"));
     // Closing the workspace window quits even while the preferences are open.
     setAttribute(Qt::WA_QuitOnClose, false);
@@ -30,13 +30,13 @@ SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
     pbtnMaxTasks = new QComboBox(this);
     pbtnMaxTasks->setObjectName(QStringLiteral("pbtnMaxTasks"));
     pbtnMaxTasks->addItems(SXPreferences::maxTasksTitles());
-    pbtniTunesFmt = new QComboBox(this);
-    pbtniTunesFmt->setObjectName(QStringLiteral("pbtniTunesFmt"));
-    pbtniTunesFmt->addItems(SXPreferences::iTunesFmtTitles());
+    pbtnLibraryFormat = new QComboBox(this);
+    pbtnLibraryFormat->setObjectName(QStringLiteral("pbtnLibraryFormat"));
+    pbtnLibraryFormat->addItems(SXPreferences::libraryFormatTitles());
     fdPlaylistName = new QLineEdit(this);
     fdPlaylistName->setObjectName(QStringLiteral("fdPlaylistName"));
     form->addRow(caption(tr("Con&versions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
-    form->addRow(caption(tr("Music &library format:"), pbtniTunesFmt, this), pbtniTunesFmt);
+    form->addRow(caption(tr("Music &library format:"), pbtnLibraryFormat, this), pbtnLibraryFormat);
     form->addRow(caption(tr("&Playlist name:"), fdPlaylistName, this), fdPlaylistName);
     chkServiceConsent =
         new QCheckBox(tr("&Send a start-up report and fetch feature switches"), this);
@@ -63,16 +63,17 @@ SXPreferenceCtlr::SXPreferenceCtlr(QWidget* parent)
     }
     windowDidLoad();
 
-    connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::clickMaxTasks);
-    connect(pbtniTunesFmt, &QComboBox::activated, this, &SXPreferences::clickiTunesFmt);
+    connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::setMaxTasks);
+    connect(pbtnLibraryFormat, &QComboBox::activated, this, &SXPreferences::setLibraryFormat);
     connect(fdPlaylistName, &QLineEdit::textEdited, this, &SXPreferences::controlTextDidChange);
-    connect(chkServiceConsent, &QCheckBox::toggled, this, &SXPreferences::clickServiceConsent);
+    connect(chkServiceConsent, &QCheckBox::toggled, this, &SXPreferences::setServiceConsent);
 }
 
-void SXPreferenceCtlr::windowDidLoad() {
-    const QSignalBlocker a(pbtnMaxTasks), b(pbtniTunesFmt), c(fdPlaylistName), d(chkServiceConsent);
+void SXPreferencesDialog::windowDidLoad() {
+    const QSignalBlocker a(pbtnMaxTasks), b(pbtnLibraryFormat), c(fdPlaylistName),
+        d(chkServiceConsent);
     pbtnMaxTasks->setCurrentIndex(SXPreferences::maxTasksIndex());
-    pbtniTunesFmt->setCurrentIndex(SXPreferences::iTunesFmtIndex());
+    pbtnLibraryFormat->setCurrentIndex(SXPreferences::libraryFormatIndex());
     fdPlaylistName->setText(SXPreferences::playlistName());
     chkServiceConsent->setChecked(SXPreferences::serviceConsent());
 }

@@ -1,4 +1,4 @@
-#include "Gui/Dialogs/SXFmtsChooseWndCtlr.h"
+#include "Gui/Dialogs/SXFormatChooserDialog.h"
 
 #include "Gui/Panels/SXPopUps.h"
 
@@ -9,7 +9,8 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-SXFmtsChooseWndCtlr::SXFmtsChooseWndCtlr(const QList<SXFormatSettingPtr>& leftFmts, QWidget* parent)
+SXFormatChooserDialog::SXFormatChooserDialog(const QList<SXFormatSettingPtr>& leftFmts,
+                                             QWidget* parent)
     : QDialog(parent)
     , m_chooser(leftFmts) {
     setObjectName(QStringLiteral("OtherFormat"));
@@ -23,22 +24,22 @@ SXFmtsChooseWndCtlr::SXFmtsChooseWndCtlr(const QList<SXFormatSettingPtr>& leftFm
     popFormat = addPopUp(form, tr("&Format:"), QStringLiteral("popFormat"));
     popBitRate = addPopUp(form, tr("&Bit rate:"), QStringLiteral("popBitRate"));
     popSmpRate = addPopUp(form, tr("&Sample rate:"), QStringLiteral("popSmpRate"));
-    popChanel = addPopUp(form, tr("C&hannels:"), QStringLiteral("popChanel"));
-    btnAddToiTunes = new QCheckBox(tr("Add to the music &library"), this);
-    btnAddToiTunes->setObjectName(QStringLiteral("btnAddToiTunes"));
-    form->addRow(QString(), btnAddToiTunes);
+    popChannel = addPopUp(form, tr("C&hannels:"), QStringLiteral("popChannel"));
+    btnAddToLibrary = new QCheckBox(tr("Add to the music &library"), this);
+    btnAddToLibrary->setObjectName(QStringLiteral("btnAddToLibrary"));
+    form->addRow(QString(), btnAddToLibrary);
     layout->addLayout(form);
 
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(popFormat, &QComboBox::textActivated, this, &SXFmtsChooseWndCtlr::changeFormatSelect);
+    connect(popFormat, &QComboBox::textActivated, this, &SXFormatChooserDialog::changeFormatSelect);
     windowDidLoad();
 }
 
-QComboBox* SXFmtsChooseWndCtlr::addPopUp(QFormLayout* form, const QString& label,
-                                         const QString& name) {
+QComboBox* SXFormatChooserDialog::addPopUp(QFormLayout* form, const QString& label,
+                                           const QString& name) {
     auto* popUp = new QComboBox(this);
     popUp->setObjectName(name);
     auto* caption = new QLabel(label, this);
@@ -48,7 +49,7 @@ QComboBox* SXFmtsChooseWndCtlr::addPopUp(QFormLayout* form, const QString& label
     return popUp;
 }
 
-void SXFmtsChooseWndCtlr::windowDidLoad() {
+void SXFormatChooserDialog::windowDidLoad() {
     const QStringList names = m_chooser.formatNames();
     if (names.isEmpty())
         return;
@@ -58,17 +59,17 @@ void SXFmtsChooseWndCtlr::windowDidLoad() {
     changeFormatSelect(names.first());
 }
 
-void SXFmtsChooseWndCtlr::changeFormatSelect(const QString& name) {
+void SXFormatChooserDialog::changeFormatSelect(const QString& name) {
     const SXFormatChooser::Choices choices = m_chooser.changeFormatSelect(name);
     SXPopUps::fill(popBitRate, choices.bitRates, choices.bitRate);
-    SXPopUps::fill(popChanel, choices.channels, choices.channel);
+    SXPopUps::fill(popChannel, choices.channels, choices.channel);
     SXPopUps::fill(popSmpRate, choices.sampleRates, choices.sampleRate);
-    btnAddToiTunes->setVisible(choices.libraryVisible);
-    btnAddToiTunes->setChecked(choices.libraryOn);
+    btnAddToLibrary->setVisible(choices.libraryVisible);
+    btnAddToLibrary->setChecked(choices.libraryOn);
 }
 
-SXFormatSettingPtr SXFmtsChooseWndCtlr::getFormatSettingResult() const {
+SXFormatSettingPtr SXFormatChooserDialog::getFormatSettingResult() const {
     return m_chooser.getFormatSettingResult({popFormat->currentText(), popSmpRate->currentText(),
-                                             popBitRate->currentText(), popChanel->currentText(),
-                                             btnAddToiTunes->isChecked()});
+                                             popBitRate->currentText(), popChannel->currentText(),
+                                             btnAddToLibrary->isChecked()});
 }

@@ -9,16 +9,16 @@ class QLineEdit;
 // The preferences: how many conversions run at once, the music library's format, the
 // playlist's name and the consent to the start-up requests. A small window of its own; every
 // change is stored at once, there is no OK, only Close (also Escape and Ctrl+W).
-class SXPreferenceCtlr final : public QWidget {
+class SXPreferencesDialog final : public QWidget {
     Q_OBJECT
 public:
-    explicit SXPreferenceCtlr(QWidget* parent = nullptr);
+    explicit SXPreferencesDialog(QWidget* parent = nullptr);
 
     void windowDidLoad();
 
 private:
     QComboBox* pbtnMaxTasks = nullptr;
-    QComboBox* pbtniTunesFmt = nullptr;
+    QComboBox* pbtnLibraryFormat = nullptr;
     QLineEdit* fdPlaylistName = nullptr;
     QCheckBox* chkServiceConsent = nullptr;
 };

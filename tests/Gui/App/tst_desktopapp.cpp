@@ -1,11 +1,11 @@
 #include "App/SXPreferences.h"
 #include "Common/Util/SXFileLocalManager.h"
-#include "Gui/App/SXAppDelegate.h"
-#include "Gui/App/SXMenuHandleCltr.h"
-#include "Gui/Dialogs/SXFmtsChooseWndCtlr.h"
-#include "Gui/Dialogs/SXMetadataEditWndCtlr.h"
+#include "Gui/App/SXDesktopApp.h"
+#include "Gui/App/SXMenuHandler.h"
+#include "Gui/Dialogs/SXFormatChooserDialog.h"
+#include "Gui/Dialogs/SXMetadataEditDialog.h"
 #include "Gui/Dialogs/SXOutputFolderDialog.h"
-#include "Gui/Dialogs/SXPreferenceCtlr.h"
+#include "Gui/Dialogs/SXPreferencesDialog.h"
 #include "Gui/Window/SXContainerTabBar.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Gui/Window/SXWindowPresenter.h"
@@ -38,7 +38,7 @@ using namespace SonoriaGuiTest;
 // The application shell driven as a user would: start-up in an empty settings store, the
 // question before the last window closes, reviving the window, and the menus following the
 // state of the window they act on.
-class TestAppDelegate : public QObject {
+class TestDesktopApp : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
@@ -57,44 +57,44 @@ private:
     // Adds a real two-second tone to the primary window and waits until it is listed.
     void addTone(const QString& name);
     QAction* action(SXCommand command) const { return m_app->menus().action(command); }
-    SXMainAppController& window() const { return *m_app->coreMainWndCtlr(); }
+    SXMainAppController& window() const { return *m_app->coreWindow(); }
 
     QTemporaryDir m_media;
-    std::unique_ptr<SXAppDelegate> m_app;
+    std::unique_ptr<SXDesktopApp> m_app;
 };
 
-void TestAppDelegate::init() {
+void TestDesktopApp::init() {
     for (const QString& key :
-         {SXSettingsKey::MaxTask, SXSettingsKey::iTunesFmt, SXSettingsKey::iTunesPlaylistName})
+         {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat, SXSettingsKey::libraryPlaylistName})
         SXSettings::removeKey(key);
-    m_app = std::make_unique<SXAppDelegate>();
+    m_app = std::make_unique<SXDesktopApp>();
     m_app->start({}, false);
     window().activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(&window()));
 }
 
-void TestAppDelegate::cleanup() {
+void TestDesktopApp::cleanup() {
     m_app.reset();
-    QVERIFY(SXDataEngine::shareInstance()->getAllMainWndCtlr().isEmpty());
+    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
 }
 
-void TestAppDelegate::addTone(const QString& name) {
+void TestDesktopApp::addTone(const QString& name) {
     const QString path = m_media.filePath(name);
     QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
     SXWorkspace& ws = window().workspace();
-    const int before = ws.getCurentTabMusicCount();
+    const int before = ws.currentTabItemCount();
     ws.loadAndParseFiles({path});
     QCOMPARE(ws.enumAppState(), int(AppStateLoading));
     // The count grows on the loader's thread; the window hears of it when the run is over.
     QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
-    QCOMPARE(ws.getCurentTabMusicCount(), before + 1);
+    QCOMPARE(ws.currentTabItemCount(), before + 1);
 }
 
-void TestAppDelegate::startUpFillsTheDefaultsAndCreatesNoFolder() {
+void TestDesktopApp::startUpFillsTheDefaultsAndCreatesNoFolder() {
     QVERIFY(window().isVisible());
     QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
-    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesFmt), QStringLiteral("AAC"));
-    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::iTunesPlaylistName),
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
              QStringLiteral("Sonoria"));
     // Starting creates no folder of the user's: output folders appear when a run writes.
     const QString home = SonoriaTest::temporaryHome().processHome();
@@ -106,12 +106,12 @@ void TestAppDelegate::startUpFillsTheDefaultsAndCreatesNoFolder() {
     // A stored choice survives the next start-up: defaults only fill what is missing.
     SXSettings::setValue(SXSettingsKey::MaxTask, 2);
     m_app.reset();
-    m_app = std::make_unique<SXAppDelegate>();
+    m_app = std::make_unique<SXDesktopApp>();
     m_app->start({}, false);
     QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 2);
 }
 
-void TestAppDelegate::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
+void TestDesktopApp::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
     addTone(QStringLiteral("kept.wav"));
     QSignalSpy closing(&window().workspace(), &SXWorkspace::lastWorkspaceClosing);
 
@@ -127,7 +127,7 @@ void TestAppDelegate::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
     QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
     QTRY_VERIFY(!question->isVisible());
     QVERIFY(window().isVisible());
-    QCOMPARE(window().workspace().getCurentTabMusicCount(), 1);
+    QCOMPARE(window().workspace().currentTabItemCount(), 1);
     QCOMPARE(closing.count(), 0);
 
     window().close();
@@ -140,7 +140,7 @@ void TestAppDelegate::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
     QVERIFY(!window().workspace().isRegistered());
 }
 
-void TestAppDelegate::newContainerRevivesThePrimaryWindowEmpty() {
+void TestDesktopApp::newContainerRevivesThePrimaryWindowEmpty() {
     // An empty window closes without asking.
     window().close();
     QTRY_VERIFY(!window().isVisible());
@@ -162,7 +162,7 @@ void TestAppDelegate::newContainerRevivesThePrimaryWindowEmpty() {
     addTone(QStringLiteral("after.wav"));
 }
 
-void TestAppDelegate::menusFollowTheStateAndNeverBeepWhenOpening() {
+void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
     SXWorkspace& ws = window().workspace();
     QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
 
@@ -198,7 +198,7 @@ void TestAppDelegate::menusFollowTheStateAndNeverBeepWhenOpening() {
     QCOMPARE(beeps.count(), 0);
 }
 
-void TestAppDelegate::menuCommandsReachTheKeyWindow() {
+void TestDesktopApp::menuCommandsReachTheKeyWindow() {
     SXWorkspace& ws = window().workspace();
     const int tabs = ws.tabLabels().size();
     ws.moveTabSelectedTo(-1);
@@ -253,10 +253,10 @@ void TestAppDelegate::menuCommandsReachTheKeyWindow() {
         QVERIFY2(aboutText.contains(part), qPrintable(part + u" in "_s + aboutText));
 
     action(SXCommand::Preferences)->trigger();
-    QTRY_VERIFY(m_app->preferenceCltr() && m_app->preferenceCltr()->isVisible());
+    QTRY_VERIFY(m_app->preferencesDialog() && m_app->preferencesDialog()->isVisible());
 }
 
-void TestAppDelegate::containerKeysCycleTheTabs_data() {
+void TestDesktopApp::containerKeysCycleTheTabs_data() {
     QTest::addColumn<int>("key");
     QTest::addColumn<int>("modifiers");
     QTest::addColumn<int>("step");
@@ -269,7 +269,7 @@ void TestAppDelegate::containerKeysCycleTheTabs_data() {
     QTest::newRow("Ctrl+Page Up") << int(Qt::Key_PageUp) << ctrl << -1;
 }
 
-void TestAppDelegate::containerKeysCycleTheTabs() {
+void TestDesktopApp::containerKeysCycleTheTabs() {
     QFETCH(int, key);
     QFETCH(int, modifiers);
     QFETCH(int, step);
@@ -295,7 +295,7 @@ void TestAppDelegate::containerKeysCycleTheTabs() {
     QCOMPARE(beeps.count(), 1);
 }
 
-void TestAppDelegate::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
+void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     const auto noClash = [](QWidget* root) {
         const QStringList clashes = mnemonicClashes(root);
         QVERIFY2(clashes.isEmpty(), qPrintable(root->objectName() + QStringLiteral(": ") +
@@ -309,12 +309,12 @@ void TestAppDelegate::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     noClash(&window());
     grab(&window(), QStringLiteral("window-keys"));
     QTest::keyClick(&window(), Qt::Key_E, Qt::ControlModifier);
-    auto* editor = openDialog<SXMetadataEditWndCtlr>(&window());
+    auto* editor = openDialog<SXMetadataEditDialog>(&window());
     QVERIFY(editor);
     noClash(editor);
     editor->reject();
     QTest::keyClick(&window(), Qt::Key_T, Qt::ControlModifier);
-    auto* chooser = openDialog<SXFmtsChooseWndCtlr>(&window());
+    auto* chooser = openDialog<SXFormatChooserDialog>(&window());
     QVERIFY(chooser);
     noClash(chooser);
     chooser->reject();
@@ -329,12 +329,12 @@ void TestAppDelegate::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     const auto openPreferences = [this] {
         window().activateWindow();
         if (!QTest::qWaitForWindowActive(&window()))
-            return static_cast<SXPreferenceCtlr*>(nullptr);
+            return static_cast<SXPreferencesDialog*>(nullptr);
         QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
-        SXPreferenceCtlr* preferences = m_app->preferenceCltr();
+        SXPreferencesDialog* preferences = m_app->preferencesDialog();
         return preferences && QTest::qWaitForWindowActive(preferences) ? preferences : nullptr;
     };
-    SXPreferenceCtlr* preferences = openPreferences();
+    SXPreferencesDialog* preferences = openPreferences();
     QVERIFY(preferences);
     noClash(preferences);
     grab(preferences, QStringLiteral("preferences-close"));
@@ -351,5 +351,5 @@ void TestAppDelegate::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     QTRY_VERIFY(!preferences->isVisible());
 }
 
-SONORIA_GUI_TEST_MAIN(TestAppDelegate)
+SONORIA_GUI_TEST_MAIN(TestDesktopApp)
 #include "tst_appdelegate.moc"

@@ -1,5 +1,5 @@
 #!/bin/sh
-# SyncToiTunesLibrary FULL_PATH FILE_NAME
+# sync-music-library FULL_PATH FILE_NAME
 #
 # Adds a converted file to the user's music library. Desktop players on Linux have no common
 # "add to library" call: they index the music folder. So a file that already lies under the music

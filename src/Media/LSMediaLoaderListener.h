@@ -9,9 +9,9 @@ class LSMediaLoader;
 
 // Receives a loader's reports. Every call arrives on the loader's worker thread, except the
 // completion of an empty batch, which comes at once on the thread that handed the batch over.
-class LSMediaLoaderDelegate {
+class LSMediaLoaderListener {
 public:
-    virtual ~LSMediaLoaderDelegate() = default;
+    virtual ~LSMediaLoaderListener() = default;
     // Before `item` is probed.
     virtual void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) {
         Q_UNUSED(loader);

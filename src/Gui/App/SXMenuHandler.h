@@ -15,10 +15,10 @@ class QMenuBar;
 // sxValidateMenuCommand, both when a menu opens and whenever the application's state changes.
 // Menu titles carry the window's first mnemonics (&File, &List, &Convert, &Help); the window's
 // other controls take letters these leave free.
-class SXMenuHandleCltr final : public QObject {
+class SXMenuHandler final : public QObject {
     Q_OBJECT
 public:
-    explicit SXMenuHandleCltr(QObject* parent = nullptr);
+    explicit SXMenuHandler(QObject* parent = nullptr);
 
     // Gives `window` a menu bar with every menu.
     void installInto(QMainWindow& window);

@@ -5,9 +5,9 @@ class ConvertOperation;
 // Receiver of a conversion's reports. Every callback comes on the operation's worker thread;
 // a receiver that updates an interface moves that work to its own thread without waiting.
 // All callbacks are optional.
-class ConvertOperationDelegate {
+class ConvertOperationListener {
 public:
-    virtual ~ConvertOperationDelegate() = default;
+    virtual ~ConvertOperationListener() = default;
 
     // The encoder is about to start.
     virtual void didConvertOperationStart(ConvertOperation* /*operation*/) {}

@@ -1,4 +1,4 @@
-#include "Gui/App/SXMenuHandleCltr.h"
+#include "Gui/App/SXMenuHandler.h"
 
 #include <QAction>
 #include <QMainWindow>
@@ -16,7 +16,7 @@ QKeySequence standardOr(QKeySequence::StandardKey key, QKeyCombination fallback)
 }
 } // namespace
 
-SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
+SXMenuHandler::SXMenuHandler(QObject* parent)
     : QObject(parent) {
     make(SXCommand::NewContainer, tr("&New Container"),
          QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_N));
@@ -49,13 +49,12 @@ SXMenuHandleCltr::SXMenuHandleCltr(QObject* parent)
     make(SXCommand::About, tr("&About Sonoria"), QKeySequence());
 }
 
-QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
-                                const QKeySequence& shortcut) {
+QAction* SXMenuHandler::make(SXCommand command, const QString& text, const QKeySequence& shortcut) {
     return make(command, text, QList<QKeySequence>{shortcut});
 }
 
-QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
-                                const QList<QKeySequence>& shortcuts) {
+QAction* SXMenuHandler::make(SXCommand command, const QString& text,
+                             const QList<QKeySequence>& shortcuts) {
     auto* action = new QAction(text, this);
     action->setShortcuts(shortcuts);
     action->setShortcutContext(Qt::WindowShortcut);
@@ -65,7 +64,7 @@ QAction* SXMenuHandleCltr::make(SXCommand command, const QString& text,
     return action;
 }
 
-void SXMenuHandleCltr::installInto(QMainWindow& window) {
+void SXMenuHandler::installInto(QMainWindow& window) {
     QMenuBar* bar = window.menuBar();
     addMenu(bar, tr("&File"),
             {SXCommand::NewContainer, SXCommand::Open, SXCommand::NewFormat, SXCommand::CloseTab,
@@ -81,8 +80,7 @@ void SXMenuHandleCltr::installInto(QMainWindow& window) {
     window.addActions(m_actions.values());
 }
 
-void SXMenuHandleCltr::addMenu(QMenuBar* bar, const QString& title,
-                               const QList<SXCommand>& commands) {
+void SXMenuHandler::addMenu(QMenuBar* bar, const QString& title, const QList<SXCommand>& commands) {
     QMenu* menu = bar->addMenu(title);
     for (SXCommand command : commands) {
         menu->addAction(m_actions.value(command));
@@ -91,10 +89,10 @@ void SXMenuHandleCltr::addMenu(QMenuBar* bar, const QString& title,
             command != commands.last())
             menu->addSeparator();
     }
-    connect(menu, &QMenu::aboutToShow, this, &SXMenuHandleCltr::menuAboutToShow);
+    connect(menu, &QMenu::aboutToShow, this, &SXMenuHandler::menuAboutToShow);
 }
 
-void SXMenuHandleCltr::validate(const SXCommandContext& context) {
+void SXMenuHandler::validate(const SXCommandContext& context) {
     // Validation only greys items out: a menu that opens never beeps, a refused command does.
     for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it)
         it.value()->setEnabled(sxValidateMenuCommand(it.key(), context).enabled);

@@ -18,14 +18,14 @@ class SXArtworkDropView;
 // closing. Every keystroke goes straight into the item's tag record; only OK keeps it, Cancel,
 // Escape and closing the window put back every record shown. Filling the fields writes
 // nothing. SXMetadataEditing decides what each control means.
-class SXMetadataEditWndCtlr final : public QDialog {
+class SXMetadataEditDialog final : public QDialog {
     Q_OBJECT
 public:
-    explicit SXMetadataEditWndCtlr(QWidget* parent = nullptr);
-    ~SXMetadataEditWndCtlr() override;
+    explicit SXMetadataEditDialog(QWidget* parent = nullptr);
+    ~SXMetadataEditDialog() override;
 
     // The workspace; not owned.
-    void setCustomDelegate(SXMetadataEditWndCtlrDelegate* delegate) { m_delegate = delegate; }
+    void setListener(SXMetadataEditListener* listener) { m_listener = listener; }
     void setMusicInfo(const SXMusicInfoPtr& item);
     SXMusicInfoPtr musicInfo() const { return m_musicInfo; }
 
@@ -59,7 +59,7 @@ private:
     void showArtwork(const QImage& image);
     void storeArtwork(const MTEArtwork& artwork);
 
-    SXMetadataEditWndCtlrDelegate* m_delegate = nullptr;
+    SXMetadataEditListener* m_listener = nullptr;
     SXMusicInfoPtr m_musicInfo;
     SXMetadataEditing::EditSession m_session;
     QImage m_imgChangeBase; // the artwork at its own size; every scaled copy starts from it

@@ -10,10 +10,10 @@ class QComboBox;
 // The format chooser: the formats without a container, the three value pop-ups of the chosen one
 // and its music-library box. Window-modal over its workspace window; identified as
 // "OtherFormat". What it shows and what OK makes come from SXFormatChooser.
-class SXFmtsChooseWndCtlr final : public QDialog {
+class SXFormatChooserDialog final : public QDialog {
     Q_OBJECT
 public:
-    SXFmtsChooseWndCtlr(const QList<SXFormatSettingPtr>& leftFmts, QWidget* parent = nullptr);
+    SXFormatChooserDialog(const QList<SXFormatSettingPtr>& leftFmts, QWidget* parent = nullptr);
 
     void changeFormatSelect(const QString& name);
     SXFormatSettingPtr getFormatSettingResult() const;
@@ -26,6 +26,6 @@ private:
     QComboBox* popFormat = nullptr;
     QComboBox* popSmpRate = nullptr;
     QComboBox* popBitRate = nullptr;
-    QComboBox* popChanel = nullptr;
-    QCheckBox* btnAddToiTunes = nullptr;
+    QComboBox* popChannel = nullptr;
+    QCheckBox* btnAddToLibrary = nullptr;
 };

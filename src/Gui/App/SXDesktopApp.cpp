@@ -1,11 +1,11 @@
-#include "Gui/App/SXAppDelegate.h"
+#include "Gui/App/SXDesktopApp.h"
 
 #include "App/HVConfigManager.h"
-#include "App/MacAppHelper.h"
 #include "App/SXPreferences.h"
+#include "App/SXStartupReport.h"
 #include "Desktop/SXFileManager.h"
-#include "Gui/App/SXMenuHandleCltr.h"
-#include "Gui/Dialogs/SXPreferenceCtlr.h"
+#include "Gui/App/SXMenuHandler.h"
+#include "Gui/Dialogs/SXPreferencesDialog.h"
 #include "Gui/Window/SXMainAppController.h"
 #include "Gui/Window/SXWindowPresenter.h"
 #include "Model/SXDataEngine.h"
@@ -21,87 +21,86 @@
 #include <csignal>
 #include <utility>
 
-SXAppDelegate::SXAppDelegate(QObject* parent)
+SXDesktopApp::SXDesktopApp(QObject* parent)
     : QObject(parent)
-    , m_menus(new SXMenuHandleCltr(this)) {
-    connect(m_menus, &SXMenuHandleCltr::commandTriggered, this, &SXAppDelegate::perform);
-    connect(m_menus, &SXMenuHandleCltr::menuAboutToShow, this, [this] { validateMenus(); });
+    , m_menus(new SXMenuHandler(this)) {
+    connect(m_menus, &SXMenuHandler::commandTriggered, this, &SXDesktopApp::perform);
+    connect(m_menus, &SXMenuHandler::menuAboutToShow, this, [this] { validateMenus(); });
     // The session's end: nothing may be left converting or half-written. At the commit request
     // the runs are stopped but the program stays (the session manager ends it, or the logout
     // is cancelled); at the end of the event loop (any way of quitting) they are stopped too.
     if (auto* application = qobject_cast<QGuiApplication*>(QCoreApplication::instance())) {
         connect(application, &QGuiApplication::commitDataRequest, this,
                 [this](QSessionManager&) { stopEveryRun(); });
-        connect(application, &QCoreApplication::aboutToQuit, this, &SXAppDelegate::stopEveryRun);
+        connect(application, &QCoreApplication::aboutToQuit, this, &SXDesktopApp::stopEveryRun);
     }
 }
 
-SXAppDelegate::~SXAppDelegate() {
-    delete m_preferenceCltr;
-    delete m_coreMainWndCtlr;
+SXDesktopApp::~SXDesktopApp() {
+    delete m_preferencesDialog;
+    delete m_coreWindow;
 }
 
-SXMainAppController* SXAppDelegate::coreMainWndCtlr() const {
-    return m_coreMainWndCtlr;
+SXMainAppController* SXDesktopApp::coreWindow() const {
+    return m_coreWindow;
 }
 
-SXPreferenceCtlr* SXAppDelegate::preferenceCltr() const {
-    return m_preferenceCltr;
+SXPreferencesDialog* SXDesktopApp::preferencesDialog() const {
+    return m_preferencesDialog;
 }
 
-void SXAppDelegate::start(const QStringList& files, bool contactService) {
+void SXDesktopApp::start(const QStringList& files, bool contactService) {
     newWindow();
     SXSettings::setPreferenceValue();
     applicationDidFinishLaunching(contactService);
     if (!files.isEmpty())
-        m_coreMainWndCtlr->workspace().loadAndParseFiles(files);
+        m_coreWindow->workspace().loadAndParseFiles(files);
 }
 
-void SXAppDelegate::newWindow() {
-    m_coreMainWndCtlr = new SXMainAppController;
-    m_menus->installInto(*m_coreMainWndCtlr);
-    connect(m_coreMainWndCtlr, &SXMainAppController::applicationCommand, this,
-            &SXAppDelegate::perform);
-    connect(m_coreMainWndCtlr, &SXMainAppController::validationInputsChanged, this,
+void SXDesktopApp::newWindow() {
+    m_coreWindow = new SXMainAppController;
+    m_menus->installInto(*m_coreWindow);
+    connect(m_coreWindow, &SXMainAppController::applicationCommand, this, &SXDesktopApp::perform);
+    connect(m_coreWindow, &SXMainAppController::validationInputsChanged, this,
             [this] { validateMenus(); });
-    connect(&m_coreMainWndCtlr->workspace(), &SXWorkspace::lastWorkspaceClosing, this,
+    connect(&m_coreWindow->workspace(), &SXWorkspace::lastWorkspaceClosing, this,
             [this] { configerMenuForState(false); });
     // Queued: the workspace finishes its own reaction to the state before another run starts.
-    connect(&m_coreMainWndCtlr->workspace(), &SXWorkspace::appStateChanged, this,
-            &SXAppDelegate::loadPendingFiles, Qt::QueuedConnection);
-    m_coreMainWndCtlr->show();
+    connect(&m_coreWindow->workspace(), &SXWorkspace::appStateChanged, this,
+            &SXDesktopApp::loadPendingFiles, Qt::QueuedConnection);
+    m_coreWindow->show();
     // The primary window alone keeps its containers and their choices between starts.
-    m_coreMainWndCtlr->workspace().setRemembersContainers(true);
-    m_coreMainWndCtlr->workspace().addDefaultTabs();
+    m_coreWindow->workspace().setRemembersContainers(true);
+    m_coreWindow->workspace().addDefaultTabs();
     validateMenus();
 }
 
-void SXAppDelegate::applicationDidFinishLaunching(bool contactService) {
+void SXDesktopApp::applicationDidFinishLaunching(bool contactService) {
     if (!contactService)
         return;
-    m_appHelper = new MacAppHelper(this);
+    m_appHelper = new SXStartupReport(this);
     HVConfigManager::startupRequests(*m_appHelper);
 }
 
-SXMainAppController* SXAppDelegate::keyWindowController() const {
-    auto* key = dynamic_cast<SXWorkspace*>(SXDataEngine::shareInstance()->getKeyWindowCtlr());
+SXMainAppController* SXDesktopApp::keyWindowController() const {
+    auto* key = dynamic_cast<SXWorkspace*>(SXDataEngine::shareInstance()->keyWindowRecord());
     return key ? qobject_cast<SXMainAppController*>(key->parent()) : nullptr;
 }
 
-bool SXAppDelegate::isCoreControllerIsKeyWindow() const {
-    return m_coreMainWndCtlr && m_coreMainWndCtlr->isActiveWindow();
+bool SXDesktopApp::isCoreControllerIsKeyWindow() const {
+    return m_coreWindow && m_coreWindow->isActiveWindow();
 }
 
-void SXAppDelegate::stopEveryRun() {
+void SXDesktopApp::stopEveryRun() {
     // A copy: a workspace may leave the registry while its run is being stopped.
-    const QList<SXWindowController*> windows = SXDataEngine::shareInstance()->getAllMainWndCtlr();
+    const QList<SXWindowController*> windows = SXDataEngine::shareInstance()->registeredWindows();
     for (SXWindowController* window : windows) {
         if (auto* workspace = dynamic_cast<SXWorkspace*>(window))
             workspace->abandonRun();
     }
 }
 
-void SXAppDelegate::quitForSignal(int signalNumber) {
+void SXDesktopApp::quitForSignal(int signalNumber) {
     SXLog::line(QStringLiteral("signal %1: stopping every run and quitting").arg(signalNumber));
     stopEveryRun();
     // exit(), not quit(): quitting asks the windows, which may want to ask the user. It also
@@ -109,11 +108,11 @@ void SXAppDelegate::quitForSignal(int signalNumber) {
     QCoreApplication::exit(exitStatusForSignal(signalNumber));
 }
 
-int SXAppDelegate::exitStatusForSignal(int signalNumber) {
+int SXDesktopApp::exitStatusForSignal(int signalNumber) {
     return signalNumber == SIGINT ? 128 + SIGINT : 0;
 }
 
-void SXAppDelegate::perform(SXCommand command) {
+void SXDesktopApp::perform(SXCommand command) {
     SXMainAppController* key = keyWindowController();
     switch (command) {
     case SXCommand::NewContainer:
@@ -140,7 +139,7 @@ void SXAppDelegate::perform(SXCommand command) {
     case SXCommand::About: {
         const SXAboutText about = SXAboutText::current();
         QWidget* parent = keyWindowController();
-        QMessageBox::about(parent ? parent : m_coreMainWndCtlr.data(), about.title, about.text);
+        QMessageBox::about(parent ? parent : m_coreWindow.data(), about.title, about.text);
         return;
     }
     case SXCommand::NewFormat:
@@ -160,7 +159,7 @@ void SXAppDelegate::perform(SXCommand command) {
         key->perform(command);
 }
 
-void SXAppDelegate::clickCloseTab(SXMainAppController* key) {
+void SXDesktopApp::clickCloseTab(SXMainAppController* key) {
     if (!key)
         return;
     const QString selected = key->workspace().getSelectedMusicFormat();
@@ -171,50 +170,50 @@ void SXAppDelegate::clickCloseTab(SXMainAppController* key) {
     key->perform(SXCommand::CloseTab);
 }
 
-void SXAppDelegate::clickNewWindow() {
+void SXDesktopApp::clickNewWindow() {
     SXLog::line(QStringLiteral("You click new window ...."));
-    SXWorkspace& core = m_coreMainWndCtlr->workspace();
+    SXWorkspace& core = m_coreWindow->workspace();
     core.reNewDefaultWindow();
-    m_coreMainWndCtlr->show();
-    m_coreMainWndCtlr->activateWindow();
+    m_coreWindow->show();
+    m_coreWindow->activateWindow();
     core.registerAgain();
     configerMenuForState(true);
 }
 
-void SXAppDelegate::openFiles(const QStringList& paths) {
+void SXDesktopApp::openFiles(const QStringList& paths) {
     if (!m_primaryOpen)
         clickNewWindow();
-    m_coreMainWndCtlr->setWindowState(m_coreMainWndCtlr->windowState() & ~Qt::WindowMinimized);
-    m_coreMainWndCtlr->raise();
-    m_coreMainWndCtlr->activateWindow();
+    m_coreWindow->setWindowState(m_coreWindow->windowState() & ~Qt::WindowMinimized);
+    m_coreWindow->raise();
+    m_coreWindow->activateWindow();
     // A new add run would orphan the batch being probed, and none may start during a run.
     m_pendingFiles.append(paths);
     loadPendingFiles();
 }
 
-void SXAppDelegate::loadPendingFiles() {
-    SXWorkspace& core = m_coreMainWndCtlr->workspace();
+void SXDesktopApp::loadPendingFiles() {
+    SXWorkspace& core = m_coreWindow->workspace();
     if (m_pendingFiles.isEmpty() || core.enumAppState() == AppStateLoading ||
         core.enumAppState() == AppStateConverting)
         return;
     core.loadAndParseFiles(std::exchange(m_pendingFiles, {}));
 }
 
-void SXAppDelegate::clickPreference() {
-    if (!m_preferenceCltr)
-        m_preferenceCltr = new SXPreferenceCtlr;
-    m_preferenceCltr->show();
-    m_preferenceCltr->raise();
-    m_preferenceCltr->activateWindow();
+void SXDesktopApp::clickPreference() {
+    if (!m_preferencesDialog)
+        m_preferencesDialog = new SXPreferencesDialog;
+    m_preferencesDialog->show();
+    m_preferencesDialog->raise();
+    m_preferencesDialog->activateWindow();
 }
 
-void SXAppDelegate::configerMenuForState(bool open) {
+void SXDesktopApp::configerMenuForState(bool open) {
     m_primaryOpen = open;
     validateMenus();
 }
 
-void SXAppDelegate::validateMenus() {
-    SXWorkspace* primary = m_coreMainWndCtlr ? &m_coreMainWndCtlr->workspace() : nullptr;
+void SXDesktopApp::validateMenus() {
+    SXWorkspace* primary = m_coreWindow ? &m_coreWindow->workspace() : nullptr;
     SXMainAppController* keyWindow = keyWindowController();
     SXWorkspace* key = keyWindow ? &keyWindow->workspace() : nullptr;
     m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen));
