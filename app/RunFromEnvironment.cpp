@@ -1,8 +1,8 @@
 #include "RunFromEnvironment.h"
 
-#include "Gui/App/SXDesktopApp.h"
-#include "Gui/Window/SXMainAppController.h"
-#include "Workspace/SXWorkspace.h"
+#include "gui/application/SXDesktopApp.h"
+#include "gui/window/SXMainAppController.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QTimer>
 

@@ -1,10 +1,10 @@
-#include "Desktop/SXSingleInstance.h"
+#include "desktop/SXSingleInstance.h"
 #include "DisplayCheck.h"
-#include "Gui/App/SXDesktopApp.h"
+#include "gui/application/SXDesktopApp.h"
 #include "RunFromEnvironment.h"
-#include "Shared/SXBundle.h"
-#include "Shared/SXLog.h"
-#include "Shared/SXSignalWatcher.h"
+#include "base/SXBundle.h"
+#include "base/SXLog.h"
+#include "base/SXSignalWatcher.h"
 #include "WindowScreenshot.h"
 
 #include <QApplication>

@@ -22,7 +22,7 @@ done
 echo "machine: $(nproc) cores, $(grep -m1 'model name' /proc/cpuinfo | cut -d: -f2 | sed 's/^ //'); load: $(cut -d' ' -f1-3 /proc/loadavg)"
 window_ms=() cli_ms=() blocked=() scrolled=() memory=()
 for ((i = 1; i <= rounds; i++)); do
-    out=$(QT_QPA_PLATFORM=offscreen SONORIA_RESOURCES_DIR="$root/src/Resources" \
+    out=$(QT_QPA_PLATFORM=offscreen SONORIA_RESOURCES_DIR="$root/src/resources" \
         "$list" "$work/list" 2>/dev/null)
     value() { printf '%s\n' "$out" | sed -n "s/^$1=//p"; }
     if [ "$(value items)" != 10000 ]; then

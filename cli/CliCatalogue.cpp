@@ -1,6 +1,6 @@
 #include "CliCatalogue.h"
 
-#include "Model/SXDataEngine.h"
+#include "model/SXDataEngine.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CliOptions.h"
-#include "Model/SXFormatSetting.h"
+#include "model/SXFormatSetting.h"
 
 // The tool's view of the format catalogue: listing it, and turning the format and choices of
 // the command line into the container setting of a run.

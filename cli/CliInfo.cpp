@@ -1,8 +1,8 @@
 #include "CliInfo.h"
 
 #include "CliOutput.h"
-#include "Media/LSMediaLoader.h"
-#include "Workspace/SXFileInfoText.h"
+#include "engine/LSMediaLoader.h"
+#include "workspace/SXFileInfoText.h"
 
 #include <QDir>
 #include <QFileInfo>

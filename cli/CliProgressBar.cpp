@@ -1,7 +1,7 @@
 #include "CliProgressBar.h"
 
 #include "CliOutput.h"
-#include "Shared/GlobalFun.h"
+#include "base/GlobalFun.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,12 +1,12 @@
 #include "CliRun.h"
 
 #include "CliOutput.h"
-#include "Common/Util/SXFileLocalManager.h"
-#include "Shared/GlobalFun.h"
-#include "Shared/SXBundle.h"
-#include "Shared/SXSettings.h"
-#include "Workspace/SXFailureTexts.h"
-#include "Workspace/SXWorkspace.h"
+#include "base/SXFileLocalManager.h"
+#include "base/GlobalFun.h"
+#include "base/SXBundle.h"
+#include "base/SXSettings.h"
+#include "workspace/SXFailureTexts.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -2,10 +2,10 @@
 
 #include "CliOptions.h"
 #include "CliProgressBar.h"
-#include "Convert/ConvertOperation.h"
-#include "Model/SXFormatSetting.h"
-#include "Shared/SXPathFailure.h"
-#include "Workspace/SXWorkspacePresenter.h"
+#include "engine/ConvertOperation.h"
+#include "model/SXFormatSetting.h"
+#include "base/SXPathFailure.h"
+#include "workspace/SXWorkspacePresenter.h"
 
 #include <QHash>
 #include <QObject>

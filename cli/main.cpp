@@ -3,8 +3,8 @@
 #include "CliOptions.h"
 #include "CliOutput.h"
 #include "CliRun.h"
-#include "Shared/SXLog.h"
-#include "Shared/SXSignalWatcher.h"
+#include "base/SXLog.h"
+#include "base/SXSignalWatcher.h"
 
 #include <QCoreApplication>
 

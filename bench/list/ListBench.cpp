@@ -4,10 +4,10 @@
 // the whole list scrolls by pages, and the resident memory per item with the window.
 //   sonoria-bench-list FOLDER        (run by bench/list.sh, which prepares the environment)
 
-#include "Gui/List/SXItemListView.h"
-#include "Gui/Window/SXMainAppController.h"
+#include "gui/list/SXItemListView.h"
+#include "gui/window/SXMainAppController.h"
 #include "MainThreadWatch.h"
-#include "Workspace/SXWorkspace.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QApplication>
 #include <QDropEvent>

@@ -3,11 +3,11 @@
 // thread meanwhile. bench/window.sh compares it with sonoria-cli on the same files.
 //
 //   sonoria-bench-window [-f FORMAT] [-j JOBS] -o DIR FILE|FOLDER...
-#include "Gui/Window/SXMainAppController.h"
+#include "gui/window/SXMainAppController.h"
 #include "MainThreadWatch.h"
-#include "Model/SXDataEngine.h"
-#include "Shared/SXLog.h"
-#include "Workspace/SXWorkspace.h"
+#include "model/SXDataEngine.h"
+#include "base/SXLog.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -3,8 +3,8 @@
 // process id on standard output and then waits for the child. tst_taskwrapper kills this program
 // with SIGKILL and expects the child to go with it.
 
-#include "Convert/SXOperationQueue.h"
-#include "Convert/TaskWrapper.h"
+#include "engine/SXOperationQueue.h"
+#include "engine/TaskWrapper.h"
 
 #include <QCoreApplication>
 #include <QStringList>

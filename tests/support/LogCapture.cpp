@@ -1,6 +1,6 @@
 #include "LogCapture.h"
 
-#include "Shared/SXLog.h"
+#include "base/SXLog.h"
 
 #include <cstring>
 

@@ -1,0 +1,20 @@
+#include "SXFileLocalManager.h"
+
+#include "base/SXBundle.h"
+
+#include <QDir>
+#include <QStandardPaths>
+
+QString SXFileLocalManager::getDefaultOutputDir(const QString& fmtName) {
+    return getDefaultUpperOutputDir() + QLatin1Char('/') + fmtName;
+}
+
+QString SXFileLocalManager::getDefaultUpperOutputDir() {
+    return musicDirectory() + QLatin1Char('/') + SXBundle::productName();
+}
+
+QString SXFileLocalManager::musicDirectory() {
+    // Qt reads user-dirs.dirs itself and falls back to $HOME/Music when it names no music folder.
+    const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
+    return QDir::cleanPath(music.isEmpty() ? QDir::homePath() + QStringLiteral("/Music") : music);
+}

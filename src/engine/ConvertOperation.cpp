@@ -1,0 +1,393 @@
+#include "engine/ConvertOperation.h"
+
+#include "engine/ConvertCommandLine.h"
+#include "engine/ConvertFailure.h"
+#include "engine/ConvertOutputFile.h"
+#include "engine/ConvertVerification.h"
+#include "engine/SXLibraryScript.h"
+#include "engine/ScriptBridgeHelper.h"
+#include "engine/TaskWrapper.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "framework/MTETagCopy.h"
+#include "base/SXBundle.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QMutexLocker>
+#include <QTimer>
+
+#include <csignal>
+#include <sys/types.h>
+
+namespace {
+const QString kRingtone = QStringLiteral("ringtone");
+const QString kRingtoneEncodeExt = QStringLiteral("m4a");
+constexpr int kSliceMs = 1000;
+// After a cancel the child was asked to stop; ffmpeg closes its file first. A child that is
+// still there after this long is killed so the run can end.
+constexpr int kStopGraceMs = 10000;
+constexpr qsizetype kConsoleKeep = 16 * 1024;
+
+// The output kinds that carry tags, so that a tag copy into them must succeed.
+const QStringList& kindsWithTags() {
+    static const QStringList kinds{"mp3", "m4a", "m4r", "mp4", "flac", "ogg",  "oga", "opus",
+                                   "wma", "asf", "wv",  "wav", "aif",  "aiff", "ape"};
+    return kinds;
+}
+} // namespace
+
+ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
+    : _musicToConvert(item) {
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setEumCvtState(CvtStateReady);
+}
+
+ConvertOperation::~ConvertOperation() {
+    SXLog::line(QStringLiteral("operation dealloced"));
+    if (wraperTask) {
+        wraperTask->stopProcess();
+        delete wraperTask;
+        wraperTask = nullptr;
+    }
+}
+
+SXMusicInfoPtr ConvertOperation::musicToConvert() const {
+    QMutexLocker locker(&m_lock);
+    return _musicToConvert;
+}
+
+void ConvertOperation::setMusicToConvert(const SXMusicInfoPtr& item) {
+    QMutexLocker locker(&m_lock);
+    _musicToConvert = item;
+}
+
+QString ConvertOperation::strOutFilePath() const {
+    QMutexLocker locker(&m_lock);
+    return m_strOutFilePath;
+}
+
+void ConvertOperation::setStrOutFilePath(const QString& path) {
+    QMutexLocker locker(&m_lock);
+    m_strOutFilePath = path;
+}
+
+bool ConvertOperation::isRingtone() const {
+    const SXMusicInfoPtr item = musicToConvert();
+    return item && item->getStrMusicType().toLower() == kRingtone;
+}
+
+void ConvertOperation::setState(int state) {
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setEumCvtState(state);
+}
+
+void ConvertOperation::setStateLocked(int state) {
+    if (_musicToConvert && _musicToConvert->mediaInfo())
+        _musicToConvert->mediaInfo()->setEumCvtState(state);
+}
+
+void ConvertOperation::tellFinish() {
+    if (m_listener)
+        m_listener->didConvertOperationFinish(this);
+}
+
+void ConvertOperation::main() {
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (!media) {
+        SXLog::line(QStringLiteral("convert item has no media record"));
+        tellFinish();
+        return;
+    }
+    const QString ffmpeg = ConvertCommandLine::ffmpegPath();
+    if (ffmpeg.isEmpty()) {
+        fail(ConvertFailure::ffmpegMissing());
+        tellFinish();
+        return;
+    }
+    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
+    const QString problem =
+        m_output.prepare(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
+    if (!problem.isEmpty()) {
+        // No child is started for a folder that cannot take the file.
+        if (isCancelled())
+            return;
+        fail(problem);
+        tellFinish();
+        return;
+    }
+    setStrOutFilePath(m_output.finalPath());
+    const QStringList arguments =
+        ConvertCommandLine::arguments(ffmpeg, *media, m_output.temporaryPath());
+    SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
+    SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
+
+    if (!startChild(arguments)) {
+        // Cancelled after the queue let it run but before the child started: like a waiting
+        // operation, it reports nothing; only the name it claimed is given back.
+        m_output.discard();
+        return;
+    }
+    waitForChild();
+    decideOutcome();
+    deliverToLibrary(strOutFilePath());
+    tellFinish();
+}
+
+void ConvertOperation::fail(const QString& reason) {
+    SXLog::line(QStringLiteral("conversion failed: %1").arg(reason));
+    if (const SXMusicInfoPtr item = musicToConvert(); item && item->mediaInfo())
+        item->mediaInfo()->setFailReason(reason);
+    setState(CvtStateFailed);
+    m_output.discard();
+}
+
+bool ConvertOperation::startChild(const QStringList& arguments) {
+    auto* wrapper = new TaskWrapper(this, arguments);
+    TaskWrapper* earlier = nullptr;
+    {
+        QMutexLocker locker(&m_lock);
+        if (isCancelled()) {
+            locker.unlock();
+            delete wrapper;
+            return false;
+        }
+        earlier = wraperTask;
+        wraperTask = wrapper;
+        iExitCode = 0;
+        m_terminated = false;
+    }
+    if (earlier) {
+        earlier->stopProcess();
+        delete earlier;
+    }
+    wrapper->startProcess();
+
+    QMutexLocker locker(&m_lock);
+    if (isUserCancel) {
+        // The cancel came while the child was being launched, so its stop request may have
+        // found no process yet: ask again now that it exists.
+        wrapper->stopProcess();
+        bIsConverting = false;
+    } else {
+        setStateLocked(CvtStateConverting);
+        bIsConverting = true;
+    }
+    return true;
+}
+
+void ConvertOperation::waitForChild() {
+    QEventLoop loop;
+    QTimer slice;
+    slice.setInterval(kSliceMs);
+    QObject::connect(&slice, &QTimer::timeout, &loop, [&loop] { loop.quit(); });
+    {
+        QMutexLocker locker(&m_lock);
+        m_waitLoop = &loop;
+    }
+    slice.start();
+    while (bIsConverting)
+        loop.exec();
+
+    // A cancel ends the wait at once, but the child may still be writing its output: wait
+    // until it is gone, so the output can be removed for good and no process outlives the run.
+    QElapsedTimer sinceCancel;
+    sinceCancel.start();
+    bool killed = false;
+    while (!m_terminated) {
+        if (!killed && sinceCancel.elapsed() > kStopGraceMs) {
+            QMutexLocker locker(&m_lock);
+            if (wraperTask && wraperTask->processId() > 0)
+                ::kill(static_cast<pid_t>(wraperTask->processId()), SIGKILL);
+            killed = true;
+        }
+        loop.exec();
+    }
+    QMutexLocker locker(&m_lock);
+    m_waitLoop.clear();
+}
+
+void ConvertOperation::decideOutcome() {
+    bool cancelled = false;
+    TaskWrapper* finishedWrapper = nullptr;
+    {
+        QMutexLocker locker(&m_lock);
+        m_childEnded = true;
+        cancelled = isUserCancel;
+        finishedWrapper = wraperTask;
+        wraperTask = nullptr;
+    }
+    // The child is gone; the wrapper is destroyed here, on the thread its process lives on.
+    delete finishedWrapper;
+
+    if (cancelled) {
+        // A cancelled run never counts as finished, even when the child managed to exit 0
+        // before the cancel reached it: the user asked for no file.
+        setState(CvtStateCanceled);
+        m_output.discard();
+        return;
+    }
+    const QString reason = finishOutput();
+    if (!reason.isEmpty()) {
+        fail(reason);
+        return;
+    }
+    if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary)) {
+        setState(CvtStateSending);
+        SXLibraryScript::run(strOutFilePath());
+    }
+    setState(CvtStateFinished);
+}
+
+QString ConvertOperation::finishOutput() {
+    // ffmpeg exits 0 after some failures (a full disk while the trailer is written, nothing
+    // encoded), so its words count as much as its status; then the file itself is checked.
+    if (iExitCode != 0)
+        return ConvertFailure::fromExitStatus(iExitCode, m_console);
+    QString reason = ConvertFailure::fromFfmpegOutput(m_console);
+    if (!reason.isEmpty())
+        return reason;
+    // The tags go in first and the file is checked after them: a tag write that ran out of
+    // room can leave a file that no longer reads as audio.
+    reason = saveTags(m_output.temporaryPath());
+    if (!reason.isEmpty())
+        return reason;
+    const LSMediaPtr media = musicToConvert()->mediaInfo();
+    reason = ConvertVerification::check(m_output.temporaryPath(), media->vOACodecName(),
+                                        media->durationExact() ? media->duration() : 0.0);
+    if (!reason.isEmpty()) {
+        // A source that would not decode is the better explanation of a short output.
+        const QString decoding = ConvertFailure::decodingIn(m_console);
+        return decoding.isEmpty() ? reason : decoding + QStringLiteral(" (") + reason + u')';
+    }
+    reason = m_output.commit();
+    if (!reason.isEmpty())
+        return reason;
+    setStrOutFilePath(m_output.finalPath());
+    return {};
+}
+
+void ConvertOperation::deliverToLibrary(const QString& outputFile) {
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !item->bIsSendingToLibrary())
+        return;
+    setState(CvtStateSending);
+    if (m_listener)
+        m_listener->convertStartSync(this);
+    setState(CvtStateSending);
+    QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
+    if (playlist.isEmpty())
+        playlist = SXBundle::productName();
+    ScriptBridgeHelper::syncItunesLibrary(playlist, outputFile);
+    setState(CvtStateFinished);
+}
+
+QString ConvertOperation::saveTags(const QString& path) {
+    const std::shared_ptr<MTEAudioFile> destination =
+        MTEAudioFileMgr::createAudioFileWithPath(path, false);
+    // A kind without tags (AC3, MP2) has nothing to write, which is no failure. One that has
+    // them and cannot be opened is a file the encoder wrote broken (a WMA header that overflowed).
+    if (!destination || destination->eumFileType() == MTEAudioFile::FileTypeUnwritable) {
+        if (kindsWithTags().contains(QFileInfo(path).suffix().toLower()))
+            return ConvertFailure::tagsNotSaved(
+                QCoreApplication::translate("ConvertFailure", "the file cannot be opened"));
+        SXLog::line(QStringLiteral("no tags written for the file type of %1").arg(path));
+        return {};
+    }
+    destination->setStatus(1);
+    // The output gets the record and the source's other fields as its only tags.
+    const SXMusicInfoPtr item = musicToConvert();
+    const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
+    QString error;
+    if (!MTETagCopy::copy(source.get(), *destination, path, &error))
+        return ConvertFailure::tagsNotSaved(error);
+    return {};
+}
+
+void ConvertOperation::cancel() {
+    QMutexLocker locker(&m_lock);
+    if (isFinished() || m_childEnded)
+        return; // the outcome is decided; nothing is left to stop
+    if (wraperTask) {
+        const SXMusicInfoPtr item = _musicToConvert;
+        if (item && item->mediaInfo() && item->mediaInfo()->eumCvtState() == CvtStatePaused)
+            wraperTask->resume(); // a stopped child cannot act on the terminate request
+        wraperTask->stopProcess();
+        SXOperation::cancel();
+        setStateLocked(CvtStateCanceled);
+        bIsConverting = false;
+        isUserCancel = true;
+        // The partial output is removed by main once the child is gone (it may still write).
+        if (m_waitLoop)
+            QMetaObject::invokeMethod(m_waitLoop.data(), &QEventLoop::quit, Qt::QueuedConnection);
+        return;
+    }
+    SXOperation::cancel();
+    setStateLocked(CvtStateCanceled);
+    bIsConverting = false;
+}
+
+void ConvertOperation::pause() {
+    QMutexLocker locker(&m_lock);
+    if (!wraperTask || m_childEnded)
+        return;
+    setStateLocked(CvtStatePaused);
+    wraperTask->suspend();
+}
+
+void ConvertOperation::resume() {
+    QMutexLocker locker(&m_lock);
+    if (!wraperTask || m_childEnded)
+        return;
+    setStateLocked(CvtStateConverting);
+    wraperTask->resume();
+}
+
+void ConvertOperation::appendOutput(const QString& output) {
+    SXLog::line(QStringLiteral("Append output:") +
+                (output.isNull() ? QStringLiteral("(null)") : output));
+    if (output.isEmpty())
+        return;
+    // The end of what ffmpeg said tells why it failed; progress lines alone would fill this.
+    m_console += output;
+    if (m_console.size() > kConsoleKeep)
+        m_console.remove(0, m_console.size() - kConsoleKeep);
+    const SXMusicInfoPtr item = musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (!media)
+        return;
+    const ConvertProgressTracker::Update update = m_progress.feed(output, media->duration());
+    if (!update.hasTime)
+        return;
+    media->setDProgress(update.progress);
+    media->setDLeftTime(update.leftTime);
+    if (update.renewed && m_listener)
+        m_listener->convertOperationHandleProgress(this, media->dProgress());
+}
+
+void ConvertOperation::processStarted() {
+    bIsConverting = true;
+    if (m_listener)
+        m_listener->didConvertOperationStart(this);
+}
+
+void ConvertOperation::processFinished() {
+    SXLog::line(QStringLiteral("process finised..."));
+}
+
+void ConvertOperation::launcherDidTerminatedWithCode(int code) {
+    SXLog::line(QStringLiteral("exit code:%1").arg(code));
+    const SXMusicInfoPtr item = musicToConvert();
+    if (item && item->mediaInfo())
+        item->mediaInfo()->setDProgress(100.0);
+    iExitCode = code;
+    m_terminated = true;
+    bIsConverting = false;
+    if (m_waitLoop)
+        m_waitLoop->quit();
+}

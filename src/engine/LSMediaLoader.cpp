@@ -1,0 +1,180 @@
+#include "engine/LSMediaLoader.h"
+
+#include "framework/HVMediaInfo.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "base/SXLog.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QDeadlineTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QLocale>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <thread>
+#include <unistd.h>
+
+namespace {
+
+// Size and modification date as the information panel shows them. A file whose attributes
+// cannot be read keeps both empty; that is not a load failure.
+void readFileAttributes(LSMedia& media) {
+    const QFileInfo info(media.filePath());
+    if (!info.exists())
+        return;
+    // The pattern pairs the 24-hour clock with an upper-case AM/PM marker; the panel has always
+    // shown it so. In Qt's patterns "a" writes the marker in lower case, "AP" in upper case.
+    media.setStrLastModified(
+        QLocale::system().toString(info.lastModified(), QStringLiteral("d/M/yy H:m AP")));
+    media.setDFileSize(double(info.size()));
+}
+
+// The output settings start from the source's own values; the scheduler later replaces them
+// with the container's choices.
+void copyProbeToOutput(LSMedia& media) {
+    media.setDAOBitrate(media.audioBitrate() / 1000.0);
+    media.setDAOSamplerate(media.audioSamplerate());
+    media.setIAOChannels(media.audioChannels());
+}
+
+// Everything after a good probe. Unreadable tags leave the handle empty; the item still loads.
+void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
+    copyProbeToOutput(media);
+    readFileAttributes(media);
+    const QString path = item.strFilePath();
+    std::shared_ptr<MTEAudioFile> handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);
+    if (!handle)
+        SXLog::line(QStringLiteral("load %1 failed!").arg(path));
+    item.setMetHandler(handle);
+}
+
+// Why a probe failed, in the user's words: the system's reason when the file cannot even be
+// opened, else it holds nothing we can read as audio.
+QString unloadableReason(const QString& path) {
+    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) {
+        const QString error = QString::fromStdString(std::generic_category().message(errno));
+        return QCoreApplication::translate("LSMediaLoader", "The file cannot be opened: %1")
+            .arg(error);
+    }
+    struct stat status {};
+    const bool folder = ::fstat(fd, &status) == 0 && S_ISDIR(status.st_mode);
+    ::close(fd);
+    return folder ? QCoreApplication::translate("LSMediaLoader", "This is a folder, not a file")
+                  : QCoreApplication::translate("LSMediaLoader",
+                                                "The file holds no audio that can be read");
+}
+
+} // namespace
+
+std::shared_ptr<LSMediaLoader> LSMediaLoader::create() {
+    return std::shared_ptr<LSMediaLoader>(new LSMediaLoader());
+}
+
+void LSMediaLoader::setListener(LSMediaLoaderListener* listener) {
+    m_listener.store(listener);
+}
+
+LSMediaLoaderListener* LSMediaLoader::listener() const {
+    return m_listener.load();
+}
+
+SXMusicInfoList LSMediaLoader::aryMediasToLoad() const {
+    QMutexLocker locker(&m_lock);
+    return m_aryMediasToLoad;
+}
+
+void LSMediaLoader::cancel() {
+    m_bCanceled.store(true);
+}
+
+bool LSMediaLoader::bCanceled() const {
+    return m_bCanceled.load();
+}
+
+void LSMediaLoader::loadMediasWithMediaArray(const SXMusicInfoList& medias) {
+    if (medias.isEmpty()) {
+        completeLoad(std::nullopt, std::nullopt);
+        return;
+    }
+    {
+        QMutexLocker locker(&m_lock);
+        m_aryMediasToLoad = medias;
+        ++m_runningWorkers;
+    }
+    // The worker owns a reference, so the loader outlives a caller that lets go of it.
+    std::shared_ptr<LSMediaLoader> self = shared_from_this();
+    try {
+        std::thread([self, medias] {
+            self->loadMediasThread(medias);
+            self->workerFinished();
+        }).detach();
+    } catch (const std::system_error& failure) {
+        // No thread could be made: nothing of the batch is delivered, as after a cancel.
+        SXLog::line(QStringLiteral("cannot start the loading thread: %1")
+                        .arg(QString::fromLocal8Bit(failure.what())));
+        completeLoad(std::nullopt, std::nullopt);
+        workerFinished();
+    }
+}
+
+void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
+    QSet<int> failedIndex;
+    const int count = int(medias.size());
+    for (int i = 0; i < count; ++i) {
+        if (bCanceled()) {
+            completeLoad(std::nullopt, std::nullopt);
+            return;
+        }
+        const SXMusicInfoPtr& item = medias.at(i);
+        if (LSMediaLoaderListener* target = listener())
+            target->mediaLoaderStartLoadMusic(this, item);
+
+        const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+        // An item that comes with a reason was refused before the load (a folder that cannot
+        // be read, a name that is not valid UTF-8); there is nothing to probe.
+        if (!media || !media->failReason().isEmpty() || !HVMediaInfo::dumpMediaInfo(*media)) {
+            if (media && media->failReason().isEmpty())
+                media->setFailReason(unloadableReason(media->filePath()));
+            failedIndex.insert(i);
+            SXLog::line(QStringLiteral("Failed:index:%1").arg(i));
+        } else {
+            // A cancel during the probe drops the batch before its tags are read.
+            if (bCanceled()) {
+                completeLoad(std::nullopt, std::nullopt);
+                return;
+            }
+            fillProbedItem(*item, *media);
+        }
+        if (LSMediaLoaderListener* target = listener())
+            target->mediaLoaderDidReceiveProgress(this, double(i + 1) / count);
+    }
+    completeLoad(medias, failedIndex);
+}
+
+void LSMediaLoader::completeLoad(const std::optional<SXMusicInfoList>& medias,
+                                 const std::optional<QSet<int>>& failedIndex) {
+    if (LSMediaLoaderListener* target = listener())
+        target->mediaLoaderDidCompleteLoadMedias(this, medias, failedIndex);
+}
+
+void LSMediaLoader::workerFinished() {
+    QMutexLocker locker(&m_lock);
+    --m_runningWorkers;
+    if (m_runningWorkers == 0)
+        m_idle.wakeAll();
+}
+
+bool LSMediaLoader::waitUntilDone(int timeoutMs) {
+    QDeadlineTimer deadline =
+        timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
+    QMutexLocker locker(&m_lock);
+    while (m_runningWorkers > 0) {
+        if (!m_idle.wait(&m_lock, deadline))
+            return m_runningWorkers == 0;
+    }
+    return true;
+}

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "engine/LSMediaLoaderListener.h"
+
+#include <QMutex>
+#include <QWaitCondition>
+#include <atomic>
+#include <memory>
+
+// Probes one batch of added items on its own worker thread: audio properties, file size and
+// date, and the tag handle of each item, reporting to its listener as it goes. A loader serves a
+// single batch; once cancelled it stays cancelled. The worker holds a reference to the loader,
+// so the caller may drop its own at any time.
+class LSMediaLoader : public std::enable_shared_from_this<LSMediaLoader> {
+public:
+    static std::shared_ptr<LSMediaLoader> create();
+    LSMediaLoader(const LSMediaLoader&) = delete;
+    LSMediaLoader& operator=(const LSMediaLoader&) = delete;
+
+    // Not owned; may be null. Set it before loading.
+    void setListener(LSMediaLoaderListener* listener);
+    LSMediaLoaderListener* listener() const;
+
+    // Starts a detached worker for a non-empty batch and returns at once. An empty batch is
+    // completed on the calling thread before this returns.
+    void loadMediasWithMediaArray(const SXMusicInfoList& medias);
+    SXMusicInfoList aryMediasToLoad() const;
+
+    // Noticed by the worker before the next item and after the current item's probe.
+    void cancel();
+    bool bCanceled() const;
+
+    // Blocks until no worker of this loader runs (its completion has been delivered). False when
+    // the timeout (milliseconds; negative waits for ever) ran out first.
+    bool waitUntilDone(int timeoutMs = -1);
+
+private:
+    LSMediaLoader() = default;
+    void loadMediasThread(const SXMusicInfoList& medias);
+    void completeLoad(const std::optional<SXMusicInfoList>& medias,
+                      const std::optional<QSet<int>>& failedIndex);
+    void workerFinished();
+
+    std::atomic<LSMediaLoaderListener*> m_listener{nullptr};
+    std::atomic<bool> m_bCanceled{false};
+    mutable QMutex m_lock;
+    QWaitCondition m_idle;
+    SXMusicInfoList m_aryMediasToLoad;
+    int m_runningWorkers = 0;
+};
+
+using LSMediaLoaderPtr = std::shared_ptr<LSMediaLoader>;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "framework/MTEAudioFile.h"
+
+#include <QString>
+
+// Gives a freshly converted file the tags of its source, and nothing else: the source handle's
+// record (as read and as edited) and the other well-known fields of the source file, each once,
+// under the output kind's own field for it, and the pictures as pictures. Whatever the output
+// carried before (the copies the converter made, its container's details) is removed; only its
+// encoder field stays.
+class MTETagCopy {
+public:
+    // Puts the record fields of `source` (none: an empty record) into `destination` under the
+    // destination kind's own keys, then writes the destination's record and the source file's
+    // other well-known fields into the file at `path` as its only tags. False with *error when
+    // the file could not be written.
+    static bool copy(const MTEAudioFile* source, MTEAudioFile& destination, const QString& path,
+                     QString* error = nullptr);
+};

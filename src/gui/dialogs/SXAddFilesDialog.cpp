@@ -1,0 +1,49 @@
+#include "gui/dialogs/SXAddFilesDialog.h"
+
+#include "base/GlobalFun.h"
+#include "workspace/SXWorkspaceFileLists.h"
+
+#include <QAbstractItemView>
+#include <QFileInfo>
+
+SXAddFilesDialog::SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& window)
+    : QFileDialog(&window, tr("Add Files")) {
+    setObjectName(QStringLiteral("openFiles"));
+    setOption(QFileDialog::DontUseNativeDialog);
+    setWindowModality(Qt::WindowModal);
+    setFileMode(QFileDialog::ExistingFiles);
+    setLabelText(QFileDialog::Accept, tr("Add"));
+    QStringList patterns;
+    for (const QString& ext : GlobalFun::getSupportedFmts())
+        patterns.append(QStringLiteral("*.") + ext);
+    setNameFilters({tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))),
+                    tr("All files (*)")});
+    // Folders and files side by side can be selected together in both of the dialog's views.
+    for (const QString& name : {QStringLiteral("listView"), QStringLiteral("treeView")}) {
+        if (auto* view = findChild<QAbstractItemView*>(name))
+            view->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    }
+    connect(this, &SXAddFilesDialog::locationsChosen, &workspace,
+            &SXWorkspaceFileLists::loadAndParseFiles);
+}
+
+SXAddFilesDialog* SXAddFilesDialog::openFor(SXWorkspaceFileLists& workspace, QWidget& window) {
+    auto* dialog = new SXAddFilesDialog(workspace, window);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->open();
+    return dialog;
+}
+
+void SXAddFilesDialog::accept() {
+    // The dialog would open a selected folder instead of choosing it: take every selected
+    // location as it is, as long as each exists.
+    const QStringList paths = selectedFiles();
+    if (paths.isEmpty())
+        return;
+    for (const QString& path : paths) {
+        if (!QFileInfo::exists(path))
+            return;
+    }
+    QDialog::accept();
+    Q_EMIT locationsChosen(paths);
+}

@@ -1,0 +1,107 @@
+#include "gui/panels/SXSettingsPanel.h"
+
+#include "gui/panels/SXIcons.h"
+#include "gui/panels/SXPopUps.h"
+#include "workspace/SXSettingPanelActions.h"
+#include "workspace/SXWorkspaceData.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QGridLayout>
+#include <QLabel>
+#include <QPushButton>
+
+SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
+    : QWidget(parent)
+    , m_workspace(workspace) {
+    setObjectName(QStringLiteral("settingsPanel"));
+    auto* grid = new QGridLayout(this);
+    grid->setContentsMargins(0, 0, 0, 0);
+    _popBitRate = addPopUp(tr("&Bit rate:"), QStringLiteral("popBitRate"));
+    _popSmpRate = addPopUp(tr("Sample &rate:"), QStringLiteral("popSmpRate"));
+    _popChannel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChannel"));
+    buildButtons();
+
+    connect(_popBitRate, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::setBitRate(m_workspace, title);
+    });
+    connect(_popSmpRate, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::setSampleRate(m_workspace, title);
+    });
+    connect(_popChannel, &QComboBox::textActivated, this, [this](const QString& title) {
+        SXSettingPanelActions::setChannels(m_workspace, title);
+    });
+    connect(_btnAddToLibrary, &QCheckBox::clicked, this,
+            [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_workspace, on); });
+    connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
+    connect(_btnReveal, &QPushButton::clicked, this,
+            [this] { SXSettingPanelActions::revealOutputFolder(m_workspace); });
+    connect(&m_workspace, &SXWorkspaceData::formatSettingShown, this,
+            &SXSettingsPanel::showSetting);
+}
+
+QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int column = m_columns++;
+    auto* popUp = new QComboBox(this);
+    popUp->setObjectName(name);
+    popUp->setMinimumContentsLength(8);
+    popUp->setAccessibleName(QString(label).remove(QLatin1Char('&')).remove(QLatin1Char(':')));
+    auto* caption = new QLabel(label, this);
+    caption->setBuddy(popUp);
+    grid->addWidget(caption, 0, column);
+    grid->addWidget(popUp, 1, column);
+    return popUp;
+}
+
+void SXSettingsPanel::buildButtons() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    const int column = m_columns;
+    _btnAddToLibrary = new QCheckBox(tr("Add to m&usic library"), this);
+    _btnAddToLibrary->setObjectName(QStringLiteral("btnAddToLibrary"));
+    _btnSavePath =
+        new QPushButton(SXIcons::icon(QStringLiteral("outputFolder"), QStringLiteral("folder")),
+                        tr("&Output Folder…"), this);
+    _btnSavePath->setObjectName(QStringLiteral("btnSavePath"));
+    _btnReveal =
+        new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),
+                        tr("Show in F&iles"), this);
+    _btnReveal->setObjectName(QStringLiteral("btnReveal"));
+    grid->addWidget(_btnAddToLibrary, 0, column);
+    grid->addWidget(_btnSavePath, 0, column + 1);
+    grid->addWidget(_btnReveal, 1, column + 1);
+    grid->setColumnStretch(column + 2, 1);
+}
+
+void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
+    if (!setting)
+        return;
+    SXPopUps::fill(_popBitRate, setting->aryBiteRate(), setting->bitRate());
+    SXPopUps::fill(_popChannel, setting->aryChannels(), setting->channels());
+    SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
+    _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
+    _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
+    _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
+}
+
+void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
+    for (QWidget* control : std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChannel,
+                                                            _btnAddToLibrary, _btnSavePath})
+        control->setEnabled(enabled);
+}
+
+void SXSettingsPanel::clickSavePath() {
+    auto* picker = new QFileDialog(window(), tr("Output Folder of This Format"), QDir::homePath());
+    picker->setAttribute(Qt::WA_DeleteOnClose);
+    picker->setObjectName(QStringLiteral("formatOutputFolder"));
+    picker->setFileMode(QFileDialog::Directory);
+    picker->setOption(QFileDialog::ShowDirsOnly);
+    picker->setWindowModality(Qt::WindowModal);
+    connect(picker, &QFileDialog::fileSelected, this, [this](const QString& folder) {
+        SXSettingPanelActions::setOutputFolder(m_workspace, folder);
+        showSetting(m_workspace.getSelectedTabFormatSetting());
+    });
+    picker->open();
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "model/SXFormatSetting.h"
+
+#include <QWidget>
+
+class QCheckBox;
+class QComboBox;
+class QPushButton;
+class SXWorkspaceData;
+
+// The settings of the selected container under the list: bit rate, sample rate and channels,
+// the music-library box (hidden for a format without the option), the container's output
+// folder and the reveal button. It mirrors formatSettingShown and writes
+// each change through SXSettingPanelActions.
+class SXSettingsPanel final : public QWidget {
+    Q_OBJECT
+public:
+    explicit SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent = nullptr);
+
+    void showSetting(const SXFormatSettingPtr& setting);
+    void setSettingPanelEnable(bool enabled);
+
+private:
+    QComboBox* addPopUp(const QString& label, const QString& name);
+    void buildButtons();
+    void clickSavePath();
+
+    SXWorkspaceData& m_workspace;
+    int m_columns = 0; // pop-ups placed so far, one column each
+    QComboBox* _popBitRate = nullptr;
+    QComboBox* _popSmpRate = nullptr;
+    QComboBox* _popChannel = nullptr;
+    QCheckBox* _btnAddToLibrary = nullptr;
+    QPushButton* _btnSavePath = nullptr;
+    QPushButton* _btnReveal = nullptr;
+};

@@ -1,0 +1,243 @@
+#include "gui/window/SXMainAppController.h"
+
+#include "online/SXPreferences.h"
+#include "gui/dialogs/SXAddFilesDialog.h"
+#include "gui/dialogs/SXLoadingSheet.h"
+#include "gui/dialogs/SXMetadataEditDialog.h"
+#include "gui/list/SXItemListView.h"
+#include "gui/list/SXRowContextMenu.h"
+#include "gui/list/SXWindowDrops.h"
+#include "gui/panels/SXFileInfoViewController.h"
+#include "gui/panels/SXHelpView.h"
+#include "gui/panels/SXIcons.h"
+#include "gui/panels/SXSettingsPanel.h"
+#include "gui/window/SXContainerTabBar.h"
+#include "gui/window/SXPreviewWiring.h"
+#include "gui/window/SXRunFeedback.h"
+#include "gui/window/SXWindowPresenter.h"
+#include "gui/window/SXWindowToolbar.h"
+#include "player/SXAudioPlayer.h"
+#include "base/GlobalFun.h"
+#include "workspace/SXWorkspace.h"
+#include "workspace/SXWorkspaceTexts.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QHBoxLayout>
+#include <QPushButton>
+#include <QScreen>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+SXMainAppController::SXMainAppController(QWidget* parent)
+    : QMainWindow(parent) {
+    setObjectName(QStringLiteral("MainWindow"));
+    setWindowTitle(QApplication::applicationDisplayName());
+    setWindowIcon(SXIcons::icon(QStringLiteral("sonoria")));
+    m_workspace = new SXWorkspace(this);
+    m_presenter = new SXWindowPresenter(*this);
+    m_workspace->setPresenter(m_presenter);
+    m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
+    m_toolbar = new SXWindowToolbar(*this, *m_workspace);
+    setCentralWidget(buildCentral());
+    new SXRunFeedback(*this, *m_workspace);
+    m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
+    new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    connect(_listView, &SXItemListView::startRequested, this, &SXMainAppController::startFromList);
+    m_fileInfo = new SXFileInfoViewController(*this, *m_workspace);
+    connect(&_listView->rowMenu(), &SXRowContextMenu::fileInfoRequested, this, [this] {
+        if (!m_fileInfo->isVisible()) // the panel's command toggles; the row's entry only shows
+            m_fileInfo->clickInfo();
+    });
+    connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
+            [this](const SXMusicInfoPtr& item) {
+                auto* editor = findChild<SXMetadataEditDialog*>(); // one per window, reused
+                if (!editor) {
+                    editor = new SXMetadataEditDialog(this);
+                    editor->setListener(m_workspace);
+                }
+                editor->setMusicInfo(item);
+                editor->open();
+            });
+    new SXLoadingSheet(*m_workspace, *this);
+    new SXWindowDrops(*this, *_tabBar, *m_workspace);
+    connectWorkspace();
+    if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
+        resize(980, 640);
+}
+
+SXMainAppController::~SXMainAppController() {
+    // The workspace goes first: its queue may still report to a window that must be whole.
+    m_workspace->setPresenter(nullptr);
+    delete m_workspace;
+}
+
+QWidget* SXMainAppController::buildCentral() {
+    auto* central = new QWidget(this);
+    auto* layout = new QVBoxLayout(central);
+    auto* tabRow = new QHBoxLayout;
+    _tabBar = new SXContainerTabBar(*m_workspace, central);
+    tabRow->addWidget(_tabBar);
+    tabRow->addWidget(_tabBar->addButton());
+    tabRow->addStretch(1);
+    layout->addLayout(tabRow);
+    _listView = new SXItemListView(*m_workspace, central);
+    layout->addWidget(_listView, 1);
+    _viewHelpBar = new SXHelpView(central);
+    layout->addWidget(_viewHelpBar);
+    auto* bottom = new QHBoxLayout;
+    bottom->addWidget(buildFileButtons());
+    bottom->addSpacing(16);
+    m_settingsPanel = new SXSettingsPanel(*m_workspace, central);
+    bottom->addWidget(m_settingsPanel, 1);
+    layout->addLayout(bottom);
+    return central;
+}
+
+QWidget* SXMainAppController::buildFileButtons() {
+    auto* box = new QWidget(this);
+    box->setObjectName(QStringLiteral("vOperation"));
+    auto* layout = new QVBoxLayout(box);
+    layout->setContentsMargins(0, 0, 0, 0);
+    const auto button = [box, layout](const QString& text, const QString& name, const QString& own,
+                                      const QString& theme) {
+        auto* b = new QPushButton(SXIcons::icon(own, theme), text, box);
+        b->setObjectName(name);
+        layout->addWidget(b);
+        return b;
+    };
+    _btnAddFile = button(tr("&Add Files…"), QStringLiteral("btnAddFile"), QStringLiteral("addFile"),
+                         QStringLiteral("list-add"));
+    _btnDelete = button(tr("&Delete"), QStringLiteral("btnDelete"), QStringLiteral("deleteFile"),
+                        QStringLiteral("list-remove"));
+    _btnClear = button(tr("Cl&ear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
+                       QStringLiteral("edit-clear-all"));
+    connect(_btnAddFile, &QPushButton::clicked, this, &SXMainAppController::clickAddFiles);
+    connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::removeSelected);
+    connect(_btnClear, &QPushButton::clicked, m_workspace, &SXWorkspace::clearContainer);
+    return box;
+}
+
+void SXMainAppController::connectWorkspace() {
+    SXWorkspace* ws = m_workspace;
+    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::refreshListView);
+    connect(ws, &SXWorkspace::tabCountsChanged, this, &SXMainAppController::refreshListView);
+    connect(ws, &SXWorkspace::appStateChanged, this, [this](int state) {
+        setSettingPanelEnable(sxSettingPanelEnabled(state));
+        refreshListView();
+    });
+    connect(m_toolbar, &SXWindowToolbar::commandTriggered, this, &SXMainAppController::perform);
+    connect(ws, &SXWorkspace::appStateChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::selectionChanged, this,
+            &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::tabsChanged, this, &SXMainAppController::validationInputsChanged);
+    connect(ws, &SXWorkspace::tabCountsChanged, this,
+            &SXMainAppController::validationInputsChanged);
+}
+
+void SXMainAppController::refreshListView() {
+    const bool removable =
+        sxRemoveButtonsEnabled(m_workspace->enumAppState(), m_workspace->currentTabItemCount());
+    _btnDelete->setEnabled(removable);
+    _btnClear->setEnabled(removable);
+    _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(*m_workspace));
+}
+
+void SXMainAppController::setSettingPanelEnable(bool enabled) {
+    _btnAddFile->setEnabled(enabled);
+    m_settingsPanel->setSettingPanelEnable(enabled);
+}
+
+void SXMainAppController::perform(SXCommand command) {
+    SXWorkspace& ws = *m_workspace;
+    switch (command) {
+    case SXCommand::Open:
+        clickAddFiles();
+        break;
+    case SXCommand::NewFormat:
+        ws.addContainer();
+        break;
+    case SXCommand::CloseTab:
+        ws.closeTab(); // beeps for a fixed container
+        break;
+    case SXCommand::Delete:
+        ws.removeSelected();
+        break;
+    case SXCommand::Clear:
+        ws.clearContainer();
+        break;
+    case SXCommand::NextRow:
+        ws.moveSelectedTo(-1);
+        break;
+    case SXCommand::PreviousRow:
+        ws.moveSelectedTo(1);
+        break;
+    case SXCommand::NextContainer:
+        ws.moveTabSelectedTo(-1);
+        break;
+    case SXCommand::PreviousContainer:
+        ws.moveTabSelectedTo(1);
+        break;
+    case SXCommand::Start:
+    case SXCommand::Stop:
+        ws.toggleRun(); // one toggle: Stop during a run
+        break;
+    case SXCommand::TagEditor:
+        if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
+            ws.cancelOrEditTags(items.first());
+        break;
+    case SXCommand::FileInfo:
+        m_fileInfo->clickInfo();
+        break;
+    case SXCommand::NewContainer:
+    case SXCommand::Preferences:
+    case SXCommand::Quit:
+    case SXCommand::Help:
+    case SXCommand::Feedback:
+    case SXCommand::Website:
+    case SXCommand::About:
+        Q_EMIT applicationCommand(command);
+        break;
+    }
+}
+
+void SXMainAppController::startFromList() {
+    // Enter is the Start item, never Stop: a key pressed by accident must not end a run.
+    const SXCommandContext context = SXCommandContext::of(m_workspace, m_workspace, true);
+    if (sxValidateMenuCommand(SXCommand::Start, context).enabled)
+        perform(SXCommand::Start);
+    else
+        m_presenter->beep();
+}
+
+void SXMainAppController::clickAddFiles() {
+    SXAddFilesDialog::openFor(*m_workspace, *this);
+}
+
+void SXMainAppController::closeEvent(QCloseEvent* event) {
+    if (m_closeApproved) {
+        m_closeApproved = false;
+        SXPreferences::setMainWindowGeometry(saveGeometry());
+        event->accept();
+        return;
+    }
+    event->ignore();
+    if (m_closeAsked)
+        return;
+    m_closeAsked = true;
+    m_workspace->windowShouldClose([this](bool mayClose) {
+        m_closeAsked = false;
+        if (!mayClose)
+            return;
+        m_closeApproved = true;
+        // Not from inside the close event that asked: close once it has returned.
+        QMetaObject::invokeMethod(this, &QWidget::close, Qt::QueuedConnection);
+    });
+}
+
+void SXMainAppController::changeEvent(QEvent* event) {
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange)
+        Q_EMIT validationInputsChanged();
+}

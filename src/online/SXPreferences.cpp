@@ -1,0 +1,89 @@
+#include "online/SXPreferences.h"
+
+#include "online/SXServiceRequest.h"
+#include "base/SXBundle.h"
+#include "base/SXSettings.h"
+
+namespace {
+const QString kMainWindowGeometry = QStringLiteral("SXMainWindowGeometry");
+const QString kWebsite = QStringLiteral("https://sonoria.app");
+const QString kSupportAddress = QStringLiteral("support@sonoria.app");
+} // namespace
+
+QStringList SXPreferences::maxTasksTitles() {
+    return {QStringLiteral("2"), QStringLiteral("5"), QStringLiteral("10")};
+}
+
+int SXPreferences::maxTasksIndex() {
+    return int(maxTasksTitles().indexOf(
+        QString::number(SXSettings::integerForKey(SXSettingsKey::MaxTask))));
+}
+
+void SXPreferences::setMaxTasks(const QString& chosenTitle) {
+    SXSettings::setValue(SXSettingsKey::MaxTask, chosenTitle.toInt());
+    SXSettings::synchronize();
+}
+
+QStringList SXPreferences::libraryFormatTitles() {
+    return {QStringLiteral("AAC"), QStringLiteral("MP3")};
+}
+
+int SXPreferences::libraryFormatIndex() {
+    return SXSettings::stringForKey(SXSettingsKey::libraryFormat) == QLatin1String("AAC") ? 0 : 1;
+}
+
+void SXPreferences::setLibraryFormat(int chosenIndex) {
+    SXSettings::setValue(SXSettingsKey::libraryFormat,
+                         chosenIndex == 0 ? QStringLiteral("AAC") : QStringLiteral("MP3"));
+    SXSettings::synchronize();
+}
+
+QString SXPreferences::playlistName() {
+    return SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
+}
+
+void SXPreferences::controlTextDidChange(const QString& text) {
+    SXSettings::setValue(SXSettingsKey::libraryPlaylistName, text);
+    SXSettings::synchronize();
+}
+
+bool SXPreferences::serviceConsent() {
+    return SXServiceRequest::hasConsent();
+}
+
+void SXPreferences::setServiceConsent(bool agreed) {
+    SXServiceRequest::setConsent(agreed);
+}
+
+QString SXPreferences::serviceAddress() {
+    const QString base = SXServiceRequest::baseURL();
+    return base.isEmpty() ? SXServiceRequest::defaultBaseURL() : base;
+}
+
+QByteArray SXPreferences::mainWindowGeometry() {
+    return QByteArray::fromBase64(SXSettings::stringForKey(kMainWindowGeometry).toLatin1());
+}
+
+void SXPreferences::setMainWindowGeometry(const QByteArray& geometry) {
+    SXSettings::setValue(kMainWindowGeometry, QString::fromLatin1(geometry.toBase64()));
+    SXSettings::synchronize();
+}
+
+QUrl SXPreferences::helpPageUrl() {
+    // The page made from the README at build time and installed with the resources; no
+    // network needed. Empty when the installation lacks it.
+    const QString page = SXBundle::pathForResource(QStringLiteral("help"), QStringLiteral("html"));
+    return page.isEmpty() ? QUrl() : QUrl::fromLocalFile(page);
+}
+
+QUrl SXPreferences::websiteUrl() {
+    return QUrl(kWebsite);
+}
+
+QUrl SXPreferences::feedbackMailUrl() {
+    QUrl url(QStringLiteral("mailto:") + kSupportAddress);
+    url.setQuery(QStringLiteral("subject=") +
+                 QString::fromLatin1(QUrl::toPercentEncoding(
+                     QStringLiteral("About %1").arg(SXBundle::productName()))));
+    return url;
+}

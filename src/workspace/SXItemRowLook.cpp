@@ -1,0 +1,74 @@
+#include "workspace/SXItemRowLook.h"
+
+#include "framework/MTEAudioFile.h"
+#include "base/GlobalFun.h"
+#include "workspace/SXWorkspaceData.h"
+
+#include <QFileInfo>
+#include <cmath>
+
+SXItemRowTexts SXItemRowLookRules::textsForItem(const SXMusicInfoPtr& item) {
+    SXItemRowTexts texts;
+    if (!item)
+        return texts;
+    texts.name = QFileInfo(item->strFilePath()).completeBaseName();
+    if (const std::shared_ptr<MTEAudioFile> tags = item->metHandler())
+        texts.artist = tags->artist();
+    if (const LSMediaPtr media = item->mediaInfo()) {
+        texts.duration = GlobalFun::getTimeStringBySecond(media->duration());
+        texts.codec = media->strAudioCodecName();
+    }
+    return texts;
+}
+
+SXStateButtonLook SXItemRowLookRules::stateButtonLook(double progress) {
+    const int value = int(progress);
+    switch (value) {
+    case int(SXProgress::Waiting):
+        return {QStringLiteral("pending"), QStringLiteral("pending")};
+    case int(SXProgress::Sending):
+        return {QStringLiteral("sending"), QStringLiteral("sending")};
+    case int(SXProgress::Done):
+        return {QStringLiteral("finish"), QStringLiteral("finish")};
+    case int(SXProgress::Failed):
+        return {QStringLiteral("error"), QStringLiteral("error")};
+    case int(SXProgress::Canceled):
+        return {QStringLiteral("canceled"), QStringLiteral("canceled")};
+    default:
+        return {QStringLiteral("progress-background"), QStringLiteral("converting"), value / 100.0};
+    }
+}
+
+QString SXItemRowLookRules::rightButtonImageForProgress(double progress) {
+    const int value = int(progress);
+    const bool settled = value == int(SXProgress::Done) || value == int(SXProgress::Failed) ||
+                         value == int(SXProgress::Canceled) || value == int(SXProgress::Waiting);
+    return settled ? QStringLiteral("right_edit") : QStringLiteral("cancel");
+}
+
+SXMusicInfoPtr SXItemRowLookRules::playingItem(const SXWorkspaceData& workspace) {
+    return workspace.enumAppState() == AppStatePlaying ? workspace.appStateItem() : nullptr;
+}
+
+SXItemRowLook SXItemRowLookRules::rowLook(const SXWorkspaceData& workspace,
+                                          const SXMusicInfoPtr& item, bool hovered,
+                                          bool draggingRows, bool windowIsKey) {
+    SXItemRowLook look;
+    if (!item)
+        return look;
+    look.state = stateButtonLook(item->dConvertProgress());
+    const SXMusicInfoPtr playing = playingItem(workspace);
+    const bool plays = playing && playing->isEqualToMusic(*item);
+    const bool converting = workspace.enumAppState() == AppStateConverting;
+    if (plays)
+        look.playImage = QStringLiteral("stop");
+    else if (hovered && !draggingRows && !converting && windowIsKey)
+        look.playImage = QStringLiteral("play");
+    // Entering a row shows the cancel button during a run and the edit button otherwise, the
+    // latter only in the key window; leaving hides it.
+    if (hovered && converting)
+        look.rightImage = QStringLiteral("cancel");
+    else if (hovered && windowIsKey)
+        look.rightImage = rightButtonImageForProgress(item->dConvertProgress());
+    return look;
+}

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "workspace/SXWorkspacePresenter.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QStringList>
+#include <QUrl>
+
+class SXWorkspaceData;
+class SXWorkspaceItemMoves;
+
+// The private drag type that carries items between containers and windows: an archive of the
+// dragged items in row order (SXMusicInfo::archiveItems).
+inline constexpr char kSXItemsMimeType[] = "application/x-sonoria-tableinsidetransfer";
+
+// What a drag brings to a workspace window, as the front end read it off the drag.
+struct SXDropContent {
+    QByteArray itemArchive; // the private type, empty when absent
+    QList<QUrl> urls;       // text/uri-list, as file managers send files and folders
+};
+
+// Local paths of dropped URLs and the URLs that name no local file.
+struct SXDroppedLocations {
+    QStringList paths;
+    QStringList refused;
+};
+
+// The rules of dropping on a workspace window: on the list (reordering, moving items in from
+// another container or window, adding files), on a container's tab and anywhere else in the
+// window (adding files). One call per gesture; each answers whether the drop was taken.
+class SXListDrop {
+public:
+    // Whether the window takes drops at all now: not during a run, nor while an add run loads.
+    static bool acceptsDrops(const SXWorkspaceData& workspace);
+    // Whether a drag of `content` may end on the tab labelled `tabLabel`.
+    static bool acceptsDropOnTab(const SXWorkspaceData& workspace, const SXDropContent& content);
+
+    // Dropped on the shown list before row `insertRow` (the row count: at the end). Items win
+    // over URLs: the window's own drags carry both, the URLs only for file managers.
+    static bool dropOnList(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+                           int insertRow);
+    static bool dropOnTab(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+                          const QString& tabLabel);
+    // Anywhere else in the window: files and folders only.
+    static bool dropOnWindow(SXWorkspaceItemMoves& workspace, const SXDropContent& content);
+
+    static SXDroppedLocations splitLocations(const QList<QUrl>& urls);
+    // The alert for dropped URLs that are not local files.
+    static SXAlert refusedLocationsAlert(const QStringList& refused);
+
+private:
+    static bool addDroppedFiles(SXWorkspaceItemMoves& workspace, const QList<QUrl>& urls);
+};

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "engine/LSMediaLoader.h"
+#include "base/SXPathFailure.h"
+#include "workspace/SXLoadProgressRelay.h"
+#include "workspace/SXMetadataEditing.h"
+#include "workspace/SXWorkspaceContainers.h"
+
+#include <QByteArray>
+
+// The file lists of a workspace: adding files (an add run probes them on a loader's worker
+// thread), removing and finding items.
+class SXWorkspaceFileLists : public SXWorkspaceContainers,
+                             public LSMediaLoaderListener,
+                             public SXMetadataEditListener {
+    Q_OBJECT
+public:
+    explicit SXWorkspaceFileLists(QObject* parent = nullptr);
+    ~SXWorkspaceFileLists() override;
+
+    // --- Adding ---
+    // The add run for the selected container: expands folders, filters, drops paths already in
+    // the container and probes the rest, all off the main thread. Ends with loadFinished()
+    // (state back to idle).
+    void loadAndParseFiles(const QStringList& paths);
+    // The loading sheet's cancel button.
+    void cancelLoading();
+    // The end of an add run on the main thread; `failed` are the items that could not be probed.
+    void mainSelCompleteLoad(const SXMusicInfoList& failed);
+    LSMediaLoaderPtr mediaLoader() const { return m_mediaLoader; }
+
+    // The candidate paths of an add run before de-duplication (lstat, folders, the "vob" rule).
+    // Paths that cannot be taken (missing, unreadable folders, names that are not valid UTF-8)
+    // go to `failures` with their reason.
+    static QStringList expandPaths(const QStringList& paths, SXPathFailureList* failures = nullptr);
+    // Drops from `candidates` the paths already in `current`, with the walk that skips the path
+    // moving into a dropped one's place.
+    static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);
+    // The items of an add run for `container`: the paths expanded, without those in `current`;
+    // then an item for each path that cannot be taken, its reason in its record, which the
+    // loader reports among the failures without probing it.
+    static SXMusicInfoList makeBatch(const QStringList& paths, const QString& container,
+                                     const SXMusicInfoList& current);
+    // "%@\n" per name, "..." after the 11th.
+    static QString loadFailureText(const SXMusicInfoList& failed);
+    // Every failed item with its folder and the loader's reason, one a line.
+    static QString loadFailureDetails(const SXMusicInfoList& failed);
+
+    // LSMediaLoaderListener (worker thread)
+    void mediaLoaderStartLoadMusic(LSMediaLoader* loader, const SXMusicInfoPtr& item) override;
+    void mediaLoaderDidReceiveProgress(LSMediaLoader* loader, double progress) override;
+    void mediaLoaderDidCompleteLoadMedias(LSMediaLoader* loader,
+                                          const std::optional<SXMusicInfoList>& medias,
+                                          const std::optional<QSet<int>>& failedIndex) override;
+
+    // --- Removing and finding ---
+    // Removes from the container named `fromFiles` the first item equal to each of `items`.
+    // Nothing is removed during a run (see refusedDuringRun).
+    void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
+    // Delete and Clear, from the buttons, the menu and the list's keys: refused with a beep
+    // during a run.
+    void removeSelected();
+    void clearContainer();
+    static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
+    static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
+                                             const SXMusicInfoList& inSelectedTableView);
+
+    // SXMetadataEditListener: the tag editor steps through the shown list.
+    bool canMetadataEditorPerform(const SXMusicInfoPtr& editing, int function) const override;
+    SXMusicInfoPtr metadataEditorAsksForItem(const SXMusicInfoPtr& editing, int function) override;
+
+Q_SIGNALS:
+    // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader
+    // reports on its worker thread; the newest of its reports reach the main thread at most
+    // every 25 ms.
+    void loadStarted(const QString& text);
+    void loadProgressText(const QString& text);
+    void loadProgressValue(double fraction);
+    // The sheet is to be hidden at once (the run still ends with loadFinished).
+    void loadCancelled();
+    void loadFinished(const SXMusicInfoList& failed);
+
+protected:
+    // Nothing leaves a container while a run converts the window's items: the operation of a
+    // removed item would go on converting it where nobody can stop it, and the summary would
+    // not count it. True, after a beep, when the state refuses the gesture.
+    bool refusedDuringRun() const;
+
+private:
+    LSMediaLoaderPtr m_mediaLoader;
+    SXLoadProgressRelay m_loadProgress;
+};

@@ -1,0 +1,402 @@
+#include "workspace/SXWorkspaceScheduler.h"
+
+#include "base/SXFileLocalManager.h"
+#include "engine/ConvertFailure.h"
+#include "engine/ConvertOutputFile.h"
+#include "base/GlobalFun.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
+#include "workspace/SXFailureTexts.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QLocale>
+#include <QMutexLocker>
+#include <QPointer>
+#include <QRegularExpression>
+
+#include <utility>
+#include <vector>
+
+SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
+    : SXWorkspaceItemMoves(parent)
+    , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
+    , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
+
+SXWorkspaceScheduler::~SXWorkspaceScheduler() {
+    if (_timerToRefresh)
+        _timerToRefresh->stop();
+    // The queue waits for the running conversions; they still report to us meanwhile, so it
+    // goes while this object is whole.
+    if (_queueConvertTask) {
+        _queueConvertTask->cancelAllOperations();
+        _queueConvertTask.reset();
+    }
+}
+
+// --- Start ---
+
+void SXWorkspaceScheduler::toggleRun() {
+    if (enumAppState() == AppStateConverting) {
+        cancelAll();
+        return;
+    }
+    QString path = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
+    if (path.isEmpty())
+        path = SXFileLocalManager::getDefaultUpperOutputDir();
+    m_bOrganized = SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true);
+    m_bOverOpen = SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false);
+    SXLog::line(QStringLiteral("thepath = %1").arg(path));
+    if (!presenter())
+        return;
+    presenter()->chooseOutputFolder(
+        {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
+         m_bOverOpen},
+        [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
+            if (guard)
+                guard->outputFolderChosen(choice);
+        });
+}
+
+void SXWorkspaceScheduler::outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice) {
+    // The dialog is window-modal, but another window may have started a run meanwhile.
+    if (!choice || choice->folder.isEmpty() || enumAppState() == AppStateConverting)
+        return;
+    SXSettings::setValue(SXSettingsKey::DefaultOutputPath, choice->folder);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, choice->organizeByFormat);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOpen, choice->openWhenDone);
+    SXSettings::synchronize();
+    m_bOrganized = choice->organizeByFormat;
+    m_bOverOpen = choice->openWhenDone;
+    doRealConverterTask(choice->folder);
+}
+
+bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
+    // Every output folder is checked before a single child starts: a read-only or missing
+    // destination would otherwise fail every item one by one, each for the same reason.
+    QStringList folders;
+    for (const QString& name : containerNames()) {
+        const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
+        const QString output =
+            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+        if (setting && !getDataForFormat(name).isEmpty() && !folders.contains(output))
+            folders.append(output);
+    }
+    for (const QString& output : std::as_const(folders)) {
+        const QString problem = ConvertFailure::checkOutputFolder(output);
+        if (problem.isEmpty())
+            continue;
+        const QString message =
+            tr("Cannot write into the output folder \"%1\": %2").arg(output, problem);
+        SXLog::line(message);
+        runAlert({tr("The conversion did not start"), message, {tr("OK")}});
+        Q_EMIT runRefused(message);
+        return false;
+    }
+    for (const QString& output : std::as_const(folders))
+        ConvertOutputFile::removeLeftovers(output);
+
+    stopPlayerWithRefreshUI();
+    if (!_queueConvertTask)
+        _queueConvertTask = std::make_unique<SXOperationQueue>();
+    _queueConvertTask->setMaxConcurrentOperationCount(
+        m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
+    m_totalConvertOps = getTotalNeedConvertMusic();
+    startConvertOperation();
+    const QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
+
+    // Every item is queued again at each Start, whatever an earlier run made of it. All are
+    // prepared before the first is queued: the first conversions' start-up would otherwise
+    // compete with this thread for the cores while it prepares the rest.
+    std::vector<ConvertOperationPtr> operations;
+    for (const QString& name : containerNames()) {
+        const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
+        const QString output =
+            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            item->setDConvertProgress(SXProgress::Waiting);
+            // Without a media record or a format there is nothing to convert: it stays waiting.
+            if (!item->mediaInfo() || !setting)
+                continue;
+            copyChoicesInto(item, *setting, playlist);
+            auto operation = std::make_shared<ConvertOperation>(item);
+            operation->setStrOutFilePath(output);
+            operation->setListener(this);
+            operations.push_back(std::move(operation));
+        }
+    }
+    for (ConvertOperationPtr& operation : operations)
+        _queueConvertTask->addOperation(std::move(operation));
+
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+    }
+    _timerToRefresh = new QTimer(this);
+    _timerToRefresh->setInterval(400);
+    connect(_timerToRefresh, &QTimer::timeout, this, &SXWorkspaceScheduler::refreshTimeFired);
+    _timerToRefresh->start();
+    return true;
+}
+
+void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
+                                           const SXFormatSetting& setting,
+                                           const QString& playlist) const {
+    const LSMediaPtr media = item->mediaInfo();
+    const QString useSource = QStringLiteral("Use Source");
+    media->setDProgress(0);
+    media->setFailReason(QString());
+    media->setDAOBitrate(setting.bitRate() == useSource ? media->audioBitrate() / 1000
+                                                        : choiceValue(setting.bitRate()));
+    media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
+                                                              : choiceValue(setting.sampleRate()));
+    if (setting.channels() == useSource)
+        media->setIAOChannels(media->audioChannels());
+    else
+        media->setIAOChannels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
+    media->setVOACodecName(setting.decodecName());
+    media->setStrOutFileExt(setting.outputExtName());
+    item->setBIsSendingToLibrary(setting.enumAddToLibrary() == 1);
+    item->setStrLibraryPlaylistName(playlist);
+}
+
+double SXWorkspaceScheduler::choiceValue(const QString& choice) {
+    static const QRegularExpression number(
+        QStringLiteral(R"(^\s*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?))"));
+    const QRegularExpressionMatch match = number.match(choice);
+    return match.hasMatch() ? QLocale::c().toDouble(match.captured(1)) : 0.0;
+}
+
+void SXWorkspaceScheduler::startConvertOperation() {
+    setAppState(AppStateConverting);
+    Q_EMIT totalProgressChanged(0.0);
+}
+
+void SXWorkspaceScheduler::setConvertOperationFinished() {
+    setAppState(AppStateIdle);
+}
+
+void SXWorkspaceScheduler::abandonRun() {
+    if (enumAppState() != AppStateConverting)
+        return;
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+        _timerToRefresh = nullptr;
+    }
+    if (_queueConvertTask) {
+        cancelAll();
+        _queueConvertTask->waitUntilAllOperationsAreFinished();
+    }
+    setConvertOperationFinished();
+}
+
+// --- Progress ---
+
+void SXWorkspaceScheduler::refreshTimeFired() {
+    QMetaObject::invokeMethod(
+        this, [this] { refreshUIOnMainThreadWhenConvert(); }, Qt::QueuedConnection);
+    if (_queueConvertTask && _queueConvertTask->operationCount() > 0)
+        return;
+    finishRun();
+}
+
+void SXWorkspaceScheduler::refreshUIOnMainThreadWhenConvert() {
+    Q_EMIT rowsRedrawRequested();
+    Q_EMIT totalProgressChanged(getTotalConvertProgress() * 100.0);
+}
+
+void SXWorkspaceScheduler::finishRun() {
+    if (_timerToRefresh) {
+        _timerToRefresh->stop();
+        _timerToRefresh->deleteLater();
+        _timerToRefresh = nullptr;
+    }
+    if (!_queueConvertTask || _queueConvertTask->operationCount() == 0)
+        QMetaObject::invokeMethod(
+            this, [this] { setConvertOperationFinished(); }, Qt::QueuedConnection);
+
+    int succeeded = 0;
+    SXPathFailureList failures;
+    for (const QString& name : containerNames()) {
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            const LSMediaPtr media = item->mediaInfo();
+            if (media && media->eumCvtState() == CvtStateFinished)
+                ++succeeded;
+            else if (const std::optional<SXPathFailure> failure =
+                         SXFailureTexts::conversionFailure(*item))
+                failures.append(*failure);
+        }
+    }
+    const QString message = summaryMessage(succeeded, failures);
+    // Every failure, with its folder and reason, where the user can scroll through them.
+    runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
+    Q_EMIT rowsRedrawRequested();
+    Q_EMIT runFinished(message, succeeded, int(failures.size()));
+    if (m_bOverOpen && presenter())
+        presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
+}
+
+QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
+    QString message = QStringLiteral("%1 files has been successfully converted.").arg(succeeded);
+    if (failures.isEmpty())
+        return message;
+    message += QStringLiteral("except %1 files failed,including:").arg(failures.size());
+    for (int i = 0; i < failures.size(); ++i) {
+        if (i == 3) {
+            message += QStringLiteral("...");
+            break;
+        }
+        const SXPathFailure& failure = failures.at(i);
+        message += QStringLiteral(" \n%1").arg(
+            QCoreApplication::translate("SXWorkspaceScheduler", "%1: %2")
+                .arg(QFileInfo(failure.path).completeBaseName(), failure.reason));
+    }
+    return message;
+}
+
+double SXWorkspaceScheduler::getTotalConvertProgress() const {
+    double sum = 0;
+    qsizetype count = 0;
+    for (const QString& name : containerNames()) {
+        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+            const double value = item->dConvertProgress();
+            ++count;
+            if (value == SXProgress::Failed || value == SXProgress::Canceled ||
+                value == SXProgress::Done)
+                sum += 100;
+            else if (value == SXProgress::Sending)
+                sum += 90;
+            else if (value != SXProgress::Waiting)
+                sum += value;
+        }
+    }
+    // Without items there is nothing to divide by: no progress, never NaN, which the state strip
+    // and the launcher would turn into an integer.
+    return count == 0 ? 0.0 : sum / (double(count) * 100.0);
+}
+
+int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
+    int total = 0;
+    for (const QString& name : containerNames())
+        total += int(getDataForFormat(name).size());
+    return total;
+}
+
+// --- Cancel ---
+
+void SXWorkspaceScheduler::cancelAll() {
+    if (!_queueConvertTask)
+        return;
+    for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
+        auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation);
+        if (!convert)
+            continue;
+        if (const SXMusicInfoPtr item = convert->musicToConvert())
+            item->setDConvertProgress(SXProgress::Canceled);
+        convert->cancel();
+    }
+}
+
+ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusicInfoPtr& item) {
+    if (!_queueConvertTask || !item)
+        return nullptr;
+    QMutexLocker locker(&m_queueLock);
+    QList<ConvertOperationPtr> operations;
+    for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
+        if (auto convert = std::dynamic_pointer_cast<ConvertOperation>(operation))
+            operations.append(std::move(convert));
+    }
+    // The row's own item first: a container may hold one file twice, and a right-click must
+    // cancel the row it was made on.
+    for (const ConvertOperationPtr& operation : std::as_const(operations)) {
+        if (operation->musicToConvert() == item)
+            return operation;
+    }
+    // An equal item (a copy, as a drag carries) still names its operation; anything else names
+    // none, so that no other file is ever cancelled in its place.
+    for (const ConvertOperationPtr& operation : std::as_const(operations)) {
+        const SXMusicInfoPtr music = operation->musicToConvert();
+        if (music && music->isEqualToMusic(*item))
+            return operation;
+    }
+    return nullptr;
+}
+
+void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
+    const int state = enumAppState();
+    if (state == AppStateIdle || state == AppStatePlaying) {
+        const int row = indexMusicItem(item, getCurTableDatasource());
+        setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
+        Q_EMIT rowsRedrawRequested();
+        Q_EMIT metadataEditorRequested(item);
+        return;
+    }
+    if (state != AppStateConverting || !item)
+        return;
+    // A row whose conversion has ended has nothing left to cancel.
+    const double progress = item->dConvertProgress();
+    if (progress == SXProgress::Done || progress == SXProgress::Failed ||
+        progress == SXProgress::Canceled)
+        return;
+    const ConvertOperationPtr operation = findOperationForMusicInfo(item);
+    if (!operation)
+        return;
+    operation->cancel();
+    // As Stop does for every row: a waiting operation leaves the queue without a word, so the
+    // row says at once that it will not convert. One that had already ended keeps its outcome.
+    const SXMusicInfoPtr cancelled = operation->musicToConvert();
+    const LSMediaPtr media = cancelled ? cancelled->mediaInfo() : nullptr;
+    if (media && media->eumCvtState() == CvtStateCanceled) {
+        cancelled->setDConvertProgress(SXProgress::Canceled);
+        Q_EMIT rowsRedrawRequested();
+    }
+}
+
+// --- Operation callbacks (worker threads) ---
+
+void SXWorkspaceScheduler::requestRedraw() {
+    QMetaObject::invokeMethod(
+        this, [this] { Q_EMIT rowsRedrawRequested(); }, Qt::QueuedConnection);
+}
+
+void SXWorkspaceScheduler::didConvertOperationStart(ConvertOperation* operation) {
+    if (const SXMusicInfoPtr item = operation->musicToConvert())
+        item->setDConvertProgress(0);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::convertOperationHandleProgress(ConvertOperation* operation,
+                                                          double percent) {
+    if (const SXMusicInfoPtr item = operation->musicToConvert())
+        item->setDConvertProgress(percent);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::convertStartSync(ConvertOperation* operation) {
+    const SXMusicInfoPtr item = operation->musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (media && media->eumCvtState() == CvtStateSending)
+        item->setDConvertProgress(SXProgress::Sending);
+    requestRedraw();
+}
+
+void SXWorkspaceScheduler::didConvertOperationFinish(ConvertOperation* operation) {
+    const SXMusicInfoPtr item = operation->musicToConvert();
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (media) {
+        const int state = media->eumCvtState();
+        item->setDConvertProgress(state == CvtStateCanceled ? SXProgress::Canceled
+                                  : state == CvtStateFailed ? SXProgress::Failed
+                                                            : SXProgress::Done);
+    }
+    const QString outputFile = operation->strOutFilePath();
+    QMetaObject::invokeMethod(
+        this,
+        [this, item, outputFile] {
+            if (item)
+                Q_EMIT itemFinished(item, outputFile);
+            Q_EMIT rowsRedrawRequested();
+        },
+        Qt::QueuedConnection);
+}

@@ -1,0 +1,105 @@
+#pragma once
+
+#include "engine/ConvertOperation.h"
+#include "engine/SXOperationQueue.h"
+#include "base/SXPathFailure.h"
+#include "workspace/SXWorkspaceItemMoves.h"
+
+#include <QMutex>
+#include <QTimer>
+#include <memory>
+#include <optional>
+
+// The conversion run of a workspace: Start asks for the output folder, every item of every
+// container becomes one ConvertOperation with its container's choices copied into its media
+// record, all go on one queue with a bounded number of parallel conversions, and a 0.4 s timer
+// on the main thread pulls the items' progress into a total until the queue has drained.
+//
+// Threads: the operation callbacks come on queue workers; they only store the item's progress
+// value and hand the signals to the main thread. Everything else runs on the main thread.
+class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationListener {
+    Q_OBJECT
+public:
+    explicit SXWorkspaceScheduler(QObject* parent = nullptr);
+    ~SXWorkspaceScheduler() override;
+
+    // Start, or Stop during a run.
+    void toggleRun();
+    // Starts the run into `folder` (per container below it when organising by format). When an
+    // output folder cannot be made or written, no child starts: the user is told which folder
+    // and why (an alert, and runRefused) and this returns false.
+    bool doRealConverterTask(const QString& folder);
+    void startConvertOperation();
+    void setConvertOperationFinished();
+    int getTotalNeedConvertMusic() const;
+    // Fraction 0..1 over every item (0 without items).
+    double getTotalConvertProgress() const;
+    void cancelAll();
+    // Ends a run for good, without its summary: every conversion is cancelled, the children are
+    // waited for (their partial files are gone when this returns) and the state is idle. For a
+    // window that closes or a program that quits during a run.
+    void abandonRun();
+    // The waiting or running operation of `item` (that very item, else an equal one); null
+    // when none matches.
+    ConvertOperationPtr findOperationForMusicInfo(const SXMusicInfoPtr& item);
+    // A row's right button: the tag editor when idle or playing; during a run it cancels that
+    // row's own conversion while it waits or converts, and does nothing once it has ended.
+    void cancelOrEditTags(const SXMusicInfoPtr& item);
+
+    // The run's parallelism instead of the stored maximum, without storing it (nullopt: the
+    // stored maximum again). Kept until changed.
+    void setMaxConcurrentOverride(std::optional<int> count) { m_maxConcurrentOverride = count; }
+    // The two check boxes of the folder chooser, as the last Start left them.
+    bool organizeByFormat() const { return m_bOrganized; }
+    void setOrganizeByFormat(bool on) { m_bOrganized = on; }
+    bool openFolderWhenDone() const { return m_bOverOpen; }
+    void setOpenFolderWhenDone(bool on) { m_bOverOpen = on; }
+    int totalConvertOps() const { return m_totalConvertOps; }
+    SXOperationQueue* queueConvertTask() const { return _queueConvertTask.get(); }
+
+    // The summary of a run: successes, then up to three failed names with their reasons and
+    // "..." for more (the alert's details list them all).
+    static QString summaryMessage(int succeeded, const SXPathFailureList& failures);
+    // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
+    static double choiceValue(const QString& choice);
+
+    // ConvertOperationListener (worker threads)
+    void didConvertOperationStart(ConvertOperation* operation) override;
+    void convertOperationHandleProgress(ConvertOperation* operation, double percent) override;
+    void convertStartSync(ConvertOperation* operation) override;
+    void didConvertOperationFinish(ConvertOperation* operation) override;
+
+Q_SIGNALS:
+    // The visible rows should be redrawn (their items' progress changed).
+    void rowsRedrawRequested();
+    // Total progress in per cent, at every refresh of a run.
+    void totalProgressChanged(double percent);
+    // A run has drained. Emitted before the state returns to idle (that change is queued).
+    void runFinished(const QString& summary, int succeeded, int failed);
+    // A run did not start because an output folder cannot take its files; `message` names the
+    // folder and the system's reason.
+    void runRefused(const QString& message);
+    // One conversion has ended (done, failed or cancelled: the item's record says which);
+    // `outputFile` is the file it wrote, or the folder it was to write into when it never got
+    // that far.
+    void itemFinished(const SXMusicInfoPtr& item, const QString& outputFile);
+    // A row asked for the tag editor of its item.
+    void metadataEditorRequested(const SXMusicInfoPtr& item);
+
+private:
+    void outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice);
+    void refreshTimeFired();
+    void refreshUIOnMainThreadWhenConvert();
+    void finishRun();
+    void copyChoicesInto(const SXMusicInfoPtr& item, const SXFormatSetting& setting,
+                         const QString& playlist) const;
+    void requestRedraw();
+
+    std::unique_ptr<SXOperationQueue> _queueConvertTask;
+    QTimer* _timerToRefresh = nullptr;
+    QMutex m_queueLock; // held while the queue's operations are searched
+    std::optional<int> m_maxConcurrentOverride;
+    bool m_bOrganized = true;
+    bool m_bOverOpen = false;
+    int m_totalConvertOps = 0;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "model/SXFormatSetting.h"
+
+#include <QString>
+#include <QStringList>
+
+class SXWorkspaceData;
+
+// The short texts a workspace window shows about itself, shared by every front end.
+class SXWorkspaceTexts {
+public:
+    // "%d files, %.1f hours, %.1f MB in %d containers" over every container of the workspace;
+    // empty without items. Reads the items' cached records only, never the disk.
+    static QString helpBarText(const SXWorkspaceData& workspace);
+    // "Converter to " and the format's description; empty without a setting.
+    static QString tabToolTip(const SXFormatSettingPtr& setting);
+    // The word after a tab's count badge for a screen reader: "item" for one, else "items".
+    static QString countNoun(int count);
+    // What a screen reader says for a tab: its label and its count ("MP3, 3 items").
+    static QString tabAccessibleName(const QString& label, int count);
+    // The window title: the application's name, and during a run the total in whole per cent
+    // first, so that a task bar that cuts titles short still shows it ("42% — Sonoria").
+    static QString windowTitle(const QString& appName, int state, double percent);
+    // One name per line ("%@\n"), and "..." after the 11th: how alerts list files.
+    static QString cappedNameLines(const QStringList& names);
+};

@@ -1,0 +1,199 @@
+#include "base/GlobalFun.h"
+#include "base/SXSettings.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <cmath>
+#include <limits>
+
+static void touch(const QString& path) {
+    QVERIFY2(SonoriaTest::writeFile(path, {}), qPrintable(path));
+}
+
+class GlobalFunTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void versions() {
+        QCOMPARE(GlobalFun::normalizedVersion("3"), QStringLiteral("3.0.0"));
+        QCOMPARE(GlobalFun::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
+        QCOMPARE(GlobalFun::normalizedVersion("1.2.3.4"), QStringLiteral("1.2.3"));
+        // The running kernel publishes its release under /proc too; both readings must agree.
+        QFile osRelease("/proc/sys/kernel/osrelease");
+        QVERIFY(osRelease.open(QIODevice::ReadOnly));
+        qint64 major = 0, minor = 0, bugFix = 0;
+        QVERIFY(GlobalFun::getMajorMinorBugFix(&major, &minor, &bugFix));
+        QVERIFY(osRelease.readAll().startsWith(QString("%1.%2.").arg(major).arg(minor).toLatin1()));
+        QCOMPARE(GlobalFun::getSystemVersionString(),
+                 QString("%1.%2.%3").arg(major).arg(minor).arg(bugFix));
+        QCOMPARE(GlobalFun::computerModelFromFile("/nonexistent/product_name"),
+                 QStringLiteral("PC"));
+    }
+
+    void kernelRelease_data() {
+        QTest::addColumn<QString>("release");
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QList<qint64>>("numbers"); // -1: left as the caller had it
+        QTest::newRow("distribution") << "6.1.0-18-amd64" << true << QList<qint64>{6, 1, 0};
+        QTest::newRow("suffixed patch") << "5.15.153.1-wsl" << true << QList<qint64>{5, 15, 153};
+        QTest::newRow("no patch") << "6.8-rc3" << true << QList<qint64>{6, 8, 0};
+        QTest::newRow("bad minor") << "6.x.2" << false << QList<qint64>{6, -1, -1};
+        QTest::newRow("bad major") << "v6.1.0" << false << QList<qint64>{-1, -1, -1};
+    }
+    void kernelRelease() {
+        QFETCH(QString, release);
+        QFETCH(bool, ok);
+        QFETCH(QList<qint64>, numbers);
+        QList<qint64> got{-1, -1, -1};
+        QCOMPARE(GlobalFun::versionNumbersFromRelease(release, &got[0], &got[1], &got[2]), ok);
+        QCOMPARE(got, numbers);
+    }
+
+    // Written clocks must read back as the truncated seconds they came from.
+    void clockStrings_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("clock");
+        QTest::newRow("zero") << 0.0 << "00:00:00";
+        QTest::newRow("truncated") << 59.99 << "00:00:59";
+        QTest::newRow("minutes") << 205.9 << "00:03:25";
+        QTest::newRow("hours keep all digits") << 360000.0 << "100:00:00";
+        QTest::newRow("not a number") << std::numeric_limits<double>::quiet_NaN() << "00:00:00";
+        QTest::newRow("saturates at 32 bits") << 1e12 << "596523:14:07";
+    }
+    void clockStrings() {
+        QFETCH(double, seconds);
+        QFETCH(QString, clock);
+        QCOMPARE(GlobalFun::getTimeStringBySecond(seconds), clock);
+        const double back = GlobalFun::getSecondsByTimeString(clock);
+        QCOMPARE(back, std::isnan(seconds) ? 0.0 : std::floor(qMin(seconds, 2147483647.0)));
+    }
+
+    void clockStringsAreRead() {
+        // Reading: each piece from its start, strtod-like, at most three pieces.
+        for (const auto& [text, seconds] : {std::pair{"00:01:23.45", 83.45},
+                                            {"abc", 0.0},
+                                            {"", 0.0},
+                                            {"2", 7200.0},
+                                            {"00:00:05:99", 5.0},
+                                            {"1h:2m:3.5s", 3723.5},
+                                            {" +1: -1:.5", 3540.5},
+                                            {"inf:nan:1", 1.0}})
+            QVERIFY2(GlobalFun::getSecondsByTimeString(text) == seconds, text);
+    }
+
+    void estimateWording_data() {
+        QTest::addColumn<double>("seconds");
+        QTest::addColumn<QString>("wording");
+        QTest::newRow("plural looks at raw") << 1.4 << "1 seconds remaining";
+        QTest::newRow("under one") << 0.7 << "1 second remaining";
+        QTest::newRow("rounds to sixty") << 59.6 << "60 seconds remaining";
+        QTest::newRow("one minute") << 60.0 << "1 minite 0 second remaining";
+        QTest::newRow("minite to 119") << 119.9 << "1 minite 59 seconds remaining";
+        QTest::newRow("minites from 120") << 121.0 << "2 minites 1 second remaining";
+        QTest::newRow("one hour") << 3600.0 << "1 hour 0 minite remaining";
+        QTest::newRow("hour to 7199") << 7199.0 << "1 hour 59 minites remaining";
+        QTest::newRow("hours") << 7325.0 << "2 hours 2 minites remaining";
+        QTest::newRow("nan") << std::numeric_limits<double>::quiet_NaN()
+                             << "0 hour 0 minite remaining";
+    }
+    void estimateWording() {
+        QFETCH(double, seconds);
+        QFETCH(QString, wording);
+        QCOMPARE(GlobalFun::getEstimateStrBySecond(seconds), wording);
+    }
+
+    void uniquePathNeverNamesAnExistingEntry() {
+        QTemporaryDir dir;
+        const QString song = dir.filePath("song.mp3");
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), song);
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song"), "mp3"), song);
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song.MP3"), "mp3"),
+                 dir.filePath("song.MP3.mp3"));
+        touch(song);
+        touch(dir.filePath("song(1).mp3"));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), dir.filePath("song(2).mp3"));
+        // A folder and a dangling link are taken names too.
+        QVERIFY(QDir(dir.path()).mkdir("song(2).mp3"));
+        QVERIFY(QFile::link(dir.filePath("nowhere"), dir.filePath("song(3).mp3")));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song(1).mp3"), "mp3"),
+                 dir.filePath("song(4).mp3"));
+        // The counter belongs to the file name: a folder called "Album(1)" stays the folder.
+        touch(dir.filePath("Album(1)/take.wav"));
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("Album(1)/take"), "wav"),
+                 dir.filePath("Album(1)/take(1).wav"));
+        // Names another writer of this program has claimed count as taken too.
+        const auto claimed = [&](const QString& p) { return p == dir.filePath("song(4).mp3"); };
+        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3", claimed),
+                 dir.filePath("song(5).mp3"));
+    }
+
+    void folderIsMadeSure() {
+        QTemporaryDir dir;
+        QVERIFY(!GlobalFun::makeSureFolderExists(QString()));
+        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
+        QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
+        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
+        touch(dir.filePath("plain"));
+        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain")));
+        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain/below")));
+    }
+
+    void scanIsDepthFirstAndSurvivesLinkLoops() {
+        QTemporaryDir dir;
+        for (const char* name : {"song.mp3", ".hidden.FLAC", "notes.txt", "mp3", "sub/clip.wav",
+                                 "sub/deeper/track.Mp3", ".Trash-1000/files/old.mp3", "._song.mp3"})
+            touch(dir.filePath(name));
+        QVERIFY(QFile::link(dir.filePath("song.mp3"), dir.filePath("alias.mp3")));
+        QVERIFY(QFile::link(dir.filePath("gone.mp3"), dir.filePath("dangling.mp3")));
+        // A link to an ancestor, to the folder itself and a second way into the same folder.
+        QVERIFY(QFile::link(dir.path(), dir.filePath("sub/deeper/up")));
+        QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("sub/self")));
+        QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("twin")));
+
+        // Hidden entries (a trash folder, resource forks) stay out; files come before folders;
+        // a file matching two filter entries comes once; depth first.
+        const QStringList found =
+            GlobalFun::fileListAtDirenctory(dir.path(), {"MP3", "flac", "mp3", "wav"});
+        QStringList relative;
+        for (const QString& path : found)
+            relative.append(QDir(dir.path()).relativeFilePath(path));
+        QCOMPARE(relative,
+                 (QStringList{"alias.mp3", "song.mp3", "sub/clip.wav", "sub/deeper/track.Mp3"}));
+        QVERIFY(GlobalFun::fileListAtDirenctory(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
+    }
+
+    // A folder lists as a file manager shows it: numbers by value, case aside.
+    void scanFollowsNaturalOrder() {
+        QTemporaryDir dir;
+        const QStringList names{"Track 1.flac",   "track 2.flac",   "Track 10.flac",
+                                "track 026.flac", "Track 227.flac", "track 356.flac"};
+        for (auto name = names.crbegin(); name != names.crend(); ++name)
+            touch(dir.filePath(*name));
+        QStringList found;
+        for (const QString& path : GlobalFun::fileListAtDirenctory(dir.path(), {"flac"}))
+            found.append(QFileInfo(path).fileName());
+        QCOMPARE(found, names);
+    }
+
+    void supportedFormatsFollowExperimentalSwitch() {
+        const QStringList all = GlobalFun::getSupportedFmts();
+
+        bool experimental = false;
+        GlobalFun::setExperimentalSwitch([&experimental] { return experimental; });
+        QStringList reduced = all;
+        for (const char* gated : {"vob", "m4v", "m4r"})
+            reduced.removeAll(gated);
+        QCOMPARE(reduced.size(), all.size() - 3);
+        QCOMPARE(GlobalFun::getSupportedFmts(), reduced);
+        experimental = true;
+        QCOMPARE(GlobalFun::getSupportedFmts(), all);
+        GlobalFun::setExperimentalSwitch({});
+        QCOMPARE(GlobalFun::getSupportedFmts(), all);
+    }
+};
+
+SONORIA_TEST_MAIN(GlobalFunTest)
+#include "tst_globalfun.moc"

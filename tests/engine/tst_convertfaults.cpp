@@ -1,0 +1,251 @@
+#include "ConvertTestSupport.h"
+
+#include "engine/ConvertOutputFile.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "support/LogCapture.h"
+#include "support/TestSupport.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QSet>
+#include <QTemporaryDir>
+#include <QThread>
+
+#include <csignal>
+#include <sys/mount.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+using namespace ConvertTest;
+
+namespace {
+
+// A small file system of its own for one test, unmounted again by the destructor. Mounting
+// needs privileges; where it is refused the test says so and works with what is left.
+class SmallMount {
+public:
+    SmallMount(const QString& where, const QByteArray& options)
+        : m_where(where) {
+        QDir().mkpath(where);
+        m_mounted = ::mount("tmpfs", QFile::encodeName(where).constData(), "tmpfs", 0,
+                            options.constData()) == 0;
+    }
+    ~SmallMount() {
+        if (m_mounted)
+            ::umount2(QFile::encodeName(m_where).constData(), MNT_DETACH);
+    }
+    bool mounted() const { return m_mounted; }
+
+private:
+    QString m_where;
+    bool m_mounted = false;
+};
+
+// A file-size limit with SIGXFSZ ignored, as a quota or a small volume makes writes fail:
+// the child inherits both, so its writes past the limit fail with EFBIG.
+class FileSizeLimit {
+public:
+    explicit FileSizeLimit(rlim_t bytes) {
+        ::getrlimit(RLIMIT_FSIZE, &m_saved);
+        m_handler = std::signal(SIGXFSZ, SIG_IGN);
+        rlimit limit = m_saved;
+        limit.rlim_cur = bytes;
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FileSizeLimit() {
+        ::setrlimit(RLIMIT_FSIZE, &m_saved);
+        std::signal(SIGXFSZ, m_handler);
+    }
+
+private:
+    rlimit m_saved{};
+    void (*m_handler)(int) = nullptr;
+};
+
+QStringList visibleAndHidden(const QString& folder) {
+    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
+}
+
+} // namespace
+
+class ConvertFaultsTest : public QObject {
+    Q_OBJECT
+    QTemporaryDir m_dir;
+
+private Q_SLOTS:
+    // Whatever goes wrong, the item ends failed with its reason, and the destination holds
+    // neither a final-named file nor a temporary one.
+    void brokenOutputsNeverCount_data() {
+        QTest::addColumn<QString>("fault");
+        QTest::addColumn<QString>("reason");
+        QTest::newRow("full file system") << u"full"_s << u"No space left on device"_s;
+        QTest::newRow("file size limit") << u"limit"_s << u"larger than"_s;
+        QTest::newRow("read-only file system") << u"readonly"_s << u"read-only"_s;
+        QTest::newRow("no room for the tags")
+            << u"tags"_s << u"tags could not be written|cannot be read back"_s;
+        QTest::newRow("title too long for WMA") << u"wma"_s << u"tags could not be written"_s;
+        QTest::newRow("FLAC without frames") << u"noframes"_s << u"no audio"_s;
+        QTest::newRow("one sample to MP2")
+            << u"onesample"_s << u"no audio|cannot be read back|shorter"_s;
+        QTest::newRow("shorter than the source") << u"short"_s << u"shorter than the source"_s;
+    }
+    void brokenOutputsNeverCount() {
+        QFETCH(QString, fault);
+        QFETCH(QString, reason);
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        QDir().mkpath(folder);
+        QString source = dir.filePath(u"in.wav"_s);
+        double seconds = 10.0;
+        QString codec = u"libmp3lame"_s, ext = u"mp3"_s;
+        std::unique_ptr<SmallMount> mount;
+        std::unique_ptr<FileSizeLimit> limit;
+        if (fault == "full"_L1 || fault == "readonly"_L1 || fault == "tags"_L1) {
+            const QByteArray options = fault == "readonly"_L1 ? "ro,size=1m"
+                                       : fault == "tags"_L1   ? "size=256k"
+                                                              : "size=64k";
+            mount = std::make_unique<SmallMount>(folder, options);
+            if (!mount->mounted())
+                QSKIP("mounting a tmpfs is not allowed here; the file size limit row covers it");
+        }
+        if (fault == "tags"_L1) {
+            // One second of MP3 fits; a cover of about a megabyte of noise does not.
+            seconds = 1.0;
+            source = dir.filePath(u"in.mp3"_s);
+            const QString cover = dir.filePath(u"cover.png"_s);
+            QVERIFY(SonoriaTest::makeMedia(cover, u"nullsrc=s=600x600,geq=random(1)*255:128:128"_s,
+                                           {u"-frames:v"_s, u"1"_s}));
+            QVERIFY(QFileInfo(cover).size() > 300 * 1024);
+            QVERIFY(SonoriaTest::makeTone(source, seconds,
+                                          {u"-i"_s, cover, u"-map"_s, u"0"_s, u"-map"_s, u"1"_s,
+                                           u"-c:v"_s, u"copy"_s, u"-disposition:v"_s,
+                                           u"attached_pic"_s}));
+        } else if (fault == "wma"_L1) {
+            seconds = 1.0;
+            QVERIFY(SonoriaTest::makeTone(source, seconds,
+                                          {u"-metadata"_s, u"title="_s + QString(40000, u'x')}));
+            codec = u"wmav2"_s;
+            ext = u"wma"_s;
+        } else if (fault == "noframes"_L1) {
+            seconds = 2.0;
+            source = dir.filePath(u"in.flac"_s);
+            QVERIFY(SonoriaTest::makeTone(source, seconds));
+            QVERIFY(SonoriaTest::cutFlacAfterMetadata(source));
+        } else if (fault == "onesample"_L1) {
+            seconds = 1.0 / 44100;
+            QVERIFY(SonoriaTest::makeMedia(source, u"sine=r=44100"_s,
+                                           {u"-frames:a"_s, u"1"_s, u"-ac"_s, u"1"_s}));
+            codec = u"mp2"_s;
+            ext = u"mp2"_s;
+        } else {
+            QVERIFY(SonoriaTest::makeTone(source, fault == "short"_L1 ? 1.0 : seconds));
+        }
+        if (fault == "limit"_L1)
+            limit = std::make_unique<FileSizeLimit>(48 * 1024);
+        const QByteArray sourceHash = SonoriaTest::fileHash(source);
+        // The record claims what the probe of the source said; "short" claims more.
+        auto item = makeItem(source, fault == "short"_L1 ? 5.0 : seconds, u"X"_s, codec, ext);
+        item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
+        Recorder recorder;
+        auto operation = convert(item, folder, &recorder);
+        limit.reset();
+
+        QCOMPARE(stateOf(item), int(CvtStateFailed));
+        const QString said = item->mediaInfo()->failReason();
+        QVERIFY2(
+            said.contains(QRegularExpression(reason, QRegularExpression::CaseInsensitiveOption)),
+            qPrintable(said));
+        QCOMPARE(visibleAndHidden(folder), QStringList());
+        QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
+        QCOMPARE(recorder.count(u"finish"_s), 1);
+    }
+
+    // While the child writes, the destination shows only the hidden temporary file; the final
+    // name appears once, whole, and the temporary file is gone.
+    void finalNameOnlyForWholeFiles() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        const QString source = dir.filePath(u"long.wav"_s);
+        QVERIFY(SonoriaTest::makeTone(source, 60.0));
+        auto item = makeItem(source, 60.0, u"FLAC"_s, u"flac"_s, u"flac"_s);
+        Recorder recorder;
+        SXOperationQueue queue;
+        auto operation = makeOperation(item, folder, &recorder);
+        QDir().mkpath(folder);
+        queue.addOperation(operation);
+        bool sawTemporary = false;
+        QSet<qint64> finalSizes; // every size the final name was seen with
+        while (queue.operationCount() > 0) {
+            for (const QString& name : visibleAndHidden(folder)) {
+                if (ConvertOutputFile::isTemporaryName(name))
+                    sawTemporary = true;
+                else
+                    finalSizes.insert(QFileInfo(folder + u'/' + name).size());
+            }
+            QThread::msleep(2);
+        }
+        queue.waitUntilAllOperationsAreFinished();
+        QVERIFY(sawTemporary);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QCOMPARE(visibleAndHidden(folder), QStringList{u"long.flac"_s});
+        // A rename shows the whole file at once: never a smaller one under the final name.
+        QVERIFY(finalSizes.size() <= 1);
+        for (const qint64 size : std::as_const(finalSizes))
+            QCOMPARE(size, QFileInfo(folder + u"/long.flac"_s).size());
+        QCOMPARE(operation->strOutFilePath(), folder + u"/long.flac"_s);
+        QVERIFY(item->mediaInfo()->failReason().isEmpty());
+    }
+
+    // An encoder killed from outside (the system's out-of-memory killer, a user's kill -9)
+    // fails its item with the reason, and its partial file goes.
+    void killedChildFailsWithItsReason() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        QDir().mkpath(folder);
+        // Ten minutes to MP3 take several seconds: time enough to kill it mid-way.
+        const QString source = dir.filePath(u"long.wav"_s);
+        QVERIFY(SonoriaTest::makeMedia(source, u"sine=d=600:r=8000"_s));
+        auto item = makeItem(source, 600.0);
+        Recorder recorder;
+        SXOperationQueue queue;
+        queue.addOperation(makeOperation(item, folder, &recorder));
+        QTRY_VERIFY_WITH_TIMEOUT(recorder.count(u"progress"_s) > 0, 30000);
+        QString children;
+        SonoriaTest::run(u"pgrep"_s, {u"-P"_s, QString::number(::getpid()), u"ffmpeg"_s},
+                         &children);
+        const QStringList pids = children.split(u'\n', Qt::SkipEmptyParts);
+        QCOMPARE(pids.size(), 1);
+        QCOMPARE(::kill(pids.first().toInt(), SIGKILL), 0);
+        queue.waitUntilAllOperationsAreFinished();
+        QCOMPARE(stateOf(item), int(CvtStateFailed));
+        QVERIFY2(item->mediaInfo()->failReason().contains(u"signal 9"_s),
+                 qPrintable(item->mediaInfo()->failReason()));
+        QCOMPARE(visibleAndHidden(folder), QStringList());
+    }
+
+    // A killed run's temporary file is removed by the next run into that folder; one whose
+    // writer still lives is left alone.
+    void leftoversOfDeadRunsGo() {
+        QTemporaryDir dir;
+        QString deadPid;
+        QCOMPARE(SonoriaTest::run(u"sh"_s, {u"-c"_s, u"echo $$"_s}, &deadPid), 0);
+        QProcess alive;
+        alive.start(u"sleep"_s, {u"30"_s});
+        QVERIFY(alive.waitForStarted());
+        const QString dead = u".sonoria-part-%1-7.mp3"_s.arg(deadPid.trimmed());
+        const QString live = u".sonoria-part-%1-0.mp3"_s.arg(alive.processId());
+        const QString own = u".sonoria-part-%1-3.mp3"_s.arg(::getpid());
+        for (const QString& name : {dead, live, own, u"song.mp3"_s, u".sonoria-partly.mp3"_s})
+            QVERIFY(SonoriaTest::writeFile(dir.filePath(name), "x"));
+        ConvertOutputFile::removeLeftovers(dir.path());
+        alive.kill();
+        alive.waitForFinished();
+        QStringList expected{own, live, u".sonoria-partly.mp3"_s, u"song.mp3"_s};
+        expected.sort();
+        QCOMPARE(visibleAndHidden(dir.path()), expected);
+    }
+};
+
+SONORIA_TEST_MAIN(ConvertFaultsTest)
+#include "tst_convertfaults.moc"

@@ -1,0 +1,207 @@
+#include "ConvertTestSupport.h"
+
+#include "engine/ConvertCommandLine.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "base/SXSettings.h"
+#include "support/LogCapture.h"
+#include "support/TestSupport.h"
+
+#include <QFile>
+#include <QSet>
+#include <QTemporaryDir>
+#include <unistd.h>
+
+using namespace ConvertTest;
+
+class ConvertOperationTest : public QObject {
+    Q_OBJECT
+    QTemporaryDir m_dir;
+    QString m_tone; // one-second WAV, copied wherever a test needs a source
+
+    QString copyTone(const QString& folder, const QString& name) {
+        QDir().mkpath(folder);
+        return QFile::copy(m_tone, folder + u'/' + name) ? folder + u'/' + name : QString();
+    }
+
+private Q_SLOTS:
+    void initTestCase() {
+        m_tone = m_dir.filePath(u"tone.wav"_s);
+        QVERIFY(SonoriaTest::makeTone(m_tone, 1.0));
+    }
+
+    // The source stays as it was; a library that cannot be reached fails quietly and the item
+    // still finishes; once finished, cancel and pause change nothing. (Tags: tst_tagcopymatrix.)
+    void finishedWithDelivery() {
+        SXSettings::setValue(SXSettingsKey::LibraryBackend, u"mpd"_s);
+        SXSettings::setValue(SXSettingsKey::MpdHost, u"127.0.0.1"_s);
+        SXSettings::setValue(SXSettingsKey::MpdPort, 1);
+        QTemporaryDir dir;
+        const QString source = dir.filePath(u"song.mp3"_s);
+        QVERIFY(SonoriaTest::makeTone(source, 3.0, {u"-metadata"_s, u"title=Night Drive"_s}));
+        const QByteArray sourceHash = SonoriaTest::fileHash(source);
+        auto item = makeItem(source, 3.0, u"AAC"_s, u"aac"_s, u"m4a"_s);
+        item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
+        item->setBIsSendingToLibrary(true);
+
+        LogCapture log;
+        Recorder recorder;
+        auto operation = convert(item, QString(), &recorder);
+        const QString expected = dir.filePath(u"song.m4a"_s);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QCOMPARE(operation->strOutFilePath(), expected);
+        QCOMPARE(item->mediaInfo()->dProgress(), 100.0);
+        QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
+        QCOMPARE(recorder.count(u"sync"_s), 1);
+        QVERIFY(log.contains(u"exit code:0"_s));
+        QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
+
+        operation->cancel();
+        operation->pause();
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QVERIFY(QFileInfo(expected).size() > 0);
+    }
+
+    void failuresLeaveNothingBehind_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("no audio stream") << u"video"_s;
+        QTest::newRow("unknown encoder") << u"encoder"_s;
+        QTest::newRow("unwritable output folder") << u"folder"_s;
+        QTest::newRow("no ffmpeg on the path") << u"path"_s;
+    }
+    void failuresLeaveNothingBehind() {
+        QFETCH(QString, kind);
+        QTemporaryDir dir;
+        QString folder = dir.filePath(u"out"_s);
+        QString source = copyTone(folder, u"in.wav"_s);
+        QString codec = u"libmp3lame"_s;
+        if (kind == "video"_L1) {
+            source = dir.filePath(u"in.mp4"_s);
+            QVERIFY(SonoriaTest::makeMedia(source, u"testsrc=duration=1:size=64x64"_s));
+        } else if (kind == "encoder"_L1) {
+            codec = u"no_such_encoder"_s;
+        } else if (kind == "folder"_L1 && ::geteuid() == 0) {
+            // Permissions do not stop root: a folder "inside" a regular file cannot be written.
+            QVERIFY(SonoriaTest::writeFile(dir.filePath(u"blocker"_s), ""));
+            folder = dir.filePath(u"blocker/out"_s);
+        } else if (kind == "folder"_L1) {
+            QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+        }
+        const QByteArray path = qgetenv("PATH");
+        if (kind == "path"_L1)
+            qputenv("PATH", dir.path().toLocal8Bit());
+        const QStringList before = entries(dir.path());
+        const QStringList beforeInFolder = entries(folder);
+        auto item = makeItem(source, 1.0, u"MP3"_s, codec);
+        LogCapture log;
+        Recorder recorder;
+        convert(item, folder, &recorder);
+        qputenv("PATH", path);
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+
+        QCOMPARE(stateOf(item), int(CvtStateFailed));
+        QCOMPARE(entries(dir.path()), before);
+        QCOMPARE(entries(folder), beforeInFolder);
+        QVERIFY(!log.contains(u"exit code:0"_s));
+        QVERIFY(!item->mediaInfo()->failReason().isEmpty());
+        if (kind == "path"_L1 || kind == "folder"_L1) {
+            // Nothing can come of a child here, so none is started.
+            QVERIFY(log.lines().filter(u"exit code:"_s).isEmpty());
+            QCOMPARE(recorder.events(), QStringList{u"finish"_s});
+        } else {
+            QCOMPARE(log.lines().filter(u"exit code:"_s).size(), 1);
+            QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
+        }
+    }
+
+    // Parallel runs into a folder where the plain and the first numbered name are taken: each
+    // run gets a name of its own and the existing files keep their contents.
+    void outputsAreNeverSharedNorReplaced() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        const QString source = copyTone(dir.path(), u"same.wav"_s);
+        const QStringList taken{u"same.mp3"_s, u"same(1).mp3"_s};
+        for (const QString& name : taken)
+            QVERIFY(SonoriaTest::writeFile(folder + u'/' + name, name.toUtf8()));
+        constexpr int kRuns = 4;
+        SXOperationQueue queue;
+        queue.setMaxConcurrentOperationCount(kRuns);
+        QList<ConvertOperationPtr> operations;
+        Recorder recorders[kRuns];
+        for (int i = 0; i < kRuns; ++i) {
+            operations.append(makeOperation(makeItem(source, 1.0), folder, &recorders[i]));
+            queue.addOperation(operations.last());
+        }
+        queue.waitUntilAllOperationsAreFinished();
+        QSet<QString> outputs;
+        for (int i = 0; i < kRuns; ++i) {
+            QCOMPARE(stateOf(operations[i]->musicToConvert()), int(CvtStateFinished));
+            QVERIFY(recorders[i].isWellFormed());
+            QVERIFY(QFileInfo(operations[i]->strOutFilePath()).size() > 0);
+            outputs.insert(QFileInfo(operations[i]->strOutFilePath()).fileName());
+        }
+        QCOMPARE(outputs,
+                 (QSet<QString>{"same(2).mp3", "same(3).mp3", "same(4).mp3", "same(5).mp3"}));
+        for (const QString& name : taken)
+            QCOMPARE(SonoriaTest::readFile(folder + u'/' + name), name.toUtf8());
+    }
+
+    void ringtoneMovesToFreeName() {
+        QTemporaryDir dir;
+        const QString folder = dir.filePath(u"out"_s);
+        const QString source = copyTone(dir.path(), u"song.wav"_s);
+        QVERIFY(SonoriaTest::writeFile(folder + u"/song.m4r"_s, "earlier"));
+        auto item = makeItem(source, 1.0, u"Ringtone"_s, u"aac"_s, u"m4r"_s);
+        LogCapture log;
+        Recorder recorder;
+        auto operation = convert(item, folder, &recorder);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        // Encoded as m4a first, then given its own extension under a free name.
+        QCOMPARE(log.lines().filter(u"args:"_s).filter(u".m4a\")"_s).size(), 1);
+        QCOMPARE(operation->strOutFilePath(), folder + u"/song(1).m4r"_s);
+        QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
+        QCOMPARE(entries(folder), (QStringList{u"song(1).m4r"_s, u"song.m4r"_s}));
+        QCOMPARE(SonoriaTest::readFile(folder + u"/song.m4r"_s), "earlier");
+    }
+
+    void awkwardNamesConvert_data() {
+        QTest::addColumn<QString>("name");
+        QTest::newRow("shell characters") << u"it's a \"test\" $HOME; rm -rf x & y.wav"_s;
+        QTest::newRow("leading dash") << u"-y.wav"_s;
+        QTest::newRow("non-ASCII") << u"Ünïcödé 音楽 ñ.wav"_s;
+        QTest::newRow("backslash and star") << u"a\\b*?[c].wav"_s;
+    }
+    void awkwardNamesConvert() {
+        QFETCH(QString, name);
+        QTemporaryDir dir;
+        const QString source = copyTone(dir.path(), name);
+        const QByteArray hash = SonoriaTest::fileHash(source);
+        Recorder recorder;
+        auto item = makeItem(source, 1.0);
+        auto operation = convert(item, QString(), &recorder);
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        QCOMPARE(operation->strOutFilePath(),
+                 dir.filePath(QFileInfo(name).completeBaseName() + u".mp3"_s));
+        QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
+        QCOMPARE(SonoriaTest::fileHash(source), hash);
+        QCOMPARE(entries(dir.path()).size(), 2);
+    }
+
+    // Above 192 kb/s the output is always stereo, whatever was asked.
+    void commandLineAndChannelRule() {
+        LSMedia media;
+        media.setFilePath(u"/music/-in.flac"_s);
+        media.setVOACodecName(u"libmp3lame"_s);
+        media.setDAOSamplerate(44100);
+        media.setDAOBitrate(192.0);
+        media.setIAOChannels(1);
+        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
+                 (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
+                              "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));
+        media.setDAOBitrate(192.01);
+        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s).mid(9, 3),
+                 (QStringList{"192.01k", "-ac", "2"}));
+    }
+};
+
+SONORIA_TEST_MAIN(ConvertOperationTest)
+#include "tst_convertoperation.moc"

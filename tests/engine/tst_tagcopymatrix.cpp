@@ -1,0 +1,406 @@
+#include "ConvertTestSupport.h"
+
+#include "framework/MTEAudioFileMgr.h"
+#include "support/TestSupport.h"
+
+#include <QMultiMap>
+#include <QTemporaryDir>
+#include <array>
+#include <span>
+
+#include <taglib/attachedpictureframe.h>
+#include <taglib/commentsframe.h>
+#include <taglib/flacfile.h>
+#include <taglib/flacpicture.h>
+#include <taglib/id3v2tag.h>
+#include <taglib/mp4file.h>
+#include <taglib/mp4tag.h>
+#include <taglib/mpegfile.h>
+#include <taglib/opusfile.h>
+#include <taglib/textidentificationframe.h>
+#include <taglib/tpropertymap.h>
+#include <taglib/unsynchronizedlyricsframe.h>
+#include <taglib/vorbisfile.h>
+#include <taglib/wavfile.h>
+#include <taglib/xiphcomment.h>
+
+// Every source kind converted to every output kind: the output's tags, read back field by field
+// with TagLib at the level of the kind's own frames, atoms and comments (so a field written
+// twice shows), must be the source's fields, each once with the source's value, and nothing
+// else but the encoder's name.
+using namespace ConvertTest;
+
+namespace {
+
+QString text(const TagLib::String& value) {
+    return QString::fromStdString(value.to8Bit(true));
+}
+TagLib::String tstring(const QString& value) {
+    return TagLib::String(value.toStdString(), TagLib::String::UTF8);
+}
+TagLib::ByteVector bytes(const QByteArray& data) {
+    return TagLib::ByteVector(data.constData(), unsigned(data.size()));
+}
+QByteArray qbytes(const TagLib::ByteVector& data) {
+    return QByteArray(data.data(), qsizetype(data.size()));
+}
+
+// The output families: ID3v2 frames, MP4 atoms, Xiph comments.
+enum Family { ID3v2, MP4, Xiph };
+
+// One field of the source: the property a tagger writes, and where each family keeps it.
+struct Field {
+    const char* property;
+    std::array<const char*, 3> keys; // by Family
+    const char* value;
+};
+const Field kFields[] = {
+    {"TITLE", {"TIT2", "©nam", "TITLE"}, "Título — 東京"},
+    {"ARTIST", {"TPE1", "©ART", "ARTIST"}, "The Artist"},
+    {"ALBUM", {"TALB", "©alb", "ALBUM"}, "The Album"},
+    {"ALBUMARTIST", {"TPE2", "aART", "ALBUMARTIST"}, "Various Artists"},
+    {"COMPOSER", {"TCOM", "©wrt", "COMPOSER"}, "Composer Ö"},
+    {"DATE", {"TDRC", "©day", "DATE"}, "2021"},
+    {"GENRE", {"TCON", "©gen", "GENRE"}, "Jazz"},
+    {"TRACKNUMBER", {"TRCK", "trkn", "TRACKNUMBER"}, "3/12"},
+    {"DISCNUMBER", {"TPOS", "disk", "DISCNUMBER"}, "1/2"},
+    {"COPYRIGHT", {"TCOP", "cprt", "COPYRIGHT"}, "2021 Someone"},
+    {"LABEL", {"TPUB", "----:com.apple.iTunes:PUBLISHER", "PUBLISHER"}, "Label Records"},
+    {"COMMENT", {"COMM", "©cmt", "COMMENT"}, "a comment"},
+    {"LYRICS", {"USLT", "©lyr", "LYRICS"}, "La la la\nsecond line ♪"},
+    {"MUSICBRAINZ_ALBUMID",
+     {"TXXX:MusicBrainz Album Id", "----:com.apple.iTunes:MusicBrainz Album Id",
+      "MUSICBRAINZ_ALBUMID"},
+     "9e6ef6b1-5f7c-4d4b-8a3e-2f1c0b3a9d11"},
+    {"REPLAYGAIN_TRACK_GAIN",
+     {"TXXX:REPLAYGAIN_TRACK_GAIN", "----:com.apple.iTunes:replaygain_track_gain",
+      "REPLAYGAIN_TRACK_GAIN"},
+     "-6.50 dB"},
+};
+// A field no player knows: it stays with the source.
+const char* const kPrivateField = "PRIVATEFIELD";
+
+// The encoder's name, which ffmpeg writes and which may stay, by Family.
+const std::array<const char*, 3> kEncoderKeys{"TSSE", "©too", "ENCODER"};
+
+Family familyOfExtension(const QString& extension) {
+    if (extension == "mp3"_L1)
+        return ID3v2;
+    if (extension == "m4a"_L1 || extension == "m4r"_L1)
+        return MP4;
+    return Xiph;
+}
+
+// What an output carries: one entry per value of every native field, and the pictures.
+struct NativeTags {
+    QMultiMap<QString, QString> fields;
+    QList<QByteArray> pictures;
+};
+
+void readID3v2(const TagLib::ID3v2::Tag& tag, NativeTags* out) {
+    for (TagLib::ID3v2::Frame* frame : tag.frameList()) {
+        const QString id = QString::fromLatin1(frame->frameID().data(), 4);
+        if (auto* picture = dynamic_cast<TagLib::ID3v2::AttachedPictureFrame*>(frame)) {
+            out->pictures.append(qbytes(picture->picture()));
+        } else if (auto* user = dynamic_cast<TagLib::ID3v2::UserTextIdentificationFrame*>(frame)) {
+            const TagLib::StringList values = user->fieldList();
+            for (unsigned i = 1; i < values.size(); ++i) // the first is the description
+                out->fields.insert(id + u':' + text(user->description()), text(values[i]));
+        } else if (auto* textFrame = dynamic_cast<TagLib::ID3v2::TextIdentificationFrame*>(frame)) {
+            for (const TagLib::String& value : textFrame->fieldList())
+                out->fields.insert(id, text(value));
+        } else if (auto* comment = dynamic_cast<TagLib::ID3v2::CommentsFrame*>(frame)) {
+            out->fields.insert(id, text(comment->text()));
+        } else if (auto* lyrics = dynamic_cast<TagLib::ID3v2::UnsynchronizedLyricsFrame*>(frame)) {
+            out->fields.insert(id, text(lyrics->text()));
+        } else {
+            out->fields.insert(id, text(frame->toString()));
+        }
+    }
+}
+
+void readMP4(const TagLib::MP4::Tag& tag, NativeTags* out) {
+    for (const auto& [key, item] : tag.itemMap()) {
+        const QString name = text(key);
+        if (name == "covr"_L1) {
+            for (const TagLib::MP4::CoverArt& cover : item.toCoverArtList())
+                out->pictures.append(qbytes(cover.data()));
+        } else if (name == "trkn"_L1 || name == "disk"_L1) {
+            out->fields.insert(name,
+                               u"%1/%2"_s.arg(item.toIntPair().first).arg(item.toIntPair().second));
+        } else {
+            for (const TagLib::String& value : item.toStringList())
+                out->fields.insert(name, text(value));
+        }
+    }
+}
+
+void readXiph(TagLib::Ogg::XiphComment& comment, NativeTags* out) {
+    for (const auto& [name, values] : comment.fieldListMap()) {
+        for (const TagLib::String& value : values)
+            out->fields.insert(text(name), text(value));
+    }
+    for (const TagLib::FLAC::Picture* picture : comment.pictureList())
+        out->pictures.append(qbytes(picture->data()));
+}
+
+NativeTags readNative(const QString& path) {
+    NativeTags out;
+    const QByteArray name = QFile::encodeName(path);
+    const QString extension = QFileInfo(path).suffix();
+    if (extension == "mp3"_L1) {
+        TagLib::MPEG::File file(name.constData());
+        if (file.hasID3v1Tag() || file.hasAPETag())
+            out.fields.insert(u"another tag"_s, path);
+        if (file.hasID3v2Tag())
+            readID3v2(*file.ID3v2Tag(), &out);
+    } else if (familyOfExtension(extension) == MP4) {
+        TagLib::MP4::File file(name.constData());
+        readMP4(*file.tag(), &out);
+    } else if (extension == "flac"_L1) {
+        TagLib::FLAC::File file(name.constData());
+        if (file.hasID3v1Tag() || file.hasID3v2Tag())
+            out.fields.insert(u"another tag"_s, path);
+        readXiph(*file.xiphComment(true), &out);
+        for (const TagLib::FLAC::Picture* picture : file.pictureList())
+            out.pictures.append(qbytes(picture->data()));
+    } else if (extension == "ogg"_L1) {
+        TagLib::Ogg::Vorbis::File file(name.constData());
+        readXiph(*file.tag(), &out);
+    } else {
+        TagLib::Ogg::Opus::File file(name.constData());
+        readXiph(*file.tag(), &out);
+    }
+    return out;
+}
+
+// Tags a source the way taggers do: TagLib's property names, the picture in the kind's own
+// picture field.
+TagLib::PropertyMap sourceProperties() {
+    TagLib::PropertyMap properties;
+    for (const Field& field : kFields)
+        properties.replace(field.property, tstring(QString::fromUtf8(field.value)));
+    properties.replace(kPrivateField, TagLib::String("only the source knows"));
+    return properties;
+}
+
+TagLib::ID3v2::AttachedPictureFrame* id3v2Picture(const QByteArray& cover) {
+    auto* frame = new TagLib::ID3v2::AttachedPictureFrame;
+    frame->setType(TagLib::ID3v2::AttachedPictureFrame::FrontCover);
+    frame->setMimeType("image/png");
+    frame->setPicture(bytes(cover));
+    return frame;
+}
+
+TagLib::FLAC::Picture* xiphPicture(const QByteArray& cover) {
+    auto* picture = new TagLib::FLAC::Picture;
+    picture->setType(TagLib::FLAC::Picture::FrontCover);
+    picture->setMimeType("image/png");
+    picture->setData(bytes(cover));
+    return picture;
+}
+
+bool tagSource(const QString& path, const QString& kind, const QByteArray& cover) {
+    const QByteArray name = QFile::encodeName(path);
+    if (kind.startsWith("MP3"_L1)) {
+        TagLib::MPEG::File file(name.constData());
+        file.ID3v2Tag(true)->setProperties(sourceProperties());
+        file.ID3v2Tag()->addFrame(id3v2Picture(cover));
+        const auto version = kind.endsWith("2.4"_L1) ? TagLib::ID3v2::v4 : TagLib::ID3v2::v3;
+        return file.save(TagLib::MPEG::File::ID3v2, TagLib::File::StripOthers, version);
+    }
+    if (kind == "WAV"_L1) {
+        TagLib::RIFF::WAV::File file(name.constData());
+        file.ID3v2Tag()->setProperties(sourceProperties());
+        file.ID3v2Tag()->addFrame(id3v2Picture(cover));
+        return file.save(TagLib::RIFF::WAV::File::ID3v2, TagLib::File::StripNone);
+    }
+    if (kind == "M4A"_L1) {
+        TagLib::MP4::File file(name.constData());
+        // MP4 has no atom for the rest: free-form items, named as other taggers name them.
+        for (const auto& [key, values] : file.tag()->setProperties(sourceProperties()))
+            file.tag()->setItem("----:com.apple.iTunes:" + tstring(text(key).toLower()),
+                                TagLib::MP4::Item(values));
+        file.tag()->setItem("covr", TagLib::MP4::CoverArtList().append(TagLib::MP4::CoverArt(
+                                        TagLib::MP4::CoverArt::PNG, bytes(cover))));
+        return file.save();
+    }
+    if (kind == "FLAC"_L1) {
+        TagLib::FLAC::File file(name.constData());
+        file.xiphComment(true)->setProperties(sourceProperties());
+        file.addPicture(xiphPicture(cover));
+        return file.save();
+    }
+    if (kind == "Ogg Vorbis"_L1) {
+        TagLib::Ogg::Vorbis::File file(name.constData());
+        file.tag()->setProperties(sourceProperties());
+        file.tag()->addPicture(xiphPicture(cover));
+        return file.save();
+    }
+    return kind == "M4A without tags"_L1;
+}
+
+// What the output of a row must carry: the source's fields, none (a source without tags), or
+// the source's fields as the tag editor left them.
+enum class Content { Tagged, Untagged, Edited };
+
+struct SourceKind {
+    const char* name;
+    const char* extension;
+    const char* codec;
+};
+const SourceKind kSources[] = {
+    {"MP3 ID3v2.3", "mp3", "libmp3lame"},
+    {"MP3 ID3v2.4", "mp3", "libmp3lame"},
+    {"FLAC", "flac", "flac"},
+    {"M4A", "m4a", "aac"},
+    {"Ogg Vorbis", "ogg", "libvorbis"},
+    {"WAV", "wav", "pcm_s16le"},
+    {"M4A without tags", "m4a", "aac"},
+};
+
+struct OutputKind {
+    const char* format;
+    const char* codec;
+    const char* extension;
+    double sampleRate;
+};
+const OutputKind kOutputs[] = {
+    {"MP3", "libmp3lame", "mp3", 44100},       {"AAC", "aac", "m4a", 44100},
+    {"Ringtone", "aac", "m4r", 44100},         {"FLAC", "flac", "flac", 44100},
+    {"Ogg Vorbis", "libvorbis", "ogg", 44100}, {"Opus", "libopus", "opus", 48000},
+    {"Apple Lossless", "alac", "m4a", 44100},
+};
+
+Content contentOf(const SourceKind& source) {
+    return QByteArray(source.name).endsWith("without tags") ? Content::Untagged : Content::Tagged;
+}
+
+const char* const kEditedTitle = "Edited ✓";
+
+QString row(const SourceKind& source, const OutputKind& output, Content content) {
+    return QString::fromUtf8(source.name) +
+           (content == Content::Edited ? u" edited"_s : QString()) + u" to "_s +
+           QString::fromUtf8(output.format);
+}
+
+// "key=value" per value, sorted, so a failed comparison names the first field that differs.
+QStringList lines(const QMultiMap<QString, QString>& fields) {
+    QStringList result;
+    for (auto it = fields.cbegin(); it != fields.cend(); ++it)
+        result.append(it.key() + u'=' + it.value());
+    result.sort();
+    return result;
+}
+
+QString difference(const QStringList& actual, const QStringList& expected) {
+    QStringList extra = actual;
+    QStringList missing = expected;
+    for (const QString& line : expected)
+        extra.removeOne(line);
+    for (const QString& line : actual)
+        missing.removeOne(line);
+    return u"extra: "_s + extra.join(u" | "_s) + u"; missing: "_s + missing.join(u" | "_s);
+}
+
+QStringList expectedLines(Family family, Content content) {
+    QMultiMap<QString, QString> fields;
+    for (const Field& field : content == Content::Untagged ? std::span<const Field>()
+                                                           : std::span<const Field>(kFields)) {
+        const QByteArray property(field.property);
+        if (content == Content::Edited && property == "LYRICS")
+            continue;
+        const char* value =
+            content == Content::Edited && property == "TITLE" ? kEditedTitle : field.value;
+        fields.insert(QString::fromUtf8(field.keys[family]), QString::fromUtf8(value));
+    }
+    return lines(fields);
+}
+
+} // namespace
+
+Q_DECLARE_METATYPE(Content)
+
+class TagCopyMatrixTest : public QObject {
+    Q_OBJECT
+    QTemporaryDir m_dir;
+    QByteArray m_cover;
+    SXOperationQueue m_queue;
+    QMap<QString, ConvertOperationPtr> m_runs; // by row name
+
+    void start(const QString& source, const SourceKind& sourceKind, const OutputKind& output,
+               Content content) {
+        auto item = makeItem(source, 1.0, output.format, output.codec, output.extension);
+        item->mediaInfo()->setDAOSamplerate(output.sampleRate);
+        const auto handle = MTEAudioFileMgr::createAudioFileWithPath(source, true);
+        if (handle && content == Content::Edited) {
+            handle->setTitle(QString::fromUtf8(kEditedTitle));
+            handle->setLyric(QString());
+            handle->setAlbumImg({});
+        }
+        item->setMetHandler(handle);
+        const QString name = row(sourceKind, output, content);
+        const QString folder = m_dir.filePath(u"out/"_s + name);
+        QDir().mkpath(folder);
+        auto operation = makeOperation(item, folder, nullptr);
+        m_runs.insert(name, operation);
+        m_queue.addOperation(operation);
+    }
+
+private Q_SLOTS:
+    // All conversions at once, on one queue, as a run of the workspace would start them.
+    void initTestCase() {
+        QVERIFY(m_dir.isValid());
+        const QString cover = m_dir.filePath(u"cover.png"_s);
+        QVERIFY(SonoriaTest::makeMedia(cover, u"color=c=red:s=16x16"_s, {u"-frames:v"_s, u"1"_s}));
+        m_cover = SonoriaTest::readFile(cover);
+        m_queue.setMaxConcurrentOperationCount(4);
+        for (const SourceKind& kind : kSources) {
+            const QString name = QString::fromUtf8(kind.name);
+            const QString source =
+                m_dir.filePath(name + u"/song."_s + QString::fromUtf8(kind.extension));
+            QVERIFY(QDir().mkpath(QFileInfo(source).path()));
+            QVERIFY(SonoriaTest::makeTone(source, 1.0, {u"-c:a"_s, kind.codec}));
+            QVERIFY2(tagSource(source, name, m_cover), kind.name);
+            for (const OutputKind& output : kOutputs)
+                start(source, kind, output, contentOf(kind));
+            if (&kind == &kSources[0])
+                start(source, kind, kOutputs[4], Content::Edited);
+        }
+        m_queue.waitUntilAllOperationsAreFinished();
+    }
+
+    void outputCarriesTheSourceFieldsOnce_data() {
+        QTest::addColumn<QString>("row");
+        QTest::addColumn<Content>("content");
+        for (const SourceKind& source : kSources) {
+            for (const OutputKind& output : kOutputs) {
+                const Content content = contentOf(source);
+                QTest::newRow(qPrintable(row(source, output, content)))
+                    << row(source, output, content) << content;
+            }
+        }
+        const QString edited = row(kSources[0], kOutputs[4], Content::Edited);
+        QTest::newRow(qPrintable(edited)) << edited << Content::Edited;
+    }
+    void outputCarriesTheSourceFieldsOnce() {
+        QFETCH(QString, row);
+        QFETCH(Content, content);
+        const ConvertOperationPtr operation = m_runs.value(row);
+        QVERIFY(operation);
+        QCOMPARE(stateOf(operation->musicToConvert()), int(CvtStateFinished));
+        const QString output = operation->strOutFilePath();
+        const Family family = familyOfExtension(QFileInfo(output).suffix());
+        NativeTags tags = readNative(output);
+        QVERIFY(tags.fields.count(QString::fromUtf8(kEncoderKeys[family])) <= 1);
+        tags.fields.remove(QString::fromUtf8(kEncoderKeys[family]));
+        const QStringList actual = lines(tags.fields);
+        const QStringList expected = expectedLines(family, content);
+        QVERIFY2(actual == expected, qPrintable(difference(actual, expected)));
+        QCOMPARE(tags.pictures,
+                 content == Content::Tagged ? QList<QByteArray>{m_cover} : QList<QByteArray>());
+    }
+};
+
+SONORIA_TEST_MAIN(TagCopyMatrixTest)
+#include "tst_tagcopymatrix.moc"

@@ -1,0 +1,355 @@
+#include "online/SXPreferences.h"
+#include "base/SXFileLocalManager.h"
+#include "gui/application/SXDesktopApp.h"
+#include "gui/application/SXMenuHandler.h"
+#include "gui/dialogs/SXFormatChooserDialog.h"
+#include "gui/dialogs/SXMetadataEditDialog.h"
+#include "gui/dialogs/SXOutputFolderDialog.h"
+#include "gui/dialogs/SXPreferencesDialog.h"
+#include "gui/window/SXContainerTabBar.h"
+#include "gui/window/SXMainAppController.h"
+#include "gui/window/SXWindowPresenter.h"
+#include "model/SXDataEngine.h"
+#include "base/SXBundle.h"
+#include "base/SXSettings.h"
+#include "workspace/SXWorkspace.h"
+#include "support/LogCapture.h"
+#include "support/TemporaryHome.h"
+#include "support/gui/GuiTestSupport.h"
+
+#include <QAction>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QListView>
+#include <QMenu>
+#include <QMenuBar>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QRegularExpression>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTimer>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+using namespace SonoriaGuiTest;
+
+// The application shell driven as a user would: start-up in an empty settings store, the
+// question before the last window closes, reviving the window, and the menus following the
+// state of the window they act on.
+class TestDesktopApp : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void init();
+    void cleanup();
+    void startUpFillsTheDefaultsAndCreatesNoFolder();
+    void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers();
+    void newContainerRevivesThePrimaryWindowEmpty();
+    void menusFollowTheStateAndNeverBeepWhenOpening();
+    void menuCommandsReachTheKeyWindow();
+    void containerKeysCycleTheTabs_data();
+    void containerKeysCycleTheTabs();
+    void everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey();
+
+private:
+    // Adds a real two-second tone to the primary window and waits until it is listed.
+    void addTone(const QString& name);
+    QAction* action(SXCommand command) const { return m_app->menus().action(command); }
+    SXMainAppController& window() const { return *m_app->coreWindow(); }
+
+    QTemporaryDir m_media;
+    std::unique_ptr<SXDesktopApp> m_app;
+};
+
+void TestDesktopApp::init() {
+    for (const QString& key :
+         {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat, SXSettingsKey::libraryPlaylistName})
+        SXSettings::removeKey(key);
+    m_app = std::make_unique<SXDesktopApp>();
+    m_app->start({}, false);
+    window().activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&window()));
+}
+
+void TestDesktopApp::cleanup() {
+    m_app.reset();
+    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+}
+
+void TestDesktopApp::addTone(const QString& name) {
+    const QString path = m_media.filePath(name);
+    QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
+    SXWorkspace& ws = window().workspace();
+    const int before = ws.currentTabItemCount();
+    ws.loadAndParseFiles({path});
+    QCOMPARE(ws.enumAppState(), int(AppStateLoading));
+    // The count grows on the loader's thread; the window hears of it when the run is over.
+    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
+    QCOMPARE(ws.currentTabItemCount(), before + 1);
+}
+
+void TestDesktopApp::startUpFillsTheDefaultsAndCreatesNoFolder() {
+    QVERIFY(window().isVisible());
+    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+             QStringLiteral("Sonoria"));
+    // Starting creates no folder of the user's: output folders appear when a run writes.
+    const QString home = SonoriaTest::temporaryHome().processHome();
+    QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
+    QVERIFY(!QFileInfo::exists(SXFileLocalManager::getDefaultUpperOutputDir()));
+    QVERIFY(window().workspace().isRegistered());
+    QVERIFY(window().workspace().tabLabels().size() >= 1);
+
+    // A stored choice survives the next start-up: defaults only fill what is missing.
+    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+    m_app.reset();
+    m_app = std::make_unique<SXDesktopApp>();
+    m_app->start({}, false);
+    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 2);
+}
+
+void TestDesktopApp::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
+    addTone(QStringLiteral("kept.wav"));
+    QSignalSpy closing(&window().workspace(), &SXWorkspace::lastWorkspaceClosing);
+
+    window().close();
+    QMessageBox* question = openDialog<QMessageBox>(&window());
+    QVERIFY(question);
+    QCOMPARE(
+        messageTexts(question),
+        (QStringList{QStringLiteral("Warnning"),
+                     QStringLiteral("Do you want to close all window without save information?"),
+                     QStringLiteral("Cancel"), QStringLiteral("OK")}));
+    grab(question, QStringLiteral("alert-last-window"));
+    QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
+    QTRY_VERIFY(!question->isVisible());
+    QVERIFY(window().isVisible());
+    QCOMPARE(window().workspace().currentTabItemCount(), 1);
+    QCOMPARE(closing.count(), 0);
+
+    window().close();
+    question = openDialog<QMessageBox>(&window());
+    QVERIFY(question);
+    QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+    QTRY_VERIFY(!window().isVisible());
+    QCOMPARE(closing.count(), 1);
+    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
+    QVERIFY(!window().workspace().isRegistered());
+}
+
+void TestDesktopApp::newContainerRevivesThePrimaryWindowEmpty() {
+    // An empty window closes without asking.
+    window().close();
+    QTRY_VERIFY(!window().isVisible());
+    QVERIFY(action(SXCommand::NewContainer)->isEnabled());
+    QVERIFY(!action(SXCommand::Open)->isEnabled());
+    QVERIFY(!action(SXCommand::NewFormat)->isEnabled());
+
+    SXMainAppController* before = &window();
+    action(SXCommand::NewContainer)->trigger();
+    QCOMPARE(&window(), before); // the same window, never a second primary one
+    QVERIFY(window().isVisible());
+    QVERIFY(window().workspace().isRegistered());
+    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
+    QVERIFY(!window().workspace().tabLabels().isEmpty());
+    QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
+    QVERIFY(action(SXCommand::Open)->isEnabled());
+
+    // The revived window takes files again.
+    addTone(QStringLiteral("after.wav"));
+}
+
+void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
+    SXWorkspace& ws = window().workspace();
+    QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
+
+    // Empty fixed container: nothing to delete or start, the close item refused.
+    QVERIFY(!action(SXCommand::Delete)->isEnabled());
+    QVERIFY(!action(SXCommand::Start)->isEnabled());
+    QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
+    QCOMPARE(beeps.count(), 0);
+
+    addTone(QStringLiteral("menu.wav"));
+    QVERIFY(action(SXCommand::Delete)->isEnabled());
+    QVERIFY(action(SXCommand::Start)->isEnabled());
+
+    // A run leaves only Stop among the window's items; shortcuts obey the same rule.
+    ws.setAppState(AppStateConverting);
+    for (SXCommand command : {SXCommand::Open, SXCommand::Delete, SXCommand::Start,
+                              SXCommand::NewFormat, SXCommand::Preferences})
+        QVERIFY2(!action(command)->isEnabled(), qPrintable(action(command)->text()));
+    QVERIFY(action(SXCommand::Stop)->isEnabled());
+    QVERIFY(action(SXCommand::Quit)->isEnabled());
+    ws.setAppState(AppStateIdle);
+    QVERIFY(action(SXCommand::Open)->isEnabled());
+    QCOMPARE(beeps.count(), 0);
+
+    // Opening a menu validates again, silently, though the fixed container's close item is off.
+    QMenu* fileMenu = window().menuBar()->actions().first()->menu();
+    QVERIFY(fileMenu);
+    fileMenu->popup(window().mapToGlobal(QPoint(10, 10)));
+    QTRY_VERIFY(fileMenu->isVisible());
+    grab(fileMenu, QStringLiteral("menu-file"));
+    QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
+    fileMenu->close();
+    QCOMPARE(beeps.count(), 0);
+}
+
+void TestDesktopApp::menuCommandsReachTheKeyWindow() {
+    SXWorkspace& ws = window().workspace();
+    const int tabs = ws.tabLabels().size();
+    ws.moveTabSelectedTo(-1);
+    const int selected = ws.selectedTabIndex();
+    action(SXCommand::PreviousContainer)->trigger();
+    QCOMPARE(ws.selectedTabIndex(), (selected - 1 + tabs) % tabs);
+
+    // Help opens the page staged with the resources (installed alike), made from the README.
+    {
+        LogCapture log;
+        action(SXCommand::Help)->trigger();
+        const QStringList opened = log.lines().filter(
+            QRegularExpression(u"^open file:///.*/share/sonoria/help\\.html$"_s));
+        QCOMPARE(opened.size(), 1);
+        QFile page(QUrl(opened.first().mid(5)).toLocalFile());
+        QVERIFY(page.open(QIODevice::ReadOnly));
+        const QByteArray html = page.readAll();
+        QVERIFY(html.contains("<h1>Using Sonoria</h1>") &&
+                html.contains("<li><strong>Containers.</strong>"));
+        QVERIFY(window().isVisible());
+    }
+
+    // About names the libraries this process loaded: ffprobe loads the same FFmpeg libraries.
+    QString probe;
+    QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
+    QStringList expected{SXBundle::shortVersionString(), u"Qt "_s + QString::fromLatin1(qVersion()),
+                         u"GNU General Public License"_s, u"TagLib 1."_s};
+    expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
+    for (const char* library : {"libavformat", "libavcodec"}) {
+        const QRegularExpressionMatch version =
+            QRegularExpression(QString::fromLatin1(library) + u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s)
+                .match(probe);
+        QVERIFY2(version.hasMatch(), library);
+        expected << QString::fromLatin1(library) + u" %1.%2.%3"_s.arg(version.captured(1),
+                                                                      version.captured(2),
+                                                                      version.captured(3));
+    }
+    QString aboutText;
+    QTimer closer; // the box runs its own loop: look for it from inside that loop
+    closer.setInterval(20);
+    connect(&closer, &QTimer::timeout, this, [&aboutText, &closer] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            aboutText = box->windowTitle() + u'\n' + box->text();
+            closer.stop();
+            box->accept();
+        }
+    });
+    closer.start();
+    action(SXCommand::About)->trigger(); // returns when the box is closed
+    QVERIFY(aboutText.startsWith(u"About Sonoria\n"_s));
+    for (const QString& part : std::as_const(expected))
+        QVERIFY2(aboutText.contains(part), qPrintable(part + u" in "_s + aboutText));
+
+    action(SXCommand::Preferences)->trigger();
+    QTRY_VERIFY(m_app->preferencesDialog() && m_app->preferencesDialog()->isVisible());
+}
+
+void TestDesktopApp::containerKeysCycleTheTabs_data() {
+    QTest::addColumn<int>("key");
+    QTest::addColumn<int>("modifiers");
+    QTest::addColumn<int>("step");
+    const int ctrl = int(Qt::ControlModifier);
+    const int ctrlShift = int(Qt::ControlModifier | Qt::ShiftModifier);
+    QTest::newRow("Ctrl+Tab") << int(Qt::Key_Tab) << ctrl << 1;
+    QTest::newRow("Ctrl+Shift+Tab") << int(Qt::Key_Tab) << ctrlShift << -1;
+    QTest::newRow("Ctrl+Shift+Backtab") << int(Qt::Key_Backtab) << ctrlShift << -1;
+    QTest::newRow("Ctrl+Page Down") << int(Qt::Key_PageDown) << ctrl << 1;
+    QTest::newRow("Ctrl+Page Up") << int(Qt::Key_PageUp) << ctrl << -1;
+}
+
+void TestDesktopApp::containerKeysCycleTheTabs() {
+    QFETCH(int, key);
+    QFETCH(int, modifiers);
+    QFETCH(int, step);
+    SXWorkspace& ws = window().workspace();
+    const int tabs = ws.tabLabels().size();
+    QVERIFY(tabs > 2);
+    // From the list, which has the focus in normal use and takes Tab and Page keys itself.
+    auto* list = window().findChild<QListView*>(QStringLiteral("itemList"));
+    list->setFocus();
+    int expected = step > 0 ? 0 : tabs - 1;
+    ws.selectTab(expected);
+    QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
+    for (int i = 1; i < tabs; ++i) { // from one end to the other
+        QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        expected += step;
+        QCOMPARE(ws.selectedTabIndex(), expected);
+        QCOMPARE(window().tabBar().currentIndex(), expected);
+    }
+    QCOMPARE(beeps.count(), 0);
+    // Past the end the command is refused, aloud.
+    QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+    QCOMPARE(ws.selectedTabIndex(), expected);
+    QCOMPARE(beeps.count(), 1);
+}
+
+void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
+    const auto noClash = [](QWidget* root) {
+        const QStringList clashes = mnemonicClashes(root);
+        QVERIFY2(clashes.isEmpty(), qPrintable(root->objectName() + QStringLiteral(": ") +
+                                               clashes.join(QStringLiteral("; "))));
+    };
+    addTone(QStringLiteral("keys.wav"));
+    SXWorkspace& ws = window().workspace();
+    ws.setSelectedRows({0});
+    // The window with its information panel open, then each dialog it opens by key.
+    QTest::keyClick(&window(), Qt::Key_I, Qt::ControlModifier);
+    noClash(&window());
+    grab(&window(), QStringLiteral("window-keys"));
+    QTest::keyClick(&window(), Qt::Key_E, Qt::ControlModifier);
+    auto* editor = openDialog<SXMetadataEditDialog>(&window());
+    QVERIFY(editor);
+    noClash(editor);
+    editor->reject();
+    QTest::keyClick(&window(), Qt::Key_T, Qt::ControlModifier);
+    auto* chooser = openDialog<SXFormatChooserDialog>(&window());
+    QVERIFY(chooser);
+    noClash(chooser);
+    chooser->reject();
+    QTest::keyClick(&window(), Qt::Key_Return, Qt::ControlModifier);
+    auto* folder = openDialog<SXOutputFolderDialog>(&window());
+    QVERIFY(folder);
+    noClash(folder);
+    folder->reject();
+    QTRY_COMPARE(ws.enumAppState(), int(AppStateIdle));
+
+    // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.
+    const auto openPreferences = [this] {
+        window().activateWindow();
+        if (!QTest::qWaitForWindowActive(&window()))
+            return static_cast<SXPreferencesDialog*>(nullptr);
+        QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
+        SXPreferencesDialog* preferences = m_app->preferencesDialog();
+        return preferences && QTest::qWaitForWindowActive(preferences) ? preferences : nullptr;
+    };
+    SXPreferencesDialog* preferences = openPreferences();
+    QVERIFY(preferences);
+    noClash(preferences);
+    grab(preferences, QStringLiteral("preferences-close"));
+    QTest::keyClick(preferences, Qt::Key_Escape);
+    QTRY_VERIFY(!preferences->isVisible());
+    QVERIFY(openPreferences());
+    QTest::keyClick(preferences, Qt::Key_W, Qt::ControlModifier);
+    QTRY_VERIFY(!preferences->isVisible());
+    QVERIFY(window().isVisible()); // Ctrl+W there closes the preferences, not a container
+    QVERIFY(openPreferences());
+    auto* buttons = preferences->findChild<QDialogButtonBox*>();
+    QVERIFY(buttons);
+    QTest::mouseClick(buttons->button(QDialogButtonBox::Close), Qt::LeftButton);
+    QTRY_VERIFY(!preferences->isVisible());
+}
+
+SONORIA_GUI_TEST_MAIN(TestDesktopApp)
+#include "tst_appdelegate.moc"

@@ -1,0 +1,297 @@
+#include "ItemListTestSupport.h"
+
+#include "gui/dialogs/SXAddFilesDialog.h"
+#include "gui/dialogs/SXLoadingSheet.h"
+#include "gui/panels/SXHelpView.h"
+#include "gui/window/SXContainerTabBar.h"
+#include "gui/window/SXWindowPresenter.h"
+#include "base/SXSettings.h"
+
+#include <QAbstractItemModelTester>
+#include <QAccessible>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using namespace ItemListTest;
+
+// Adding files to the list (drops of files and folders, the add dialog, the loading sheet and
+// its alerts) and moving rows by drag and drop within a list, onto tabs and between windows.
+class TestItemList : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void droppedFilesAndFoldersBecomeRows();
+    void failedFilesAreNamedInOneAlert_data();
+    void failedFilesAreNamedInOneAlert();
+    void addDialogTakesFilesAndFoldersTogether();
+    void loadingSheetShowsProgressAndCancels();
+    void rowsMoveWithinTheListOntoTabsAndIntoOtherWindows();
+    void dropsAreRefusedDuringARun();
+
+private:
+    QString path(const QString& name) const { return m_media.filePath(name); }
+    static int tabCount(SXMainAppController* window, const QString& label);
+
+    QTemporaryDir m_home;
+    QTemporaryDir m_media;
+};
+
+void TestItemList::initTestCase() {
+    // Everything that follows a home lands in a folder of this test.
+    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_MUSIC_DIR"})
+        qputenv(name, QFile::encodeName(m_home.filePath(QString::fromLatin1(name))));
+    QVERIFY(QDir(m_media.path()).mkpath(u"folder/sub"_s));
+    QVERIFY(QDir(m_media.path()).mkpath(u"many"_s));
+    QVERIFY(SonoriaTest::makeTone(path(u"a.mp3"_s), 1, {u"-metadata"_s, u"artist=Ann"_s}));
+    for (const QString& name :
+         {u"b.wav"_s, u"c.flac"_s, u"folder/d.ogg"_s, u"folder/sub/e.vob"_s, u"f.VOB"_s})
+        QVERIFY(SonoriaTest::makeTone(path(name), 1));
+    QVERIFY(SonoriaTest::writeFile(path(u"folder/notes.txt"_s), "not media\n"));
+    for (int i = 1; i <= 12; ++i)
+        QVERIFY(SonoriaTest::writeFile(path(u"bad/bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'))),
+                                       "no audio\n"));
+    // A batch long enough to be cancelled while it loads.
+    for (int i = 0; i < 2000; ++i)
+        QVERIFY(
+            QFile::link(path(u"b.wav"_s), path(u"many/%1.wav"_s.arg(i, 4, 10, QLatin1Char('0')))));
+}
+
+void TestItemList::init() {
+    SXSettings::removeKey(SXSettingsKey::AppSupportVob);
+}
+
+int TestItemList::tabCount(SXMainAppController* window, const QString& label) {
+    const QStringList labels = window->workspace().tabLabels();
+    const QString name = window->tabBar().accessibleTabName(int(labels.indexOf(label)));
+    return name.section(u", "_s, 1).section(u' ', 0, 0).toInt();
+}
+
+void TestItemList::droppedFilesAndFoldersBecomeRows() {
+    const auto window = openWindow();
+    QVERIFY(window);
+    SXItemListView* view = listOf(window.get());
+    QAbstractItemModelTester tester(view->model(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+    // A file, a folder (scanned for accepted extensions, "vob" included), a "vob" file named on
+    // its own (ignored while the preference is off) and a remote address (refused aloud).
+    QSignalSpy finished(&window->workspace(), &SXWorkspace::loadFinished);
+    const std::unique_ptr<QMimeData> data(
+        uriList(localUrls({path(u"a.mp3"_s), path(u"folder"_s), path(u"f.VOB"_s)}) +
+                QList<QUrl>{QUrl(u"https://example.org/x.mp3"_s)}));
+    QVERIFY(dragAndDrop(view->viewport(), QPoint(10, 10), data.get()));
+    auto* refusal = SonoriaGuiTest::openDialog<QMessageBox>(window.get());
+    QVERIFY(refusal);
+    QVERIFY(refusal->text().contains(u"not files on this computer"_s));
+    QCOMPARE(refusal->informativeText(), u"https://example.org/x.mp3\n"_s);
+    QVERIFY(SonoriaGuiTest::clickMessageButton(refusal, u"OK"_s));
+    QVERIFY(finished.count() > 0 || finished.wait(60000));
+
+    QStringList names = rowNames(view);
+    names.sort();
+    QCOMPARE(names, (QStringList{u"a.mp3"_s, u"d.ogg"_s, u"e.vob"_s}));
+    // A screen reader reads each row by its file name.
+    QAccessibleInterface* list = QAccessible::queryAccessibleInterface(view);
+    QVERIFY(list);
+    QStringList spoken;
+    for (int i = 0; i < list->childCount(); ++i)
+        spoken.append(list->child(i)->text(QAccessible::Name));
+    QCOMPARE(spoken, rowNames(view));
+    QCOMPARE(window->workspace().selectedRows(), QList<int>{0});
+    QCOMPARE(tabCount(window.get(), u"MP3"_s), 3);
+    auto* help = window->findChild<SXHelpView*>();
+    QVERIFY(help->tipsStr().startsWith(u"3 files"_s));
+
+    // The same file again keeps one row; a file dropped anywhere else in the window is added.
+    QVERIFY(dropFilesOnList(window.get(), {path(u"a.mp3"_s)}));
+    QCOMPARE(view->model()->rowCount(), 3);
+    finished.clear();
+    const std::unique_ptr<QMimeData> more(uriList(localUrls({path(u"b.wav"_s)})));
+    const QPoint onHelpBar = help->mapTo(window.get(), help->rect().center());
+    QWidget* target = dropTargetAt(window.get(), onHelpBar);
+    QVERIFY(dragAndDrop(target, target->mapFrom(window.get(), onHelpBar), more.get()));
+    QVERIFY(finished.count() > 0 || finished.wait(60000));
+    QCOMPARE(view->model()->rowCount(), 4);
+    QCOMPARE(tabCount(window.get(), u"MP3"_s), 4);
+    QVERIFY(help->tipsStr().startsWith(u"4 files"_s));
+}
+
+void TestItemList::failedFilesAreNamedInOneAlert_data() {
+    QTest::addColumn<int>("failures");
+    QTest::newRow("11 files") << 11;
+    QTest::newRow("12 files") << 12;
+}
+
+void TestItemList::failedFilesAreNamedInOneAlert() {
+    QFETCH(int, failures);
+    const auto window = openWindow();
+    QVERIFY(window);
+    QStringList paths{path(u"c.flac"_s)};
+    QStringList expected;
+    for (int i = 1; i <= failures; ++i) {
+        paths.append(path(u"bad/bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'))));
+        if (i <= 11)
+            expected.append(QFileInfo(paths.last()).fileName());
+    }
+    QVERIFY(dropFilesOnList(window.get(), paths));
+    auto* alert = SonoriaGuiTest::openDialog<QMessageBox>(window.get());
+    QVERIFY(alert);
+    QCOMPARE(alert->text(), u"Following file(s) load failed!"_s);
+    QCOMPARE(alert->informativeText(), expected.join(u'\n') + u"\n..."_s);
+    QVERIFY(SonoriaGuiTest::clickMessageButton(alert, u"OK"_s));
+    QCOMPARE(rowNames(listOf(window.get())), QStringList{u"c.flac"_s});
+    QCOMPARE(window->workspace().enumAppState(), int(AppStateIdle));
+}
+
+void TestItemList::addDialogTakesFilesAndFoldersTogether() {
+    const auto window = openWindow();
+    QVERIFY(window);
+    QSignalSpy finished(&window->workspace(), &SXWorkspace::loadFinished);
+    QTest::mouseClick(window->findChild<QPushButton*>(u"btnAddFile"_s), Qt::LeftButton);
+    auto* dialog = SonoriaGuiTest::openDialog<SXAddFilesDialog>(window.get());
+    QVERIFY(dialog);
+    QCOMPARE(dialog->windowModality(), Qt::WindowModal);
+    QVERIFY(dialog->nameFilters().first().contains(u"*.flac"_s));
+    dialog->setDirectory(m_media.path());
+    auto* name = dialog->findChild<QLineEdit*>(u"fileNameEdit"_s);
+    name->setText(u"\"c.flac\" \"folder\""_s);
+    QTest::keyClick(name, Qt::Key_Return);
+    QVERIFY(finished.wait(60000));
+    QStringList names = rowNames(listOf(window.get()));
+    names.sort();
+    QCOMPARE(names, (QStringList{u"c.flac"_s, u"d.ogg"_s, u"e.vob"_s}));
+}
+
+void TestItemList::loadingSheetShowsProgressAndCancels() {
+    const auto window = openWindow();
+    QVERIFY(window);
+    SXWorkspace& workspace = window->workspace();
+    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
+    QStringList seen;
+    SXLoadingSheet* sheet = window->findChild<SXLoadingSheet*>();
+    int stateWhileShown = -1;
+    QStringList sheetProblems;
+    connect(&workspace, &SXWorkspace::loadStarted, this,
+            [&] { seen.append(sheet->progressText()); });
+    QMetaObject::Connection clickCancel;
+    clickCancel = connect(&workspace, &SXWorkspace::loadProgressText, this, [&] {
+        disconnect(clickCancel);
+        seen.append(sheet->progressText());
+        stateWhileShown = sheet->isVisible() ? workspace.enumAppState() : -1;
+        sheetProblems = SonoriaGuiTest::accessibilityProblems(sheet);
+        SonoriaGuiTest::grab(sheet, u"loading-sheet"_s);
+        QTest::mouseClick(sheet->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
+        seen.append(sheet->isVisible() ? u"still shown"_s : u"hidden"_s);
+    });
+    QVERIFY(dropFilesOnList(window.get(), {path(u"many"_s)}));
+    QCOMPARE(seen.size(), 3);
+    QCOMPARE(seen.at(0), u"Loading Media Files..."_s);
+    QVERIFY2(seen.at(1).startsWith(u"Importing "_s) && seen.at(1).endsWith(u".wav..."_s),
+             qPrintable(seen.at(1)));
+    QCOMPARE(seen.at(2), u"hidden"_s);
+    QCOMPARE(stateWhileShown, int(AppStateLoading));
+    QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
+    QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+    QCOMPARE(workspace.currentTabItemCount(), 0);
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(!SonoriaGuiTest::openDialog<QMessageBox>(window.get()));
+}
+
+void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
+    const auto first = openWindow();
+    const auto second = openWindow();
+    QVERIFY(first && second);
+    QVERIFY(dropFilesOnList(first.get(), {path(u"a.mp3"_s), path(u"b.wav"_s), path(u"c.flac"_s)}));
+    QVERIFY(dropFilesOnList(second.get(), {path(u"a.mp3"_s), path(u"b.wav"_s)}));
+    SXItemListView* view = listOf(first.get());
+    SXItemListView* other = listOf(second.get());
+    QAbstractItemModelTester tester(view->model(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+
+    // Reordering: the first two rows dropped at the end. The drag also carries the files for
+    // file managers, as copies.
+    std::unique_ptr<QMimeData> rows = dragRows(view, {0, 1});
+    QCOMPARE(rows->urls(), localUrls({path(u"a.mp3"_s), path(u"b.wav"_s)}));
+    QCOMPARE(view->model()->supportedDragActions(), Qt::CopyAction);
+    QVERIFY(dragAndDrop(view->viewport(), pointBeforeRow(view, 3), rows.get()));
+    QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"a.mp3"_s, u"b.wav"_s}));
+    QCOMPARE(first->workspace().selectedRows(), (QList<int>{1, 2}));
+
+    // Onto another container's tab: appended there, waiting, and gone from the source
+    // container of every window.
+    rows = dragRows(view, {1});
+    const QRect aac =
+        first->tabBar().tabRect(int(first->workspace().tabLabels().indexOf(u"AAC"_s)));
+    QVERIFY(dragAndDrop(&first->tabBar(), aac.center(), rows.get()));
+    QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"b.wav"_s}));
+    const SXMusicInfoList moved = first->workspace().getDataForFormat(u"AAC"_s);
+    QCOMPARE(moved.size(), 1);
+    QCOMPARE(moved.first()->getStrMusicType(), u"AAC"_s);
+    QCOMPARE(moved.first()->dConvertProgress(), SXProgress::Waiting);
+    QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
+    QCOMPARE(tabCount(first.get(), u"MP3"_s), 2);
+    QCOMPARE(tabCount(first.get(), u"AAC"_s), 1);
+
+    // Into the list of another window showing another container.
+    QTest::mouseClick(
+        &second->tabBar(), Qt::LeftButton, {},
+        second->tabBar().tabRect(int(second->workspace().tabLabels().indexOf(u"AAC"_s))).center());
+    QCOMPARE(second->workspace().getSelectedMusicFormat(), u"AAC"_s);
+    rows = dragRows(view, {1});
+    QVERIFY(dragAndDrop(other->viewport(), pointBeforeRow(other, 0), rows.get()));
+    QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
+    QCOMPARE(rowNames(view), QStringList{u"c.flac"_s});
+    QVERIFY(second->workspace().getDataForFormat(u"MP3"_s).isEmpty());
+    QCOMPARE(tabCount(second.get(), u"AAC"_s), 1);
+    QCOMPARE(tabCount(second.get(), u"MP3"_s), 0);
+    QVERIFY(first->findChild<SXHelpView*>()->tipsStr().startsWith(u"2 files"_s));
+}
+
+void TestItemList::dropsAreRefusedDuringARun() {
+    const auto window = openWindow();
+    QVERIFY(window);
+    QVERIFY(dropFilesOnList(window.get(), {path(u"a.mp3"_s), path(u"b.wav"_s)}));
+    SXItemListView* view = listOf(window.get());
+    const std::unique_ptr<QMimeData> rows = dragRows(view, {0});
+    const std::unique_ptr<QMimeData> files(uriList(localUrls({path(u"c.flac"_s)})));
+    window->workspace().setAppState(AppStateConverting);
+
+    QVERIFY(!dragRows(view, {1}));
+    QVERIFY(!dragAndDrop(view->viewport(), pointBeforeRow(view, 2), rows.get()));
+    QVERIFY(!dragAndDrop(view->viewport(), QPoint(10, 10), files.get()));
+    QVERIFY(!dragAndDrop(window.get(), QPoint(5, 5), files.get()));
+    const QRect aac = window->tabBar().tabRect(1);
+    QVERIFY(!dragAndDrop(&window->tabBar(), aac.center(), rows.get()));
+    // The list's own keys remove nothing either.
+    QSignalSpy beeps(&window->presenter(), &SXWindowPresenter::beeped);
+    window->workspace().setSelectedRows({0, 1});
+    view->setFocus();
+    QTest::keyClick(view, Qt::Key_Delete);
+    QTest::keyClick(view, Qt::Key_Backspace);
+    QCOMPARE(beeps.count(), 2);
+    QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
+    QVERIFY(window->workspace().getDataForFormat(window->workspace().tabLabels().at(1)).isEmpty());
+
+    // A move in another window takes the file out of every container of its name, but not out
+    // of a window whose items are converting.
+    const auto other = openWindow();
+    QVERIFY(other);
+    QVERIFY(dropFilesOnList(other.get(), {path(u"a.mp3"_s)}));
+    const std::unique_ptr<QMimeData> moved = dragRows(listOf(other.get()), {0});
+    const QRect otherAac =
+        other->tabBar().tabRect(int(other->workspace().tabLabels().indexOf(u"AAC"_s)));
+    QVERIFY(dragAndDrop(&other->tabBar(), otherAac.center(), moved.get()));
+    QCOMPARE(other->workspace().getDataForFormat(u"AAC"_s).size(), 1);
+    QVERIFY(other->workspace().getDataForFormat(u"MP3"_s).isEmpty());
+    QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
+    window->workspace().setAppState(AppStateIdle);
+}
+
+SONORIA_GUI_TEST_MAIN(TestItemList)
+#include "tst_itemlist.moc"

@@ -1,0 +1,208 @@
+#include "support/PulseServer.h"
+#include "support/TestSupport.h"
+#include "support/gui/GuiTestSupport.h"
+
+#include "gui/list/SXItemListView.h"
+#include "gui/list/SXItemRowDelegate.h"
+#include "gui/panels/SXFileInfoViewController.h"
+#include "gui/panels/SXItemStateView.h"
+#include "gui/window/SXMainAppController.h"
+#include "gui/window/SXWindowToolbar.h"
+#include "workspace/SXMetadataEditing.h"
+#include "workspace/SXWorkspace.h"
+#include "workspace/WorkspaceTestPresenter.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QBuffer>
+#include <QLabel>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace Qt::StringLiterals;
+
+// The window's preview and file information, driven as a user would: the toolbar command,
+// the selection, Space on the list, the strip's pause button.
+class TestPreviewWindow : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void infoPanelFollowsTheSelectionWithItsFallbacks();
+    void stripShowsThePreviewPlayedFromTheKeyboard();
+    void rowGesturesPlayAndStopButNeverDuringARun();
+
+private:
+    SXMusicInfoList addFiles(const QStringList& names);
+
+    QTemporaryDir m_dir;
+    SonoriaTest::PulseServer m_pulse;
+    QString m_noSound;
+    std::unique_ptr<SXMainAppController> m_window;
+    WorkspaceTestPresenter m_presenter;
+};
+
+void TestPreviewWindow::initTestCase() {
+    qputenv("SONORIA_NO_DESKTOP_OPEN", "1");
+    QVERIFY(SonoriaTest::makeTone(
+        m_dir.filePath(u"tagged.mp3"_s), 6.0,
+        {u"-metadata"_s, u"title=Morning"_s, u"-metadata"_s, u"artist=Ann"_s}));
+    QVERIFY(SonoriaTest::makeMedia(m_dir.filePath(u"surround.flac"_s),
+                                   u"sine=duration=1:sample_rate=48000"_s, {u"-ac"_s, u"6"_s}));
+    if (!m_pulse.start(&m_noSound))
+        m_noSound.prepend(u"no PulseAudio to play into: "_s);
+}
+
+void TestPreviewWindow::init() {
+    m_window = std::make_unique<SXMainAppController>();
+    m_window->workspace().setPresenter(&m_presenter);
+    m_window->workspace().addDefaultTabs();
+    m_window->show();
+}
+
+void TestPreviewWindow::cleanup() {
+    m_window->workspace().stopPlayerWithRefreshUI();
+    m_window.reset();
+}
+
+SXMusicInfoList TestPreviewWindow::addFiles(const QStringList& names) {
+    SXWorkspace& workspace = m_window->workspace();
+    QSignalSpy loaded(&workspace, &SXWorkspace::loadFinished);
+    QStringList paths;
+    for (const QString& name : names)
+        paths.append(m_dir.filePath(name));
+    workspace.loadAndParseFiles(paths);
+    if (loaded.isEmpty())
+        loaded.wait(30000);
+    return workspace.getCurTableDatasource();
+}
+
+void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
+    const SXMusicInfoList rows = addFiles({u"tagged.mp3"_s, u"surround.flac"_s});
+    QCOMPARE(rows.size(), 2);
+    rows.at(1)->mediaInfo()->setDFileSize(3145728);
+    QImage cover(120, 120, QImage::Format_RGB32);
+    cover.fill(Qt::darkCyan);
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    cover.save(&buffer, "PNG");
+    rows.at(0)->metHandler()->setAlbumImg({{png, u"image/png"_s}});
+
+    SXWorkspace& workspace = m_window->workspace();
+    auto* panel = m_window->findChild<SXFileInfoViewController*>();
+    workspace.setSelectedRows({0, 1});
+    m_window->perform(SXCommand::FileInfo);
+    QVERIFY(panel->isVisible());
+    QCOMPARE(workspace.selectedRows(), QList<int>{0}); // only the first row stays selected
+    QCOMPARE(panel->labelText(u"tfInfoTitle"_s), u"Morning"_s);
+    QCOMPARE(panel->labelText(u"tfInfoArtist"_s), u"Ann"_s);
+    QVERIFY(!panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
+    SonoriaGuiTest::grab(m_window.get(), u"window-info-panel"_s);
+    // The list gave up room to the panel: its rows still fit it, duration and codec in sight.
+    auto* list = m_window->findChild<SXItemListView*>();
+    QTRY_COMPARE(list->visualRect(list->model()->index(0, 0)).width(), list->viewport()->width());
+    QVERIFY(!list->horizontalScrollBar()->isVisible());
+    const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+
+    workspace.setSelectedRows({1}); // it follows the selection
+    const QList<QPair<QString, QString>> fallbacks{
+        {u"tfInfoAlbum"_s, u"Unknow"_s},        {u"tfInfoArtist"_s, u"Unknow"_s},
+        {u"tfInfoChannels"_s, u"Mono"_s},       {u"tfInfoChannelsMod"_s, u"6"_s},
+        {u"tfInfoFileSize"_s, u"3.0M"_s},       {u"tfInfoTitle"_s, u"surround"_s},
+        {u"tfInfoKind"_s, u"FLAC audio file"_s}};
+    for (const auto& [label, text] : fallbacks)
+        QCOMPARE(panel->labelText(label), text);
+    QVERIFY(panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
+
+    workspace.setAppState(AppStateConverting); // its toolbar item is disabled: it closes
+    QVERIFY(!panel->isVisible());
+    workspace.setAppState(AppStateIdle);
+    m_window->perform(SXCommand::FileInfo);
+    m_window->perform(SXCommand::FileInfo); // a second click closes it
+    QVERIFY(!panel->isVisible());
+}
+
+void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
+    addFiles({u"tagged.mp3"_s});
+    SXWorkspace& workspace = m_window->workspace();
+    workspace.setSelectedRows({0});
+    QSignalSpy progress(&workspace, &SXWorkspace::previewProgress);
+    auto* list = m_window->findChild<SXItemListView*>();
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Space);
+    QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
+    QVERIFY(progress.wait(5000) && progress.wait(5000));
+
+    SXItemStateView* strip = m_window->toolbar().stateView();
+    const SXStateStripModel::Look& look = strip->model().look();
+    QCOMPARE(look.name, u"Morning - Ann"_s);
+    QVERIFY2(look.playTime != u"00:00"_s, qPrintable(look.playTime));
+    QVERIFY(look.slider > 0 && look.musicTime.startsWith(u'-'));
+    SonoriaGuiTest::grab(m_window->toolbar().toolBar(), u"strip-playing"_s);
+    // A click on the track seeks to that point, not a page towards it.
+    auto* slider = strip->findChild<QSlider*>(u"playPosition"_s);
+    QSignalSpy moved(strip, &SXItemStateView::sliderMoved);
+    QTest::mouseClick(slider, Qt::LeftButton, {}, {slider->width() * 3 / 4, slider->height() / 2});
+    QVERIFY(!moved.isEmpty());
+    const double at = moved.last().first().toDouble();
+    QVERIFY2(at > 70 && at < 80, qPrintable(QString::number(at)));
+
+    strip->findChild<QToolButton*>(u"btnPause"_s)->click();
+    QVERIFY(workspace.isPreviewPaused());
+    QTest::keyClick(m_window.get(), Qt::Key_Space, Qt::ShiftModifier);
+    QVERIFY(!workspace.isPreviewPaused());
+    QTest::keyClick(list, Qt::Key_Space); // Space again stops it
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(!workspace.isPlayingMusic(workspace.getCurTableDatasource().first()));
+}
+
+void TestPreviewWindow::rowGesturesPlayAndStopButNeverDuringARun() {
+    if (!m_noSound.isEmpty())
+        QSKIP(qPrintable(m_noSound));
+    const SXMusicInfoList rows = addFiles({u"tagged.mp3"_s, u"surround.flac"_s});
+    SXWorkspace& workspace = m_window->workspace();
+    auto* list = m_window->findChild<SXItemListView*>();
+    QWidget* viewport = list->viewport();
+    const auto centre = [list](int row) {
+        return list->visualRect(list->model()->index(row, 0)).center();
+    };
+    const auto playButton = [list](int row) {
+        return SXItemRowGeometry::of(list->visualRect(list->model()->index(row, 0))).play.center();
+    };
+    const auto doubleClick = [viewport](const QPoint& at) {
+        QTest::mouseClick(viewport, Qt::LeftButton, {}, at);
+        QTest::mouseDClick(viewport, Qt::LeftButton, {}, at);
+        QTest::mouseRelease(viewport, Qt::LeftButton, {}, at);
+    };
+
+    doubleClick(centre(1));
+    QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
+    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    doubleClick(centre(1)); // a double-click never stops the row it plays
+    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(1)); // its button does
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(!workspace.isPlayingMusic(rows.at(1)));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
+    QVERIFY(workspace.isPlayingMusic(rows.at(0)));
+
+    workspace.stopPlayerWithRefreshUI();
+    workspace.setAppState(AppStateConverting);
+    doubleClick(centre(1));
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
+    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
+    QVERIFY(!workspace.isPlayingMusic(rows.at(0)) && !workspace.isPlayingMusic(rows.at(1)));
+    workspace.setAppState(AppStateIdle);
+}
+
+SONORIA_GUI_TEST_MAIN(TestPreviewWindow)
+#include "tst_previewwindow.moc"

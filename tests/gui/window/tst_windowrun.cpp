@@ -1,0 +1,323 @@
+#include "gui/dialogs/SXOutputFolderDialog.h"
+#include "gui/list/SXItemListView.h"
+#include "gui/window/SXContainerTabBar.h"
+#include "gui/window/SXMainAppController.h"
+#include "gui/window/SXWindowPresenter.h"
+#include "gui/window/SXWindowToolbar.h"
+#include "model/SXDataEngine.h"
+#include "base/SXSettings.h"
+#include "workspace/SXWorkspace.h"
+#include "support/PrivateSessionBus.h"
+#include "support/gui/GuiTestSupport.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDialogButtonBox>
+#include <QDirIterator>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QToolButton>
+
+using namespace SonoriaGuiTest;
+
+namespace {
+
+// The other end of the session bus: what a task manager hears of the launcher entry, and a
+// notification server that keeps what it is asked to show.
+class DesktopListener : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QList<QVariantMap> launcherUpdates;
+    QStringList launcherUris;
+    QStringList notificationBodies;
+    QVariantMap lastHints;
+
+public Q_SLOTS:
+    void launcherUpdate(const QString& uri, const QVariantMap& properties) {
+        launcherUris.append(uri);
+        launcherUpdates.append(properties);
+    }
+    uint Notify(const QString&, uint, const QString&, const QString&, const QString& body,
+                const QStringList&, const QVariantMap& hints, int) {
+        notificationBodies.append(body);
+        lastHints = hints;
+        return uint(notificationBodies.size());
+    }
+};
+
+} // namespace
+
+// A run as a user makes it: Start, the folder sheet, rows converting, the summary; Stop and
+// closing the window in the middle; the progress outside the window on a private session bus.
+class TestWindowRun : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void runFromStartToTheSummary();
+    void stopCancelsEveryItemAndLeavesNoFile();
+    void nothingLeavesTheListDuringARun();
+    void closingDuringARunCancelsItAndLeavesNoFile();
+
+private:
+    // Adds generated sources to the selected container and waits until they are listed.
+    void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
+    // Presses Start and answers the folder sheet with `folder`, organised by format.
+    void startInto(const QString& folder, bool byEnterOnTheList = false);
+    static QStringList filesUnder(const QString& folder);
+    QAction* startAction() const;
+
+    SonoriaTest::PrivateSessionBus m_bus;
+    DesktopListener m_listener;
+    std::unique_ptr<QTemporaryDir> m_media;
+    std::unique_ptr<QTemporaryDir> m_output;
+    std::unique_ptr<SXMainAppController> m_window;
+};
+
+void TestWindowRun::initTestCase() {
+    QVERIFY(m_bus.start());
+    QDBusConnection listener = QDBusConnection::connectToBus(m_bus.address(), "listener");
+    QVERIFY(listener.isConnected());
+    QVERIFY(listener.connect(
+        QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
+        QStringLiteral("Update"), &m_listener, SLOT(launcherUpdate(QString, QVariantMap))));
+    QVERIFY(listener.registerService(QStringLiteral("org.freedesktop.Notifications")));
+    QVERIFY(listener.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &m_listener,
+                                    QDBusConnection::ExportAllSlots));
+    QGuiApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
+}
+
+void TestWindowRun::init() {
+    m_media = std::make_unique<QTemporaryDir>();
+    m_output = std::make_unique<QTemporaryDir>();
+    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+    m_window = std::make_unique<SXMainAppController>();
+    m_window->show();
+    m_window->workspace().addDefaultTabs();
+    m_window->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+}
+
+void TestWindowRun::cleanup() {
+    m_window.reset();
+    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+}
+
+void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
+    QStringList paths;
+    for (const QString& name : names) {
+        paths.append(m_media->filePath(name));
+        QVERIFY(SonoriaTest::makeTone(paths.last(), seconds, extra));
+    }
+    SXWorkspace& ws = m_window->workspace();
+    ws.loadAndParseFiles(paths);
+    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 20000);
+    QCOMPARE(ws.currentTabItemCount(), names.size());
+}
+
+QAction* TestWindowRun::startAction() const {
+    for (QAction* action : m_window->findChild<QToolBar*>(QStringLiteral("toolbar"))->actions()) {
+        if (action->text() == QLatin1String("Start") || action->text() == QLatin1String("Stop"))
+            return action;
+    }
+    return nullptr;
+}
+
+void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
+    QAction* start = startAction();
+    QVERIFY(start && start->isEnabled());
+    if (byEnterOnTheList) {
+        auto* list = m_window->findChild<SXItemListView*>();
+        list->setFocus();
+        QTest::keyClick(list, Qt::Key_Return);
+    } else {
+        start->trigger();
+    }
+    auto* sheet = openDialog<SXOutputFolderDialog>(m_window.get());
+    QVERIFY(sheet);
+    QVERIFY(sheet->findChildren<QLabel*>().size() > 0);
+    grab(sheet, QStringLiteral("output-folder"));
+    const QStringList problems = accessibilityProblems(sheet);
+    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    sheet->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
+    auto* organise = sheet->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
+    QVERIFY(organise->isChecked()); // on unless the user turned it off
+    sheet->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateConverting));
+}
+
+QStringList TestWindowRun::filesUnder(const QString& folder) {
+    QStringList files;
+    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        files.append(QDir(folder).relativeFilePath(it.next()));
+    files.sort();
+    return files;
+}
+
+void TestWindowRun::runFromStartToTheSummary() {
+    addSources({QStringLiteral("one.wav"), QStringLiteral("two.wav"), QStringLiteral("gone.wav")},
+               2.0);
+    // A source that vanished after loading fails; the others still convert.
+    QVERIFY(QFile::remove(m_media->filePath(QStringLiteral("gone.wav"))));
+    // The user looks at another window, so the end is also told on the desktop.
+    QWidget elsewhere;
+    elsewhere.show();
+    elsewhere.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+    m_listener.launcherUpdates.clear();
+    m_listener.notificationBodies.clear();
+
+    startInto(m_output->path());
+    QCOMPARE(startAction()->text(), QStringLiteral("Stop"));
+    QCOMPARE(startAction()->toolTip(), QStringLiteral("Stop convert all files"));
+    QVERIFY(!m_window->tabBar().addButton()->isVisible());
+    QTRY_VERIFY(m_window->windowTitle().contains(QLatin1Char('%')));
+    grab(m_window.get(), QStringLiteral("run-converting"));
+
+    QMessageBox* summary = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 60000);
+    // The vanished file is named with its reason, and behind the alert with its folder.
+    const QString gone = m_media->filePath(QStringLiteral("gone.wav"));
+    const QString expected = QStringLiteral("2 files has been successfully converted.except 1 "
+                                            "files failed,including: \ngone: ");
+    QVERIFY2(summary->text().startsWith(expected), qPrintable(summary->text()));
+    const QString reason = summary->text().mid(expected.size());
+    QVERIFY(!reason.isEmpty());
+    QCOMPARE(summary->detailedText(), gone + QStringLiteral(": ") + reason);
+    grab(m_window.get(), QStringLiteral("run-summary-window"));
+    grab(summary, QStringLiteral("run-summary"));
+    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QCOMPARE(startAction()->text(), QStringLiteral("Start"));
+    QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
+
+    QCOMPARE(filesUnder(m_output->path()),
+             (QStringList{QStringLiteral("MP3/one.mp3"), QStringLiteral("MP3/two.mp3")}));
+    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), m_output->path());
+
+    // The launcher showed a bar for our desktop entry and hid it at the end.
+    QTRY_VERIFY(!m_listener.launcherUpdates.isEmpty() &&
+                !m_listener.launcherUpdates.last().value("progress-visible").toBool());
+    QCOMPARE(m_listener.launcherUris.first(),
+             QStringLiteral("application://app.sonoria.Sonoria.desktop"));
+    bool shown = false;
+    double last = 0;
+    for (const QVariantMap& update : std::as_const(m_listener.launcherUpdates)) {
+        if (!update.value("progress-visible").toBool())
+            continue;
+        shown = true;
+        QVERIFY(update.value("progress").toDouble() >= last); // never backwards
+        last = update.value("progress").toDouble();
+    }
+    QVERIFY(shown);
+    QTRY_COMPARE(m_listener.notificationBodies,
+                 QStringList{QStringLiteral("Converted: 2. Failed: 1.")});
+    // The failed row's tool tip says why, under its path.
+    const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
+    QStringList tips;
+    for (int row = 0; row < rows->rowCount(); ++row)
+        tips.append(rows->index(row, 0).data(Qt::ToolTipRole).toString());
+    QVERIFY2(tips.contains(gone + QStringLiteral("\nFailed: ") + reason),
+             qPrintable(tips.join(u'|')));
+    QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(),
+             QStringLiteral("app.sonoria.Sonoria"));
+}
+
+void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
+    // Long enough that Stop comes while the first conversions run and the last still wait.
+    const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
+                            QStringLiteral("c.wav"), QStringLiteral("d.wav")};
+    addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
+    startInto(m_output->path(), true);
+    QTRY_VERIFY_WITH_TIMEOUT(!filesUnder(m_output->path()).isEmpty(), 20000);
+    // Enter is Start only: during a run it beeps and the run goes on.
+    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
+    QTest::keyClick(m_window->findChild<SXItemListView*>(), Qt::Key_Enter);
+    QCOMPARE(beeps.count(), 1);
+    QCOMPARE(m_window->workspace().enumAppState(), int(AppStateConverting));
+    startAction()->trigger(); // it reads Stop now
+    for (const SXMusicInfoPtr& item : m_window->workspace().getCurTableDatasource())
+        QCOMPARE(item->dConvertProgress(), -3.0);
+
+    QMessageBox* summary = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
+    QCOMPARE(summary->text(), QStringLiteral("0 files has been successfully converted."));
+    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QVERIFY(m_window->tabBar().addButton()->isVisible());
+}
+
+void TestWindowRun::nothingLeavesTheListDuringARun() {
+    addSources({QStringLiteral("a.wav"), QStringLiteral("b.wav")}, 240.0,
+               {QStringLiteral("-ar"), QStringLiteral("22050")});
+    SXWorkspace& ws = m_window->workspace();
+    auto* list = m_window->findChild<SXItemListView*>();
+    auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
+    auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
+    ws.setSelectedRows({0, 1});
+    startInto(m_output->path());
+    QVERIFY(!remove->isEnabled() && !clear->isEnabled());
+
+    // The keys reach the workspace, which refuses aloud; the greyed buttons take no click.
+    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
+    list->setFocus();
+    QTest::keyClick(list, Qt::Key_Delete);
+    QTest::keyClick(list, Qt::Key_Backspace);
+    QCOMPARE(beeps.count(), 2);
+    QTest::mouseClick(remove, Qt::LeftButton);
+    QTest::mouseClick(clear, Qt::LeftButton);
+    QCOMPARE(list->model()->rowCount(), 2);
+    QCOMPARE(ws.currentTabItemCount(), 2);
+    QCOMPARE(ws.queueConvertTask()->operationCount(), 2);
+
+    // Stop still reaches both children, and the summary comes with both rows in place.
+    startAction()->trigger();
+    QMessageBox* summary = nullptr;
+    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
+    QCOMPARE(list->model()->rowCount(), 2);
+    for (const SXMusicInfoPtr& item : ws.getCurTableDatasource())
+        QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
+    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+    QTRY_COMPARE(ws.enumAppState(), int(AppStateIdle));
+    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QVERIFY(remove->isEnabled() && clear->isEnabled());
+    QTest::mouseClick(clear, Qt::LeftButton);
+    QCOMPARE(list->model()->rowCount(), 0);
+}
+
+void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
+    addSources({QStringLiteral("long.wav"), QStringLiteral("longer.wav")}, 240.0,
+               {QStringLiteral("-ar"), QStringLiteral("22050")});
+    startInto(m_output->path());
+    QTRY_VERIFY_WITH_TIMEOUT(!filesUnder(m_output->path()).isEmpty(), 20000);
+
+    m_window->close();
+    QMessageBox* question = openDialog<QMessageBox>(m_window.get());
+    QVERIFY(question);
+    QCOMPARE(question->text(), QStringLiteral("Warnning"));
+    QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+    QTRY_VERIFY(!m_window->isVisible());
+    // The children were waited for: nothing half-written is left, and no summary follows.
+    QCOMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QTest::qWait(600);
+    QVERIFY(!m_window->findChild<QMessageBox*>());
+    for (const QString& name : {QStringLiteral("long.wav"), QStringLiteral("longer.wav")})
+        QVERIFY(QFile::exists(m_media->filePath(name)));
+}
+
+SONORIA_GUI_TEST_MAIN(TestWindowRun)
+#include "tst_windowrun.moc"

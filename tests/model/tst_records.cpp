@@ -1,0 +1,138 @@
+#include "model/LSMedia.h"
+#include "model/SXMusicInfo.h"
+#include "support/TestSupport.h"
+
+#include <QRegularExpression>
+#include <QThread>
+#include <atomic>
+
+namespace {
+LSMediaPtr probedRecord() {
+    auto media = std::make_shared<LSMedia>();
+    media->setFilePath(QStringLiteral("/music/a song.flac"));
+    media->setAudioBitrate(912000);
+    media->setAudioSamplerate(44100);
+    media->setAudioChannels(2);
+    media->setDuration(183.5);
+    media->setEumMediaType(HVMediaTypeAudio);
+    media->setStrAudioCodecName(QStringLiteral("flac"));
+    media->setEumCvtState(CvtStateFailed);
+    media->setStrLastModified(QStringLiteral("3/4/25 9:7 AM"));
+    media->setDFileSize(3145728);
+    media->setDAOBitrate(256);
+    media->setDAOSamplerate(48000);
+    media->setIAOChannels(1);
+    media->setVOACodecName(QStringLiteral("libmp3lame"));
+    media->setStrOutFileExt(QStringLiteral("mp3"));
+    media->setStrOutFileName(QStringLiteral("a song"));
+    media->setDProgress(42);
+    media->setDLeftTime(12);
+    media->setStrDescription(QStringLiteral("note"));
+    return media;
+}
+
+SXMusicInfoPtr item(const QString& path, const QString& type = QStringLiteral("MP3")) {
+    auto result = std::make_shared<SXMusicInfo>();
+    result->setStrFilePath(path);
+    result->setStrMusicType(type);
+    result->setMediaInfo(probedRecord());
+    return result;
+}
+} // namespace
+
+class TestRecords : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    // Log lines quote these texts, blanks and misspellings included.
+    void descriptionsForLogs() {
+        const auto a = item(QStringLiteral("/x/1.mp3"));
+        a->setStrMusicName(QStringLiteral("One"));
+        QVERIFY(a->description().startsWith(QStringLiteral("P = 0x")));
+        QVERIFY(a->description().endsWith(QStringLiteral(
+            ", path = /music/a song.flac, name = One, sample = 44100.000000, birat = "
+            "912000.000000,             channel = 2, inFormatType = MP3")));
+        QVERIFY(a->mediaInfo()->description().contains(
+            QRegularExpression(QStringLiteral("^id:0x[0-9a-f]+, filePath = /music/a song.flac$"))));
+    }
+
+    // The record's own keys follow the probed ones; progress and notes are not archived.
+    void archiveKeepsStateAndDropsProgress() {
+        SXCoder coder;
+        probedRecord()->encodeWithCoder(coder);
+        const QStringList own{"strLastModified", "dFileSize",     "eumCvtState", "eumMediaType",
+                              "dAOBitrate",      "dAOSamplerate", "iAOChannels", "vOACodecName",
+                              "strOutFileExt",   "strOutFileName"};
+        QCOMPARE(coder.keys().mid(coder.keys().size() - own.size()), own);
+
+        bool ok = false;
+        const LSMediaPtr back = LSMedia::decodeWithCoder(SXCoder::fromData(coder.toData(), &ok));
+        QVERIFY(ok);
+        SXCoder again; // whatever was archived comes back unchanged
+        back->encodeWithCoder(again);
+        QCOMPARE(again.toData(), coder.toData());
+        QCOMPARE(back->eumCvtState(), int(CvtStateFailed));
+        QVERIFY(back->dProgress() == 0 && back->dLeftTime() == 0 &&
+                back->strDescription().isEmpty() && !back->bSampleQuality());
+    }
+
+    // Items travel as one archive for drag and drop; a copy made for a drop shares no record and
+    // keeps the unarchived fields too.
+    void itemsTravelAsOneArchive() {
+        const auto first = item(QStringLiteral("/x/é \"1\".mp3"));
+        first->setDConvertProgress(-4);
+        first->setStrLibraryPlaylistName(QStringLiteral("Mix"));
+        first->setBIsSendingToLibrary(true);
+        const auto second = item(QStringLiteral("/x/2.wav"));
+        second->setMediaInfo(nullptr);
+
+        bool ok = false;
+        const auto back =
+            SXMusicInfo::unarchiveItems(SXMusicInfo::archiveItems({first, second}), &ok);
+        QVERIFY(ok);
+        QCOMPARE(back.size(), 2);
+        QVERIFY(back[0]->isEqualToMusic(*first) && back[0]->dConvertProgress() == -4.0 &&
+                back[0]->strLibraryPlaylistName() == "Mix" && back[0]->bIsSendingToLibrary());
+        QCOMPARE(back[0]->mediaInfo()->eumCvtState(), int(CvtStateFailed));
+        QVERIFY(back[1]->isEqualToMusic(*second) && !back[1]->mediaInfo());
+
+        const auto copy = first->copy();
+        QVERIFY(copy->isEqualToMusic(*first) && copy->mediaInfo() != first->mediaInfo());
+        QVERIFY(!first->isEqualToMusic(*item(first->strFilePath(), QStringLiteral("AAC"))));
+        QVERIFY(copy->mediaInfo()->dProgress() == 42 && copy->dConvertProgress() == -4);
+
+        for (const QByteArray& junk : {QByteArray(), QByteArray("not an archive"),
+                                       SXMusicInfo::archiveItems({first}).left(20)}) {
+            QVERIFY(SXMusicInfo::unarchiveItems(junk, &ok).isEmpty());
+            QVERIFY(!ok);
+        }
+    }
+
+    // The list reads fields on the main thread while a worker writes them; each read must see
+    // one whole value, never a torn mix.
+    void fieldsStayWholeAcrossThreads() {
+        const auto shared = item(QStringLiteral("/x/1.mp3"));
+        const LSMediaPtr media = shared->mediaInfo();
+        const QString a(4096, QLatin1Char('a'));
+        const QString b(4096, QLatin1Char('b'));
+        std::atomic<bool> stop{false};
+        QThread* writer = QThread::create([&] {
+            for (int i = 0; !stop; ++i) {
+                media->setStrOutFileName(i % 2 ? a : b);
+                shared->setDConvertProgress(i % 2 ? -3.0 : 100.0);
+            }
+        });
+        writer->start();
+        for (int i = 0; i < 20000; ++i) {
+            const QString seen = media->strOutFileName();
+            QVERIFY(seen == a || seen == b || seen == QStringLiteral("a song"));
+            const double progress = shared->dConvertProgress();
+            QVERIFY(progress == -3.0 || progress == 100.0 || progress == -1.0);
+        }
+        stop = true;
+        writer->wait();
+        delete writer;
+    }
+};
+
+SONORIA_TEST_MAIN(TestRecords)
+#include "tst_records.moc"

@@ -1,0 +1,196 @@
+#include "support/PulseServer.h"
+#include "support/TestSupport.h"
+
+#include "framework/HVMediaInfo.h"
+#include "player/HVAudioDecoder.h"
+#include "player/HVPlayer.h"
+#include "player/SXAudioPlayer.h"
+#include "workspace/SXWorkspace.h"
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// The notifications the player posted, by name, in order.
+struct Notes {
+    explicit Notes(SXPreviewPlayer* player)
+        : spy(player, &SXPreviewPlayer::notificationPosted) {}
+    QList<QVariantMap> named(const QString& name) const {
+        QList<QVariantMap> found;
+        for (const QList<QVariant>& note : spy) {
+            if (note.value(0).toString() == name)
+                found.append(note.value(1).toMap());
+        }
+        return found;
+    }
+    bool waitFor(const QString& name, qsizetype count, int timeoutMs = 15000) {
+        QDeadlineTimer deadline(timeoutMs);
+        while (named(name).size() < count && !deadline.hasExpired())
+            spy.wait(200);
+        return named(name).size() >= count;
+    }
+    QSignalSpy spy;
+};
+
+SXMusicInfoPtr probedItem(const QString& path, const QString& type) {
+    const SXMusicInfoPtr item = SXMusicInfo::newForSource(path, type);
+    HVMediaInfo::dumpMediaInfo(*item->mediaInfo());
+    return item;
+}
+
+double secondsOf(const QVariantMap& note) {
+    return note.value(SXPlayerNotify::kProgressInfo).toDouble();
+}
+} // namespace
+
+class TestAudioPlayer : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void decoderReadsEveryKindOfSource_data();
+    void decoderReadsEveryKindOfSource();
+    void previewEndsAtTheThirdTickAndRunsOn();
+    void seekPauseAndResumeMovesThePosition();
+    void movedItemPlaysOnAndRemovedItemStops();
+
+private:
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+
+    SonoriaTest::PulseServer m_pulse;
+    QTemporaryDir m_dir;
+    std::unique_ptr<SXWorkspace> m_workspace;
+    SXAudioPlayer* m_player = nullptr;
+};
+
+void TestAudioPlayer::initTestCase() {
+    QVERIFY(SonoriaTest::makeTone(path(u"short.wav"_s), 3.5));
+    QVERIFY(SonoriaTest::makeTone(path(u"two.mp3"_s), 2.0));
+    QVERIFY(SonoriaTest::makeTone(path(u"long.flac"_s), 12.0));
+    QVERIFY(SonoriaTest::makeMedia(path(u"clip.mp4"_s),
+                                   u"testsrc=size=160x120:rate=10:duration=3"_s,
+                                   {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=3"_s, u"-c:v"_s,
+                                    u"mpeg4"_s, u"-c:a"_s, u"aac"_s, u"-ac"_s, u"6"_s}));
+    QString why;
+    if (!m_pulse.start(&why))
+        QSKIP(qPrintable(u"no PulseAudio to play into: "_s + why));
+    m_player = SXAudioPlayer::shareAudioPlayer();
+    QCOMPARE(SXAudioPlayer::shareAudioPlayer(), m_player);
+}
+
+void TestAudioPlayer::init() {
+    m_workspace = std::make_unique<SXWorkspace>();
+    m_workspace->setPreviewPlayer(m_player);
+    m_workspace->addDefaultTabs();
+}
+
+void TestAudioPlayer::cleanup() {
+    m_player->stop();
+    m_workspace.reset();
+}
+
+void TestAudioPlayer::decoderReadsEveryKindOfSource_data() {
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<double>("seconds");
+    QTest::newRow("wav") << u"short.wav"_s << 3.5;
+    QTest::newRow("mp3") << u"two.mp3"_s << 2.0;
+    QTest::newRow("sound of a 5.1 video") << u"clip.mp4"_s << 3.0;
+}
+
+// Every sample comes out once, at the output rate and layout, and a seek lands where asked.
+void TestAudioPlayer::decoderReadsEveryKindOfSource() {
+    QFETCH(QString, name);
+    QFETCH(double, seconds);
+    HVAudioDecoder decoder(48000, 2);
+    QVERIFY(decoder.open(path(name)));
+    QVERIFY(qAbs(decoder.duration() - seconds) < 0.1);
+    const auto decodedSeconds = [&decoder] {
+        qint64 bytes = 0;
+        for (QByteArray block = decoder.decodeSome(); !block.isEmpty();
+             block = decoder.decodeSome())
+            bytes += block.size();
+        return double(bytes) / decoder.bytesPerSecond();
+    };
+    QVERIFY2(qAbs(decodedSeconds() - seconds) < 0.1, qPrintable(name));
+    decoder.seek(1.0);
+    QVERIFY2(qAbs(decodedSeconds() - (seconds - 1.0)) < 0.1, qPrintable(name));
+    QVERIFY(!HVAudioDecoder(48000, 2).open(path(u"missing.wav"_s)));
+}
+
+void TestAudioPlayer::previewEndsAtTheThirdTickAndRunsOn() {
+    m_workspace->setData(
+        {probedItem(path(u"short.wav"_s), u"MP3"_s), probedItem(path(u"clip.mp4"_s), u"MP3"_s)},
+        u"MP3"_s);
+    const SXMusicInfoList rows = m_workspace->getDataForFormat(u"MP3"_s);
+    Notes notes(m_player);
+    m_workspace->playMusic(rows.at(0));
+    QCOMPARE(SXPlayerNotify::musicInfoOf(notes.named(SXPlayerNotify::PlayStart).value(0)),
+             rows.at(0));
+    QVERIFY(m_player->isPlaying());
+
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayEnd, 1));
+    const QList<QVariantMap> ticks = notes.named(SXPlayerNotify::PlayProgress);
+    QStringList seen;
+    for (const QVariantMap& tick : ticks)
+        seen.append(QString::number(secondsOf(tick)));
+    QVERIFY2(ticks.size() == 2, qPrintable(u"progress ticks before the end: "_s + seen.join(u' ')));
+    QVERIFY(secondsOf(ticks.at(0)) > 0.5 && secondsOf(ticks.at(1)) > secondsOf(ticks.at(0)));
+    const QVariantMap end = notes.named(SXPlayerNotify::PlayEnd).first();
+    QCOMPARE(SXPlayerNotify::musicInfoOf(end), rows.at(0));
+    QCOMPARE(end.value(SXPlayerNotify::kActionByUsert), QVariant(false));
+
+    // The next row, a video file, plays its sound; being the last, it ends in idle.
+    QCOMPARE(m_player->playingMusic(), rows.at(1));
+    QCOMPARE(m_workspace->enumAppState(), int(AppStatePlaying));
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayEnd, 2));
+    QVERIFY(secondsOf(notes.named(SXPlayerNotify::PlayProgress).last()) > 1.0);
+    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QVERIFY(!m_player->playingMusic() && !m_player->isPlaying());
+    m_player->stop();
+    m_player->stop();
+    QVERIFY(!m_player->playingMusic());
+}
+
+void TestAudioPlayer::seekPauseAndResumeMovesThePosition() {
+    m_workspace->setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
+    const SXMusicInfoPtr item = m_workspace->getDataForFormat(u"MP3"_s).first();
+    Notes notes(m_player);
+    m_workspace->playMusic(item);
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 1));
+    m_workspace->sliderDown(50, 100.0); // 6 s of 12
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 2));
+    const double afterSeek = secondsOf(notes.named(SXPlayerNotify::PlayProgress).last());
+    QVERIFY2(afterSeek >= 6.0 && afterSeek < 8.0, qPrintable(QString::number(afterSeek)));
+
+    m_workspace->pauseOrResumePreview();
+    QVERIFY(m_workspace->isPreviewPaused() && !m_player->isPlaying());
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 4));
+    const QList<QVariantMap> paused = notes.named(SXPlayerNotify::PlayProgress).mid(2);
+    QCOMPARE(secondsOf(paused.at(0)), secondsOf(paused.at(1)));
+    m_workspace->pauseOrResumePreview();
+    QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 6));
+    QVERIFY(secondsOf(notes.named(SXPlayerNotify::PlayProgress).last()) > secondsOf(paused.at(1)));
+}
+
+void TestAudioPlayer::movedItemPlaysOnAndRemovedItemStops() {
+    m_workspace->setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
+    m_workspace->selectContainer(u"MP3"_s);
+    m_workspace->togglePlay(m_workspace->getDataForFormat(u"MP3"_s).first());
+    const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
+        SXMusicInfo::archiveItems(m_workspace->getDataForFormat(u"MP3"_s)));
+    m_workspace->acceptDropOnTab(dragged, u"AAC"_s);
+    QVERIFY(m_player->isPlaying());
+    QVERIFY(m_workspace->isPlayingMusic(m_workspace->getDataForFormat(u"AAC"_s).first()));
+
+    m_workspace->selectContainer(u"AAC"_s);
+    m_workspace->setSelectedRows({0});
+    m_workspace->removeSelected();
+    QVERIFY(!m_player->isPlaying() && !m_player->playingMusic());
+    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+}
+
+SONORIA_TEST_MAIN(TestAudioPlayer)
+#include "tst_audioplayer.moc"

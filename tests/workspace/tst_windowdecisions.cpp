@@ -1,0 +1,458 @@
+#include "support/TestSupport.h"
+
+#include "model/SXDataEngine.h"
+#include "base/SXSettings.h"
+#include "workspace/SXCommandValidation.h"
+#include "workspace/SXFormatChooser.h"
+#include "workspace/SXSettingPanelActions.h"
+#include "workspace/SXStateStripModel.h"
+#include "workspace/SXWorkspace.h"
+#include "workspace/SXWorkspaceTexts.h"
+#include "support/TemporaryHome.h"
+
+#include "WorkspaceTestPresenter.h"
+
+#include <QDirIterator>
+#include <QSettings>
+
+using namespace Qt::StringLiterals;
+
+// The decisions a workspace window only shows: which commands are enabled in which state, the
+// chooser's result, the help bar and the state strip.
+class TestWindowDecisions : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void menuCommandsFollowTheState_data();
+    void menuCommandsFollowTheState();
+    void toolbarFollowsTheRun();
+    void rowMenuFollowsTheRowAndTheRun_data();
+    void rowMenuFollowsTheRowAndTheRun();
+    void removingFollowsTheRunAndTheList_data();
+    void removingFollowsTheRunAndTheList();
+    void chooserResultSharesListsAndKeepsNoLibrary();
+    void helpBarSumsEveryContainer();
+    void stripBarNeverGoesBackAndNamesThePreview();
+    void containersAndChoicesSurviveARestart();
+    void showInFilesAndACancelledStartCreateNothing_data();
+    void showInFilesAndACancelledStartCreateNothing();
+};
+
+namespace {
+
+const QList<SXCommand> kAll = {SXCommand::NewContainer,
+                               SXCommand::Open,
+                               SXCommand::NewFormat,
+                               SXCommand::CloseTab,
+                               SXCommand::Preferences,
+                               SXCommand::Delete,
+                               SXCommand::Clear,
+                               SXCommand::NextRow,
+                               SXCommand::PreviousRow,
+                               SXCommand::NextContainer,
+                               SXCommand::PreviousContainer,
+                               SXCommand::TagEditor,
+                               SXCommand::FileInfo,
+                               SXCommand::Start,
+                               SXCommand::Stop,
+                               SXCommand::Quit,
+                               SXCommand::Help};
+
+const QStringList kNames = {u"NewContainer"_s,
+                            u"Open"_s,
+                            u"NewFormat"_s,
+                            u"CloseTab"_s,
+                            u"Preferences"_s,
+                            u"Delete"_s,
+                            u"Clear"_s,
+                            u"NextRow"_s,
+                            u"PreviousRow"_s,
+                            u"NextContainer"_s,
+                            u"PreviousContainer"_s,
+                            u"TagEditor"_s,
+                            u"FileInfo"_s,
+                            u"Start"_s,
+                            u"Stop"_s,
+                            u"Quit"_s,
+                            u"Help"_s};
+
+QStringList enabledNames(const SXCommandContext& context, QStringList* beeping) {
+    QStringList enabled;
+    for (int i = 0; i < kAll.size(); ++i) {
+        const SXCommandAnswer answer = sxValidateMenuCommand(kAll.at(i), context);
+        if (answer.enabled)
+            enabled.append(kNames.at(i));
+        if (answer.beep)
+            beeping->append(kNames.at(i));
+    }
+    return enabled;
+}
+
+// Every file and folder below `folder`, hidden ones too: what a test must not have created.
+QStringList entriesBelow(const QString& folder) {
+    QStringList entries;
+    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                    QDirIterator::Subdirectories);
+    while (it.hasNext())
+        entries.append(it.next());
+    entries.sort();
+    return entries;
+}
+
+SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
+    const SXMusicInfoPtr item = makeWorkspaceItem(path, u"MP3"_s);
+    item->mediaInfo()->setDuration(seconds);
+    item->mediaInfo()->setDFileSize(bytes);
+    return item;
+}
+
+} // namespace
+
+void TestWindowDecisions::menuCommandsFollowTheState_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("selected");
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<bool>("primaryOpen");
+    QTest::addColumn<bool>("primaryIsKey");
+    QTest::addColumn<QStringList>("enabled");
+    QTest::addColumn<QStringList>("beeping");
+
+    const QStringList always{u"Quit"_s, u"Help"_s};
+    const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
+                              u"Stop"_s};
+    QTest::newRow("idle, empty fixed container")
+        << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
+        << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always << QStringList{u"CloseTab"_s};
+    QTest::newRow("idle, items, nothing selected, closable container")
+        << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
+        << QStringList{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
+                       u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s} +
+               neutral + always
+        << QStringList();
+    QTest::newRow("playing, a row selected, primary not key")
+        << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
+        << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
+                       u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
+               neutral + always
+        << QStringList{u"CloseTab"_s};
+    QTest::newRow("converting: only Stop")
+        << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
+        << QStringList{u"Stop"_s} + always << QStringList();
+    QTest::newRow("primary window closed: New Container only")
+        << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
+        << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s};
+}
+
+void TestWindowDecisions::menuCommandsFollowTheState() {
+    QFETCH(int, state);
+    QFETCH(int, count);
+    QFETCH(bool, selected);
+    QFETCH(QString, format);
+    QFETCH(bool, primaryOpen);
+    QFETCH(bool, primaryIsKey);
+    QFETCH(QStringList, enabled);
+    QFETCH(QStringList, beeping);
+    SXCommandContext context;
+    context.state = state;
+    context.count = count;
+    context.hasKeyWorkspace = true;
+    context.keyHasSelection = selected;
+    context.keySelectedFormat = format;
+    context.primaryOpen = primaryOpen;
+    context.primaryIsKey = primaryIsKey;
+    QStringList beeps;
+    QStringList got = enabledNames(context, &beeps);
+    got.sort();
+    enabled.sort();
+    QCOMPARE(got, enabled);
+    QCOMPARE(beeps, beeping);
+}
+
+void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<double>("progress");
+    QTest::addColumn<bool>("previewing");
+    QTest::addColumn<bool>("paused");
+    QTest::addColumn<QString>("menu"); // entries in order, "-" before a disabled one
+    const QString rest = u" EditTags FileInfo ShowInFiles Remove"_s;
+    QTest::newRow("idle") << int(AppStateIdle) << SXProgress::Waiting << false << false
+                          << u"Play"_s + rest;
+    QTest::newRow("this row plays")
+        << int(AppStatePlaying) << 0.0 << true << false << u"Pause"_s + rest;
+    QTest::newRow("this row paused")
+        << int(AppStatePlaying) << 0.0 << true << true << u"Resume"_s + rest;
+    QTest::newRow("another row plays")
+        << int(AppStatePlaying) << 0.0 << false << false << u"Play"_s + rest;
+    QTest::newRow("adding files") << int(AppStateLoading) << 0.0 << false << false
+                                  << u"-Play -EditTags -FileInfo ShowInFiles -Remove"_s;
+    QTest::newRow("run, waiting") << int(AppStateConverting) << SXProgress::Waiting << false
+                                  << false << u"CancelConversion ShowInFiles"_s;
+    QTest::newRow("run, converting")
+        << int(AppStateConverting) << 42.0 << false << false << u"CancelConversion ShowInFiles"_s;
+    for (double ended : {SXProgress::Done, SXProgress::Failed, SXProgress::Canceled})
+        QTest::addRow("run, ended %g", ended) << int(AppStateConverting) << ended << false << false
+                                              << u"-CancelConversion ShowInFiles"_s;
+}
+
+void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun() {
+    QFETCH(int, state);
+    QFETCH(double, progress);
+    QFETCH(bool, previewing);
+    QFETCH(bool, paused);
+    QFETCH(QString, menu);
+    static const QMap<SXRowCommand, QString> names{
+        {SXRowCommand::Play, u"Play"_s},
+        {SXRowCommand::Pause, u"Pause"_s},
+        {SXRowCommand::Resume, u"Resume"_s},
+        {SXRowCommand::EditTags, u"EditTags"_s},
+        {SXRowCommand::FileInfo, u"FileInfo"_s},
+        {SXRowCommand::ShowInFiles, u"ShowInFiles"_s},
+        {SXRowCommand::Remove, u"Remove"_s},
+        {SXRowCommand::CancelConversion, u"CancelConversion"_s}};
+    QStringList got;
+    for (const SXRowMenuEntry& entry : sxRowMenu({state, progress, previewing, paused}))
+        got.append((entry.enabled ? u""_s : u"-"_s) + names.value(entry.command));
+    QCOMPARE(got.join(u' '), menu);
+}
+
+void TestWindowDecisions::toolbarFollowsTheRun() {
+    // Start needs an item anywhere in the window; the editors need a selected row; a run
+    // leaves Start (reading Stop) alone enabled.
+    QVERIFY(!sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 0, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 1, false));
+    QVERIFY(!sxValidateToolbarCommand(SXCommand::TagEditor, AppStateIdle, 1, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::FileInfo, AppStatePlaying, 1, true));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Help, AppStateIdle, 0, false));
+    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateConverting, 4, true));
+    for (SXCommand other :
+         {SXCommand::TagEditor, SXCommand::FileInfo, SXCommand::Preferences, SXCommand::Help})
+        QVERIFY(!sxValidateToolbarCommand(other, AppStateConverting, 4, true));
+    const SXToolbarLook stop = sxStartToolbarLook(AppStateConverting);
+    QCOMPARE((QStringList{stop.image, stop.label, stop.toolTip}),
+             (QStringList{u"stopConvert"_s, u"Stop"_s, u"Stop convert all files"_s}));
+    const SXToolbarLook start = sxStartToolbarLook(AppStateIdle);
+    QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
+             (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
+    QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
+}
+
+void TestWindowDecisions::removingFollowsTheRunAndTheList_data() {
+    QTest::addColumn<int>("state");
+    QTest::addColumn<int>("count");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("idle, empty") << int(AppStateIdle) << 0 << false;
+    QTest::newRow("idle, items") << int(AppStateIdle) << 2 << true;
+    QTest::newRow("playing, items") << int(AppStatePlaying) << 1 << true;
+    QTest::newRow("loading, items") << int(AppStateLoading) << 1 << true;
+    QTest::newRow("converting, items") << int(AppStateConverting) << 3 << false;
+    QTest::newRow("converting, empty container") << int(AppStateConverting) << 0 << false;
+}
+
+void TestWindowDecisions::removingFollowsTheRunAndTheList() {
+    // The Delete and Clear buttons, their menu items and the items' shortcuts give one answer.
+    QFETCH(int, state);
+    QFETCH(int, count);
+    QFETCH(bool, enabled);
+    QCOMPARE(sxRemoveButtonsEnabled(state, count), enabled);
+    SXCommandContext context;
+    context.state = state;
+    context.count = count;
+    context.hasKeyWorkspace = context.keyHasSelection = true;
+    context.keySelectedFormat = u"MP3"_s;
+    for (SXCommand command : {SXCommand::Delete, SXCommand::Clear})
+        QCOMPARE(sxValidateMenuCommand(command, context).enabled, enabled);
+}
+
+void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
+    SXDataEngine* engine = SXDataEngine::shareInstance();
+    const SXFormatSettingPtr flac = engine->getFormatWithName(u"FLAC"_s);
+    const SXFormatSettingPtr wav = engine->getFormatWithName(u"WAV"_s);
+    QVERIFY(flac && wav);
+    const SXFormatChooser chooser({flac, wav});
+    QCOMPARE(chooser.formatNames(), (QStringList{u"FLAC"_s, u"WAV"_s}));
+
+    const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
+    QCOMPARE(shown.bitRates, flac->aryBiteRate());
+    QCOMPARE(shown.sampleRate, flac->sampleRate());
+    QCOMPARE(shown.libraryVisible, flac->enumAddToLibrary() != -1);
+
+    const QString rate = flac->arySampleRate().last();
+    const SXFormatSettingPtr result = chooser.getFormatSettingResult(
+        {u"FLAC"_s, rate, flac->aryBiteRate().first(), flac->aryChannels().first(), true});
+    QVERIFY(result && result != flac);
+    QCOMPARE(result->sampleRate(), rate);
+    QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
+    result->setFmtName(u"changed"_s);
+    QCOMPARE(flac->fmtName(), u"FLAC"_s);
+    QCOMPARE(result->enumAddToLibrary(), flac->enumAddToLibrary() == -1 ? -1 : 1);
+
+    // A format without the library option keeps -1 whatever the hidden box says.
+    flac->setEnumAddToLibrary(-1);
+    const SXFormatSettingPtr none = chooser.getFormatSettingResult(
+        {u"FLAC"_s, flac->sampleRate(), flac->bitRate(), flac->channels(), true});
+    QCOMPARE(none->enumAddToLibrary(), -1);
+    QVERIFY(!chooser.changeFormatSelect(u"FLAC"_s).libraryVisible);
+    QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
+}
+
+void TestWindowDecisions::helpBarSumsEveryContainer() {
+    SXWorkspace workspace;
+    workspace.setData({}, u"AAC"_s);
+    workspace.setData({}, u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace), QString());
+    workspace.setData({itemOf(u"/x/1.wav"_s, 360, 1048576), itemOf(u"/x/2.wav"_s, 360, 1048576),
+                       itemOf(u"/x/3.wav"_s, 360, 1048576)},
+                      u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace),
+             u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
+    QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
+    QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
+}
+
+void TestWindowDecisions::stripBarNeverGoesBackAndNamesThePreview() {
+    SXStateStripModel strip;
+    QVERIFY(!strip.updateConverterProgress(10)); // hidden while idle: dropped
+    strip.updateForAppState(AppStateConverting, nullptr);
+    QCOMPARE(strip.look().name, u"Converting..."_s);
+    QVERIFY(strip.updateConverterProgress(40));
+    QVERIFY(!strip.updateConverterProgress(35));
+    // No number (a run over no items once gave 0/0) never reaches the bar's integer.
+    QVERIFY(!strip.updateConverterProgress(qQNaN()));
+    QVERIFY(!strip.updateConverterProgress(qInf()));
+    QCOMPARE(strip.look().progress, 40.0);
+    QVERIFY(strip.updateConverterProgress(250));
+    QCOMPARE(strip.look().progress, 100.0);
+    strip.updateForAppState(AppStateIdle, nullptr);
+    QVERIFY(!strip.look().progressShown && strip.look().progress == 0);
+
+    // An untagged item is named by its file; progress of another item is ignored.
+    const SXMusicInfoPtr song = itemOf(u"/x/My Song.flac"_s, 125, 1);
+    strip.updateForAppState(AppStatePlaying, song);
+    QCOMPARE(strip.look().name, u"My Song"_s);
+    QCOMPARE(strip.look().musicTime, u"-00:02:05"_s);
+    QVERIFY(!strip.musicPlayingProgress(itemOf(u"/x/other.flac"_s, 10, 1), 3));
+    QVERIFY(strip.musicPlayingProgress(song, 25));
+    QCOMPARE(strip.look().slider, 20.0);
+    // Loading while previewing hides only the slider.
+    strip.updateForAppState(AppStateLoading, nullptr);
+    QVERIFY(!strip.look().sliderShown && strip.look().nameShown);
+    QCOMPARE(strip.playingMusic(), song);
+}
+
+// The primary window's containers and every container's choices come back in a new workspace
+// that reads them from the settings file; a workspace that does not remember starts from the
+// catalogue, and a stored choice the format no longer offers is ignored.
+void TestWindowDecisions::containersAndChoicesSurviveARestart() {
+    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+    const SXFormatSettingPtr catalogueMp3 =
+        SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+    const QStringList vorbisRates =
+        SXDataEngine::shareInstance()->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
+    QVERIFY(vorbisRates.size() > 1);
+    QStringList expected = fixed;
+    {
+        SXWorkspace first;
+        first.setRemembersContainers(true);
+        first.addDefaultTabs();
+        QCOMPARE(first.tabLabels(), fixed);
+        for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
+            first.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(name));
+        QVERIFY(first.selectContainer(u"WAV"_s) && first.closeTab());
+        expected << u"Ogg Vorbis"_s << u"FLAC"_s;
+        QCOMPARE(first.tabLabels(), expected);
+
+        QVERIFY(first.selectContainer(u"MP3"_s));
+        SXSettingPanelActions::setBitRate(first, catalogueMp3->aryBiteRate().first());
+        SXSettingPanelActions::setSampleRate(first, catalogueMp3->arySampleRate().last());
+        SXSettingPanelActions::setChannels(first, catalogueMp3->aryChannels().last());
+        QVERIFY(first.selectContainer(u"FLAC"_s));
+        SXSettingPanelActions::setChannels(first, u"Mono"_s);
+        // A name with a blank, which must not become a group of the settings file.
+        QVERIFY(first.selectContainer(u"Ogg Vorbis"_s));
+        SXSettingPanelActions::setBitRate(first, vorbisRates.first());
+    }
+    // On disk, where the next process reads it (this one shares Qt's parsed copy).
+    const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
+    QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome()));
+    QVERIFY(onDisk.value(u"SXContainers"_s).toString().contains(u"FLAC"_s));
+
+    SXWorkspace second;
+    second.setRemembersContainers(true);
+    second.addDefaultTabs();
+    QCOMPARE(second.tabLabels(), expected);
+    const SXFormatSettingPtr mp3 = second.getFormatSettingForFormatName(u"MP3"_s);
+    QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
+    QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
+    QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
+    QCOMPARE(second.getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
+    QCOMPARE(second.getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(), vorbisRates.first());
+    // The catalogue itself is untouched.
+    QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
+             catalogueMp3->bitRate());
+
+    SXWorkspace other;
+    other.addDefaultTabs();
+    QCOMPARE(other.tabLabels(), fixed);
+    QCOMPARE(other.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
+
+    // Hand-edited or outdated values: an unknown format and a rate nobody offers.
+    SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
+    SXSettings::setValue(u"SXContainerChoices/MP3"_s,
+                         u"{\"bitRate\":\"7\",\"channels\":\"Mono\"}"_s);
+    SXWorkspace third;
+    third.setRemembersContainers(true);
+    third.addDefaultTabs();
+    QCOMPARE(third.tabLabels(), fixed + QStringList{u"Opus"_s});
+    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
+    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+}
+
+void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing_data() {
+    QTest::addColumn<bool>("stored");    // an output folder was chosen before
+    QTest::addColumn<bool>("organized"); // output goes to a folder per format
+    QTest::addColumn<bool>("exists");    // that folder is already there
+    QTest::newRow("fresh account") << false << true << false;
+    QTest::newRow("chosen, organised, not yet made") << true << true << false;
+    QTest::newRow("chosen, organised, made") << true << true << true;
+    QTest::newRow("chosen, not organised") << true << false << true;
+}
+
+void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
+    QFETCH(bool, stored);
+    QFETCH(bool, organized);
+    QFETCH(bool, exists);
+    SonoriaTest::TemporaryHome home;
+    QVERIFY(home.isValid());
+    const QString chosen = home.processHome() + u"/Out"_s;
+    const QString base = stored ? chosen : home.processHome() + u"/Music/Sonoria"_s;
+    const QString folder = organized ? base + u"/FLAC"_s : base;
+    SXSettings::removeKey(SXSettingsKey::DefaultOutputPath);
+    SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, organized);
+    if (stored) {
+        SXSettings::setValue(SXSettingsKey::DefaultOutputPath, chosen);
+        QVERIFY(QDir().mkpath(chosen));
+    }
+    if (exists)
+        QVERIFY(QDir().mkpath(folder));
+    const QStringList before = entriesBelow(home.processHome());
+
+    WorkspaceTestPresenter presenter;
+    SXWorkspace workspace;
+    workspace.setPresenter(&presenter);
+    workspace.addDefaultTabs();
+    workspace.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), folder);
+    SXSettingPanelActions::revealOutputFolder(workspace);
+    // A folder not made yet shows its nearest existing parent.
+    const QString shown = exists ? folder : stored ? chosen : home.processHome();
+    QCOMPARE(presenter.openedFolders, QStringList{shown});
+
+    presenter.folderAnswer.reset(); // the Start dialog is cancelled
+    workspace.toggleRun();
+    QCOMPARE(presenter.folderRequests.size(), 1);
+    QCOMPARE(presenter.folderRequests.first().startFolder, base);
+    QCOMPARE(entriesBelow(home.processHome()), before);
+}
+
+SONORIA_TEST_MAIN(TestWindowDecisions)
+#include "tst_windowdecisions.moc"

@@ -1,0 +1,430 @@
+#include "support/LogCapture.h"
+#include "support/TestSupport.h"
+
+#include "model/SXDataEngine.h"
+#include "base/SXSettings.h"
+#include "workspace/SXWorkspace.h"
+
+#include "WorkspaceTestPresenter.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTemporaryFile>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+// What `action` writes to the process's standard error.
+QString standardErrorOf(const std::function<void()>& action) {
+    QTemporaryFile file;
+    file.open();
+    std::fflush(stderr);
+    const int saved = ::dup(2);
+    ::dup2(file.handle(), 2);
+    action();
+    std::fflush(stderr);
+    ::dup2(saved, 2);
+    ::close(saved);
+    file.seek(0);
+    return QString::fromLocal8Bit(file.readAll());
+}
+
+bool addFiles(SXWorkspace& workspace, const QStringList& paths) {
+    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
+    workspace.loadAndParseFiles(paths);
+    return finished.count() > 0 || finished.wait(60000);
+}
+
+// Items of container `type` for made-up paths /x/<name>.
+SXMusicInfoList madeUpItems(const QString& type, const QStringList& names) {
+    SXMusicInfoList items;
+    for (const QString& name : names)
+        items.append(makeWorkspaceItem(u"/x/"_s + name, type));
+    return items;
+}
+} // namespace
+
+class TestWorkspaceLists : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void windowLifecycle();
+    void containerRules();
+    void addRunExpandsFoldersAndAppliesTheVobRule();
+    void addRunDropsPathsAlreadyInTheContainer();
+    void addRunNamesFailedFilesInOneAlert_data();
+    void addRunNamesFailedFilesInOneAlert();
+    void cancelDuringLoadingKeepsNothing();
+    void rowsSelectReorderAndDelete();
+    void movesBetweenContainersAndWorkspaces();
+
+private:
+    QString path(const QString& name) const { return m_dir.filePath(name); }
+
+    QTemporaryDir m_dir;
+    WorkspaceTestPresenter m_presenter;
+};
+
+void TestWorkspaceLists::initTestCase() {
+    QVERIFY(QDir(m_dir.path()).mkpath(u"folder/sub"_s));
+    for (const QString& name : {u"a.mp3"_s, u"b.wav"_s, u"c.flac"_s, u"d.VOB"_s, u"folder/e.ogg"_s,
+                                u"folder/sub/f.vob"_s})
+        QVERIFY(SonoriaTest::makeTone(path(name), 1));
+    for (int i = 1; i <= 12; ++i)
+        QVERIFY(SonoriaTest::writeFile(path(u"bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'))),
+                                       "no audio\n"));
+    QVERIFY(SonoriaTest::writeFile(path(u"folder/notes.txt"_s), {}));
+}
+
+void TestWorkspaceLists::init() {
+    SXSettings::removeKey(SXSettingsKey::AppSupportVob);
+    m_presenter = WorkspaceTestPresenter();
+}
+
+void TestWorkspaceLists::windowLifecycle() {
+    const auto registered = [](SXWorkspace* window) {
+        return SXDataEngine::shareInstance()->registeredWindows().contains(window);
+    };
+    SXWorkspace workspace;
+    QVERIFY(registered(&workspace));
+    QVERIFY(workspace.tabLabels().isEmpty());
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+    QCOMPARE(workspace.tabLabels(), fixed);
+    QCOMPARE(workspace.getFormatSettingForFormatName(fixed.last())->fmtName(), fixed.last());
+
+    // A revived window starts empty again, without the containers added meanwhile.
+    m_presenter.formatAnswer = u"FLAC"_s;
+    workspace.addContainer();
+    QVERIFY(addFiles(workspace, {path(u"a.mp3"_s)}));
+    workspace.reNewDefaultWindow();
+    QCOMPARE(workspace.tabLabels(), fixed);
+    QCOMPARE(workspace.containerNames(), fixed);
+    QCOMPARE(workspace.getSelectedMusicFormat(), fixed.first());
+    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+
+    // Only the last window asks before it closes; a destroyed one no longer counts.
+    workspace.setData(madeUpItems(u"AAC"_s, {u"1.wav"_s}), u"AAC"_s);
+    QSignalSpy closing(&workspace, &SXWorkspace::lastWorkspaceClosing);
+    {
+        SXWorkspace other;
+        QVERIFY(closes(other));
+        QVERIFY(m_presenter.alerts.isEmpty());
+    }
+    m_presenter.alertAnswer = 0; // "Cancel"
+    QVERIFY(!closes(workspace));
+    QCOMPARE(
+        alertTexts(m_presenter.alerts.last()),
+        (QStringList{u"Warnning"_s, u"Do you want to close all window without save information?"_s,
+                     u"Cancel"_s, u"OK"_s}));
+    QCOMPARE(workspace.getTotalNeedConvertMusic(), 1);
+    QCOMPARE(closing.count(), 0);
+    m_presenter.alertAnswer = 1; // "OK"
+    QVERIFY(closes(workspace));
+    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.tabLabels(), fixed);
+    QCOMPARE(closing.count(), 1);
+    QVERIFY(!registered(&workspace));
+}
+
+void TestWorkspaceLists::containerRules() {
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+
+    // Fixed containers never close; the refusal is audible.
+    QVERIFY(!workspace.closeTab());
+    QCOMPARE(m_presenter.beeps, 1);
+
+    // The chooser offers only formats without a container, in catalogue order.
+    m_presenter.formatAnswer = u"WAV"_s;
+    workspace.addContainer();
+    QStringList offered;
+    for (const SXFormatSettingPtr& format : std::as_const(m_presenter.offeredFormats))
+        offered.append(format->fmtName());
+    QStringList expected = SXDataEngine::shareInstance()->getAllOutputFormats();
+    for (const QString& name : fixed)
+        expected.removeAll(name);
+    QCOMPARE(offered, expected);
+    QCOMPARE(workspace.getSelectedMusicFormat(), u"WAV"_s);
+
+    // No container closes during a run.
+    workspace.setAppState(AppStateConverting);
+    QVERIFY(!workspace.closeTab());
+    QVERIFY(workspace.tabLabels().contains(u"WAV"_s));
+    workspace.setAppState(AppStateIdle);
+
+    // A tab named "Drake" is refused with its sheet.
+    workspace.addNewTabWithName(u"Drake"_s);
+    QVERIFY(workspace.selectContainer(u"Drake"_s));
+    QVERIFY(!workspace.closeTab());
+    QCOMPARE(m_presenter.sheets.size(), 1);
+    QCOMPARE(alertTexts(m_presenter.sheets.first()),
+             (QStringList{u"No Way!"_s, u"I refuse to close a tab named \"Drake\""_s, u"OK"_s}));
+    // "Drake" took the place of the first non-fixed tab (WAV) and the appended tab stayed
+    // unnamed: the container WAV has no tab any more.
+    QCOMPARE(workspace.tabLabels(), (fixed + QStringList{u"Drake"_s, QString()}));
+
+    // An added container closes and takes its items with it.
+    m_presenter.formatAnswer = u"Opus"_s;
+    workspace.addContainer();
+    QVERIFY(addFiles(workspace, {path(u"b.wav"_s)}));
+    QCOMPARE(workspace.currentTabItemCount(), 1);
+    QVERIFY(workspace.closeTab());
+    QVERIFY(!workspace.tabLabels().contains(u"Opus"_s));
+    QVERIFY(!workspace.hasDataForFormat(u"Opus"_s));
+    QVERIFY(!workspace.getFormatSettingForFormatName(u"Opus"_s));
+
+    // Neighbour moves: -1 means next, +1 previous; the ends beep.
+    workspace.selectTab(0);
+    workspace.moveTabSelectedTo(1);
+    QCOMPARE(m_presenter.beeps, 2);
+    workspace.moveTabSelectedTo(-1);
+    QCOMPARE(workspace.selectedTabIndex(), 1);
+    workspace.selectTab(int(workspace.tabLabels().size()) - 1);
+    workspace.moveTabSelectedTo(-1);
+    QCOMPARE(m_presenter.beeps, 3);
+
+    // With every format open the chooser is not offered.
+    for (const QString& name : SXDataEngine::shareInstance()->getAllOutputFormats()) {
+        if (!workspace.tabLabels().contains(name))
+            workspace.addContainerWithFormat(
+                SXDataEngine::shareInstance()->getFormatWithName(name));
+    }
+    m_presenter.offeredFormats.clear();
+    workspace.addContainer();
+    QVERIFY(m_presenter.offeredFormats.isEmpty());
+    QCOMPARE(m_presenter.alerts.last().messageText,
+             u"All formats are opened, you can set the paramas in the setting window."_s);
+    QCOMPARE(m_presenter.alerts.last().buttons, QStringList{u"Yes"_s});
+}
+
+void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    QSignalSpy states(&workspace, &SXWorkspace::appStateChanged);
+    QSignalSpy texts(&workspace, &SXWorkspace::loadProgressText);
+    QSignalSpy fractions(&workspace, &SXWorkspace::loadProgressValue);
+    QSignalSpy started(&workspace, &SXWorkspace::loadStarted);
+
+    // A loose "vob" file is refused without the preference; inside a folder only the folder's
+    // filter applies (and it drops the text file). A path that cannot be examined is reported
+    // on standard error and among the load failures.
+    bool done = false;
+    const QString errors = standardErrorOf([&] {
+        done = addFiles(workspace, {path(u"a.mp3"_s), path(u"d.VOB"_s), path(u"missing.mp3"_s),
+                                    path(u"folder"_s)});
+    });
+    QVERIFY(done);
+    QVERIFY2(errors.contains(u"lstat error: No such file or directory"_s), qPrintable(errors));
+    QCOMPARE(started.count(), 1);
+    QCOMPARE(started.first().first().toString(), u"Loading Media Files..."_s);
+    // The folder's files follow the loose file, in the order the folder scan gives them.
+    QStringList names = fileNames(workspace.getCurTableDatasource());
+    // Reports are thinned out on their way to the main thread, but the last one always arrives:
+    // the path that could not be examined, which ends the batch.
+    QCOMPARE(texts.last().first().toString(), u"Importing missing.mp3..."_s);
+    QCOMPARE(names.takeFirst(), u"a.mp3"_s);
+    names.sort();
+    QCOMPARE(names, (QStringList{u"e.ogg"_s, u"f.vob"_s}));
+    QCOMPARE(fractions.last().first().toDouble(), 1.0);
+    QCOMPARE(states.count(), 2);
+    QCOMPARE(states.at(0).first().toInt(), int(AppStateLoading));
+    QCOMPARE(states.at(1).first().toInt(), int(AppStateIdle));
+    QCOMPARE(workspace.selectedRows(), QList<int>{0});
+    QCOMPARE(m_presenter.alerts.size(), 1);
+    QCOMPARE(m_presenter.alerts.first().details,
+             path(u"missing.mp3"_s) + u": No such file or directory"_s);
+
+    const SXMusicInfoPtr first = workspace.getCurTableDatasource().first();
+    QCOMPARE(first->getStrMusicType(), u"MP3"_s);
+    QCOMPARE(first->mediaInfo()->strOutFileName(), u"a"_s);
+
+    SXSettings::setValue(SXSettingsKey::AppSupportVob, true);
+    QVERIFY(workspace.selectContainer(u"AAC"_s));
+    QVERIFY(addFiles(workspace, {path(u"d.VOB"_s)}));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"d.VOB"_s});
+}
+
+void TestWorkspaceLists::addRunDropsPathsAlreadyInTheContainer() {
+    SXWorkspace workspace;
+    workspace.addDefaultTabs();
+    const QString a = path(u"a.mp3"_s), b = path(u"b.wav"_s), c = path(u"c.flac"_s);
+    QVERIFY(addFiles(workspace, {a, b}));
+
+    // Adding the same file again keeps one copy, and so does naming it twice in one add.
+    QVERIFY(addFiles(workspace, {a, c, a, c}));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+             (QStringList{u"a.mp3"_s, u"b.wav"_s, u"c.flac"_s}));
+
+    // Present paths one after the other (as a folder added again gives them) all stay out.
+    QVERIFY(addFiles(workspace, {a, b, c}));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+             (QStringList{u"a.mp3"_s, u"b.wav"_s, u"c.flac"_s}));
+
+    // Another container takes the same file.
+    QVERIFY(workspace.selectContainer(u"Ringtone"_s));
+    QVERIFY(addFiles(workspace, {a}));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"a.mp3"_s});
+    QCOMPARE(workspace.getCurTableDatasource().first()->getStrMusicType(), u"Ringtone"_s);
+}
+
+void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert_data() {
+    QTest::addColumn<int>("failures");
+    QTest::newRow("eleven") << 11;
+    QTest::newRow("twelve") << 12;
+}
+
+void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert() {
+    QFETCH(int, failures);
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    LogCapture log;
+    QStringList paths{path(u"a.mp3"_s)};
+    QString expected;
+    for (int i = 1; i <= failures; ++i) {
+        const QString name = u"bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'));
+        paths.append(path(name));
+        if (i <= 11)
+            expected += name + u'\n';
+    }
+    // The list always ends in "...", even when every name fits.
+    expected += u"..."_s;
+    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
+    QVERIFY(addFiles(workspace, paths));
+
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"a.mp3"_s});
+    QCOMPARE(finished.first().first().value<SXMusicInfoList>().size(), failures);
+    QCOMPARE(m_presenter.alerts.size(), 1);
+    QCOMPARE(alertTexts(m_presenter.alerts.first()),
+             (QStringList{u"Following file(s) load failed!"_s, expected, u"OK"_s}));
+    // Behind the alert every one of them, with its folder and why it failed.
+    const QStringList details = m_presenter.alerts.first().details.split(u'\n');
+    QCOMPARE(details.size(), failures);
+    QCOMPARE(details.last(),
+             path(u"bad%1.mp3"_s.arg(failures)) + u": The file holds no audio that can be read"_s);
+    QVERIFY(log.contains(u"finish complete load media....."_s));
+    QCOMPARE(log.lines().filter(u"failed array : ("_s).size(), 1);
+}
+
+void TestWorkspaceLists::cancelDuringLoadingKeepsNothing() {
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    QSignalSpy cancelled(&workspace, &SXWorkspace::loadCancelled);
+    // Cancel as the first file starts, from the loader's own thread, so the cancel surely
+    // lands before the batch is through.
+    connect(
+        &workspace, &SXWorkspace::loadProgressText, &workspace,
+        [&workspace] { workspace.cancelLoading(); }, Qt::DirectConnection);
+    QTemporaryDir copies;
+    QStringList batch;
+    for (int i = 0; i < 20; ++i) {
+        batch.append(copies.filePath(u"b%1.wav"_s.arg(i)));
+        QVERIFY(QFile::link(path(u"b.wav"_s), batch.last()));
+    }
+    QVERIFY(addFiles(workspace, batch));
+    QVERIFY(cancelled.count() >= 1);
+    QVERIFY(workspace.mediaLoader()->bCanceled());
+    QCOMPARE(workspace.currentTabItemCount(), 0);
+    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(m_presenter.alerts.isEmpty());
+}
+
+void TestWorkspaceLists::rowsSelectReorderAndDelete() {
+    SXWorkspace workspace;
+    workspace.setPresenter(&m_presenter);
+    workspace.addDefaultTabs();
+    // Nothing to act on: an audible refusal.
+    workspace.clearContainer();
+    workspace.removeSelected();
+    workspace.moveSelectedTo(-1);
+    QCOMPARE(m_presenter.beeps, 3);
+
+    workspace.setData(madeUpItems(u"MP3"_s, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s, u"4.wav"_s}),
+                      u"MP3"_s);
+    workspace.refreshListView();
+    // The selection moves: +1 to the previous row, -1 to the next; the ends beep.
+    workspace.setSelectedRows({0});
+    workspace.moveSelectedTo(1);
+    QCOMPARE(m_presenter.beeps, 4);
+    for (int i = 0; i < 3; ++i)
+        workspace.moveSelectedTo(-1);
+    QCOMPARE(workspace.selectedRows(), QList<int>{3});
+    workspace.moveSelectedTo(-1);
+    QCOMPARE(m_presenter.beeps, 5);
+
+    const auto dragRows = [&workspace](const QList<int>& rows) {
+        return SXMusicInfo::unarchiveItems(workspace.dragDataForRows(rows));
+    };
+    QVERIFY(workspace.acceptDrop(dragRows({0, 1}), 2, SXWorkspace::DropBelowRow));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+             (QStringList{u"3.wav"_s, u"1.wav"_s, u"2.wav"_s, u"4.wav"_s}));
+    QCOMPARE(workspace.selectedRows(), (QList<int>{1, 2}));
+    QVERIFY(workspace.acceptDrop(dragRows({3}), 0, SXWorkspace::DropOnRow));
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+             (QStringList{u"4.wav"_s, u"3.wav"_s, u"1.wav"_s, u"2.wav"_s}));
+
+    workspace.setSelectedRows({0, 2});
+    workspace.removeSelected();
+    QCOMPARE(fileNames(workspace.getCurTableDatasource()), (QStringList{u"3.wav"_s, u"2.wav"_s}));
+    workspace.clearContainer();
+    QCOMPARE(workspace.currentTabItemCount(), 0);
+    QCOMPARE(m_presenter.beeps, 5);
+}
+
+void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
+    SXWorkspace first;
+    SXWorkspace second;
+    first.addDefaultTabs();
+    second.addDefaultTabs();
+    const QString mp3 = u"MP3"_s, aac = u"AAC"_s;
+    first.setData(madeUpItems(mp3, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s}), mp3);
+    second.setData(madeUpItems(mp3, {u"2.wav"_s, u"9.wav"_s}), mp3);
+    second.setData(madeUpItems(aac, {u"3.wav"_s}), aac);
+    QSignalSpy counts(&first, &SXWorkspace::tabCountsChanged);
+
+    // Rows 1 and 2 of the first workspace are dragged onto the second's AAC tab.
+    bool ok = false;
+    const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(first.dragDataForRows({1, 2}), &ok);
+    QVERIFY(ok);
+    for (const SXMusicInfoPtr& item : dragged)
+        item->setDConvertProgress(100);
+    second.acceptDropOnTab(dragged, aac);
+
+    // The target has each path once, marked waiting; the source name loses the items in
+    // every workspace, the one where the drag began and the one that received them.
+    const SXMusicInfoList target = second.getDataForFormat(aac);
+    QCOMPARE(fileNames(target), (QStringList{u"3.wav"_s, u"2.wav"_s}));
+    QCOMPARE(target.last()->getStrMusicType(), aac);
+    QCOMPARE(target.last()->dConvertProgress(), SXProgress::Waiting);
+    QCOMPARE(fileNames(first.getDataForFormat(mp3)), QStringList{u"1.wav"_s});
+    QCOMPARE(counts.last().at(0).toStringList(), first.tabLabels());
+    QCOMPARE(counts.last().at(1).value<QList<int>>(), (QList<int>{1, 0, 0}));
+    QCOMPARE(fileNames(second.getDataForFormat(mp3)), QStringList{u"9.wav"_s});
+
+    // Dropped on a row of another container: inserted there.
+    QVERIFY(second.selectContainer(aac));
+    const SXMusicInfoList fromFirst = {first.getDataForFormat(mp3).first()->copy()};
+    QVERIFY(second.acceptDrop(fromFirst, 0, SXWorkspace::DropOnRow));
+    QCOMPARE(fileNames(second.getDataForFormat(aac)),
+             (QStringList{u"1.wav"_s, u"3.wav"_s, u"2.wav"_s}));
+    QCOMPARE(second.selectedRows(), QList<int>{0});
+    QVERIFY(first.getDataForFormat(mp3).isEmpty());
+
+    // During a run nothing is dragged or dropped.
+    second.setAppState(AppStateConverting);
+    QVERIFY(second.dragDataForRows({0}).isEmpty());
+    QVERIFY(!second.acceptDrop(fromFirst, 0, SXWorkspace::DropOnRow));
+}
+
+SONORIA_TEST_MAIN(TestWorkspaceLists)
+#include "tst_workspacelists.moc"
