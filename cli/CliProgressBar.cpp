@@ -1,7 +1,11 @@
 #include "CliProgressBar.h"
 
 #include "CliOutput.h"
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 
 #include <algorithm>
 #include <cmath>
@@ -34,7 +38,7 @@ QString CliProgressBar::lineText(double percent, int done, int failed, int total
         text += QStringLiteral(", %1 failed").arg(failed);
     text += QStringLiteral(", ");
     text += remaining < 0 ? QStringLiteral("estimating time remaining")
-                          : GlobalFun::getEstimateStrBySecond(remaining);
+                          : SXTimeText::remainingText(remaining);
     return text;
 }
 

@@ -1,10 +1,14 @@
 #include "CliRun.h"
 
 #include "CliOutput.h"
-#include "base/SXFileLocalManager.h"
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
+#include "base/SXFileLocalManager.h"
+#include "base/SXFolderScan.h"
 #include "base/SXSettings.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXWorkspace.h"
 
@@ -108,8 +112,8 @@ void CliRun::printDryRun() {
     for (const SXMusicInfoPtr& item : loaded) {
         const LSMediaPtr media = item->mediaInfo();
         const QString name = media ? media->strOutFileName() : QString();
-        const QString target = GlobalFun::makeSureFullPathIdentical(
-            folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
+        const QString target =
+            FileHelper::unusedPath(folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
         text += QStringLiteral("would convert: %1 -> %2\n")
                     .arg(CliOutput::escaped(item->strFilePath()), CliOutput::escaped(target));
     }

@@ -1,9 +1,8 @@
 #include "FileHelper.h"
 
-#include "base/SXHomeFolder.h"
-#include "base/GlobalFun.h"
 #include "base/SXBundle.h"
 #include "base/SXFolderVisit.h"
+#include "base/SXHomeFolder.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -62,7 +61,82 @@ QString findIn(const QString& folder, const QString& fileName, SXFolderVisit& vi
     return {};
 }
 
+struct PathParts {
+    QString base;      // the path without the extension and its dot
+    QString extension; // without the dot
+    bool hasExtension = false;
+};
+
+// Splits off the extension of the last path component. A leading dot (hidden file) does not
+// start an extension.
+PathParts splitExtension(const QString& path) {
+    const qsizetype slash = path.lastIndexOf(QLatin1Char('/'));
+    const qsizetype dot = path.lastIndexOf(QLatin1Char('.'));
+    if (dot <= slash + 1)
+        return {path, {}, false};
+    return {path.left(dot), path.mid(dot + 1), true};
+}
+
+// Anything at the path, a dangling symbolic link included: writing through such a link would
+// create a file somewhere the user did not choose.
+bool somethingExistsAt(const QString& path) {
+    struct stat status {};
+    return ::lstat(QFile::encodeName(path).constData(), &status) == 0;
+}
+
+QString counterText(int k) {
+    return QStringLiteral("(%1)").arg(k);
+}
+
 } // namespace
+
+QString FileHelper::extensionOf(const QString& path) {
+    return splitExtension(path).extension;
+}
+
+QString FileHelper::unusedPath(const QString& path, const QString& ext,
+                               const std::function<bool(const QString&)>& taken) {
+    const auto isTaken = [&taken](const QString& candidate) {
+        return somethingExistsAt(candidate) || (taken && taken(candidate));
+    };
+    const PathParts given = splitExtension(path);
+    QString current = path;
+    if (!given.hasExtension || given.extension != ext)
+        current = path + QLatin1Char('.') + ext;
+    if (!isTaken(current))
+        return current;
+
+    // The counter belongs to the file's own name: a folder on the way that happens to be called
+    // "Album(1)" is the user's choice and stays as it is.
+    const qsizetype slash = current.lastIndexOf(QLatin1Char('/'));
+    const QString folder = current.left(slash + 1);
+    QString name = current.mid(slash + 1);
+    int k = 1;
+    for (;;) {
+        const PathParts parts = splitExtension(name);
+        QString candidate;
+        if (!name.contains(counterText(k))) {
+            candidate = parts.base + counterText(k);
+        } else {
+            const QString previous = counterText(k);
+            ++k;
+            candidate = QString(parts.base).replace(previous, counterText(k));
+        }
+        candidate += QLatin1Char('.') + parts.extension;
+        if (!isTaken(folder + candidate))
+            return folder + candidate;
+        name = candidate;
+    }
+}
+
+bool FileHelper::makeSureFolderExists(const QString& path) {
+    if (path.isEmpty())
+        return false;
+    if (QFileInfo(path).isDir())
+        return true;
+    // mkpath fails when a regular file stands at the path or on the way to it.
+    return QDir().mkpath(path);
+}
 
 bool FileHelper::fileExistsWithPath(const QString& path) {
     return !path.isEmpty() && QFileInfo::exists(path);
@@ -195,7 +269,7 @@ QString FileHelper::getADImagesPath() {
 
 QString FileHelper::getLangConfigPath() {
     const QString folder = getLibraryPath() + QStringLiteral("/Caches/lang");
-    GlobalFun::makeSureFolderExists(folder);
+    makeSureFolderExists(folder);
     return folder + QStringLiteral("/lang.dat");
 }
 

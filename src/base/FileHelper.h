@@ -2,10 +2,23 @@
 
 #include <QString>
 
+#include <functional>
+
 // Small file operations and standard folders. Each operation answers with its result and never
 // reports: callers that care check the returned value.
 class FileHelper {
 public:
+    // The extension of the last path component without its dot; empty when it has none. A
+    // leading dot (a hidden file) does not start an extension.
+    static QString extensionOf(const QString& path);
+    // A path with extension `ext` (appended when the path's own extension is not exactly `ext`)
+    // where nothing exists yet and `taken` (when given) says no; taken names get a counter "(1)",
+    // "(2)", ... in the file's own name, never in the folders above it.
+    static QString unusedPath(const QString& path, const QString& ext,
+                              const std::function<bool(const QString&)>& taken = {});
+    // True when a folder exists at `path` afterwards (created with its parents when missing).
+    static bool makeSureFolderExists(const QString& path);
+
     // True when anything exists at the path (links followed).
     static bool fileExistsWithPath(const QString& path);
     // The same test as fileExistsWithPath: it does not tell folders from files.

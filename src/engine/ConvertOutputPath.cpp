@@ -1,6 +1,10 @@
 #include "engine/ConvertOutputPath.h"
 
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 
 #include <QFile>
 #include <QMutex>
@@ -19,7 +23,7 @@ QSet<QString> g_claims; // guarded by g_claimsLock
 
 QString ConvertOutputPath::claim(const QString& path, const QString& ext) {
     QMutexLocker locker(&g_claimsLock);
-    const QString name = GlobalFun::makeSureFullPathIdentical(
+    const QString name = FileHelper::unusedPath(
         path, ext, [](const QString& candidate) { return g_claims.contains(candidate); });
     g_claims.insert(name);
     return name;

@@ -9,7 +9,7 @@
 class ConvertOutputPath {
 public:
     // Picks a name for `path` with extension `ext` (the counter rule of
-    // GlobalFun::makeSureFullPathIdentical) that names nothing on disk and that no other
+    // FileHelper::unusedPath) that names nothing on disk and that no other
     // conversion of this process has claimed, and claims it until release().
     static QString claim(const QString& path, const QString& ext);
     static void release(const QString& path);

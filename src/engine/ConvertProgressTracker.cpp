@@ -1,6 +1,10 @@
 #include "engine/ConvertProgressTracker.h"
 
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 
 #include <QRegularExpression>
 #include <algorithm>
@@ -18,7 +22,7 @@ bool ConvertProgressTracker::timeInChunk(const QString& chunk, double* seconds) 
     static const QRegularExpression clockForm(QStringLiteral("^\\d\\d:\\d\\d:\\d\\d$"));
     if (!clockForm.match(clock).hasMatch())
         return false;
-    *seconds = GlobalFun::getSecondsByTimeString(clock);
+    *seconds = SXTimeText::secondsOfClockString(clock);
     return true;
 }
 

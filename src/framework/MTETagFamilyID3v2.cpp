@@ -98,8 +98,13 @@ QString MTETagFamilyID3v2::readField(TagLib::File& file, MTETagField field) cons
     TagLib::ID3v2::Tag* tag = tagOf(file, false);
     if (!tag)
         return readBasicField(file, field);
-    const TagLib::ID3v2::FrameList& frames =
-        tag->frameListMap().value(TagLib::ByteVector(keyTable()[static_cast<std::size_t>(field)]));
+    const TagLib::ID3v2::FrameListMap& frameMap = tag->frameListMap();
+    TagLib::ID3v2::FrameList frames =
+        frameMap.value(TagLib::ByteVector(keyTable()[static_cast<std::size_t>(field)]));
+    // Most taggers and players on this desktop keep the grouping in TIT1; GRP1 is the newer
+    // frame some players write. Read either, GRP1 first; writing uses GRP1.
+    if (frames.isEmpty() && field == MTETagField::Grouping)
+        frames = frameMap.value(TagLib::ByteVector("TIT1", 4));
     if (frames.isEmpty())
         return readBasicField(file, field);
     switch (field) {

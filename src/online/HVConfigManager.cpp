@@ -1,11 +1,15 @@
 #include "HVConfigManager.h"
 
-#include "online/SXServiceRequest.h"
-#include "online/SXStartupReport.h"
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
+#include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
+#include "online/SXServiceRequest.h"
+#include "online/SXStartupReport.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -49,7 +53,7 @@ HVConfigManager* HVConfigManager::sharedInstance() {
         Q_ASSERT(!QCoreApplication::instance() ||
                  QThread::currentThread() == QCoreApplication::instance()->thread());
         auto* created = new HVConfigManager;
-        GlobalFun::setExperimentalSwitch(
+        SXFolderScan::setExperimentalSwitch(
             [] { return HVConfigManager::sharedInstance()->experimental(); });
         return created;
     }();
@@ -65,8 +69,8 @@ QString HVConfigManager::onlineConfigQuery() {
     // The short version goes out as the build stamped it, not brought to three components.
     // One pass of arg(), so a value that happens to contain "%4" is not substituted again.
     return QStringLiteral("appver=%1&appid=%2&sysver=%3&appstore=%4")
-        .arg(SXBundle::shortVersionString(), GlobalFun::bundleID(),
-             GlobalFun::getSystemVersionString(), QString::number(0));
+        .arg(SXBundle::shortVersionString(), SXAppIdentity::bundleID(),
+             SXSystemInfo::systemVersionString(), QString::number(0));
 }
 
 void HVConfigManager::getOnlineConfig() {

@@ -1,7 +1,11 @@
 #include "SXStartupReport.h"
 
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "online/SXServiceRequest.h"
-#include "base/GlobalFun.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -18,9 +22,9 @@ SXStartupReport::SXStartupReport(QObject* parent)
 
 QString SXStartupReport::reportStartupQuery() {
     return QStringLiteral("appver=%1&appid=%2&sysver=%3&channelid=%4&userid=%5")
-        .arg(GlobalFun::getAppBuildVersion(), GlobalFun::bundleID(),
-             GlobalFun::getSystemVersionString(), QString::number(kChannelId),
-             GlobalFun::getGUID());
+        .arg(SXAppIdentity::buildVersion(), SXAppIdentity::bundleID(),
+             SXSystemInfo::systemVersionString(), QString::number(kChannelId),
+             SXAppIdentity::installationId());
 }
 
 void SXStartupReport::reportStartup() {

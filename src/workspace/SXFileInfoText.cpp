@@ -1,6 +1,10 @@
 #include "workspace/SXFileInfoText.h"
 
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 
 #include <QCoreApplication>
@@ -106,7 +110,7 @@ QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
         {QStringLiteral("tfInfoKind"), QStringLiteral("Kind"),
          kindText(path, media ? media->eumMediaType() : HVMediaTypeUnknown)},
         {QStringLiteral("tfInfoLength"), QStringLiteral("Length"),
-         media ? GlobalFun::getTimeStringBySecond(media->duration()) : QString()},
+         media ? SXTimeText::clockString(media->duration()) : QString()},
         {QStringLiteral("tfInfoSampleRate"), QStringLiteral("Sample rate"),
          sampleRateText(tags, media)},
         {QStringLiteral("tfInfoTagFmt"), QStringLiteral("Tag format"), tagVersion},

@@ -1,7 +1,11 @@
 #include "workspace/SXItemRowLook.h"
 
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
-#include "base/GlobalFun.h"
 #include "workspace/SXWorkspaceData.h"
 
 #include <QFileInfo>
@@ -15,7 +19,7 @@ SXItemRowTexts SXItemRowLookRules::textsForItem(const SXMusicInfoPtr& item) {
     if (const std::shared_ptr<MTEAudioFile> tags = item->metHandler())
         texts.artist = tags->artist();
     if (const LSMediaPtr media = item->mediaInfo()) {
-        texts.duration = GlobalFun::getTimeStringBySecond(media->duration());
+        texts.duration = SXTimeText::clockString(media->duration());
         texts.codec = media->strAudioCodecName();
     }
     return texts;

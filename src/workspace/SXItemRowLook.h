@@ -10,7 +10,7 @@ class SXWorkspaceData;
 struct SXItemRowTexts {
     QString name;     // file name without its extension
     QString artist;   // from the tag handle
-    QString duration; // "getTimeStringBySecond:" of the media record's duration
+    QString duration; // SXTimeText::clockString of the media record's duration
     QString codec;    // the media record's audio codec
 };
 

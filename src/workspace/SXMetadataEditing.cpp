@@ -1,7 +1,7 @@
 #include "workspace/SXMetadataEditing.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
 
 #include <QBuffer>
 #include <QFile>
@@ -188,10 +188,6 @@ void EditSession::discard() {
             tags->restoreValues(*saved);
     }
     m_saved.clear();
-}
-
-int noticeStripY(bool hide, QSize window) {
-    return hide ? window.height() + 40 : (window.width() - 40) / 2;
 }
 
 QString pointString(QPoint point) {

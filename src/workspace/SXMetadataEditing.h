@@ -75,9 +75,6 @@ QStringList imageFilePatterns();
 // A picture file as the tags will carry it: its own bytes and type. None when it is no image.
 std::optional<MTEArtwork> artworkFromFile(const QString& path);
 
-// The notice strip's top edge in a window of `window` size: above the window when hidden, and
-// when shown at half of (width - 40), the rule the editor has always followed.
-int noticeStripY(bool hide, QSize window);
 inline const QString kCanNotEditNotice =
     QStringLiteral("Sorry, this kind format CAN NOT support for editing for metadata");
 

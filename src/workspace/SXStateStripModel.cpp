@@ -1,7 +1,11 @@
 #include "workspace/SXStateStripModel.h"
 
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
-#include "base/GlobalFun.h"
 #include "workspace/SXWorkspaceData.h"
 
 #include <QFileInfo>
@@ -30,8 +34,8 @@ void SXStateStripModel::updateForAppState(int state, const SXMusicInfoPtr& item)
         m_look.progressShown = false;
         m_look.name = m_playingMusic ? playingName(*m_playingMusic) : QString();
         const LSMediaPtr media = m_playingMusic ? m_playingMusic->mediaInfo() : nullptr;
-        m_look.musicTime = QStringLiteral("-%1").arg(
-            GlobalFun::getTimeStringBySecond(media ? media->duration() : 0));
+        m_look.musicTime =
+            QStringLiteral("-%1").arg(SXTimeText::clockString(media ? media->duration() : 0));
         m_look.playTime = QStringLiteral("00:00");
         m_look.progress = 0;
         m_look.slider = 0;
@@ -60,8 +64,8 @@ bool SXStateStripModel::musicPlayingProgress(const SXMusicInfoPtr& item, double 
     const double duration = media ? media->duration() : 0;
     const double slider = duration > 0 ? seconds / duration * 100.0 : 0;
     m_look.slider = std::isfinite(slider) ? std::clamp(slider, 0.0, 100.0) : 0;
-    m_look.playTime = GlobalFun::getTimeStringBySecond(seconds);
-    const QString left = GlobalFun::getTimeStringBySecond(duration - seconds);
+    m_look.playTime = SXTimeText::clockString(seconds);
+    const QString left = SXTimeText::clockString(duration - seconds);
     m_look.musicTime = left.isEmpty() ? QString() : QStringLiteral("-%1").arg(left);
     return true;
 }

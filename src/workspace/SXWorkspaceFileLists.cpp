@@ -1,8 +1,12 @@
 #include "workspace/SXWorkspaceFileLists.h"
 
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXWorkspaceTexts.h"
 
@@ -116,7 +120,7 @@ QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths,
         }
         if (S_ISDIR(status.st_mode)) {
             candidates.append(
-                GlobalFun::fileListAtDirenctory(path, GlobalFun::getSupportedFmts(), failures));
+                SXFolderScan::filesBelow(path, SXFolderScan::acceptedExtensions(), failures));
         } else if (QFileInfo(path).suffix().compare(QLatin1String("vob"), Qt::CaseInsensitive) ==
                    0) {
             if (acceptVob)

@@ -12,6 +12,7 @@
 #include <taglib/id3v2tag.h>
 #include <taglib/infotag.h>
 #include <taglib/mpegfile.h>
+#include <taglib/textidentificationframe.h>
 #include <taglib/tpropertymap.h>
 #include <taglib/unsynchronizedlyricsframe.h>
 #include <taglib/wavfile.h>
@@ -217,6 +218,30 @@ private Q_SLOTS:
         QVERIFY(!mp3Handle->saveNew(flac, &error) && !error.isEmpty());
         QVERIFY(!mp3Handle->saveNew(path(QStringLiteral("missing.mp3"))));
         QCOMPARE(SonoriaTest::fileHash(flac), before);
+    }
+
+    // Taggers on this desktop keep an MP3's grouping in TIT1, newer players in GRP1: either is
+    // read (GRP1 first), and an edit is written to GRP1.
+    void mp3GroupingFromEitherFrame() {
+        const QString mp3 = path(QStringLiteral("grouping.mp3"));
+        QVERIFY(SonoriaTest::makeTone(mp3, 0.5, {"-c:a", "libmp3lame"}));
+        auto addFrame = [&](const char* id, const char* text) {
+            TagLib::MPEG::File file(QFile::encodeName(mp3).constData());
+            auto* frame = new TagLib::ID3v2::TextIdentificationFrame(id, TagLib::String::UTF8);
+            frame->setText(text);
+            file.ID3v2Tag(true)->addFrame(frame);
+            return file.save(TagLib::MPEG::File::ID3v2);
+        };
+        QVERIFY(addFrame("TIT1", "Content group"));
+        QCOMPARE(open(mp3)->grouping(), QStringLiteral("Content group"));
+        QVERIFY(addFrame("GRP1", "Player group"));
+        const Handle handle = open(mp3);
+        QCOMPARE(handle->grouping(), QStringLiteral("Player group"));
+        handle->setGrouping(QStringLiteral("Edited"));
+        QVERIFY(handle->saveNew(mp3));
+        TagLib::MPEG::File file(QFile::encodeName(mp3).constData());
+        QCOMPARE(file.ID3v2Tag()->frameListMap()["GRP1"].front()->toString(),
+                 TagLib::String("Edited"));
     }
 
     // Copies fetch pictures on their own threads and share no state with the original.

@@ -1,5 +1,9 @@
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "support/TestSupport.h"
 
 #include <QDirIterator>
@@ -180,7 +184,7 @@ void TestInstall::desktopEntryOffersEveryAcceptedType() {
     const QSet<QString> offeredSet(offered.begin(), offered.end());
     QMimeDatabase mimes;
     QStringList missing;
-    for (const QString& extension : GlobalFun::getSupportedFmts()) {
+    for (const QString& extension : SXFolderScan::acceptedExtensions()) {
         QStringList types;
         for (const QMimeType& type : mimes.mimeTypesForFileName(u"file."_s + extension))
             types.append(type.name());

@@ -1,9 +1,13 @@
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXBundle.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSettings.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "online/HVConfigManager.h"
 #include "online/SXServiceRequest.h"
 #include "online/SXStartupReport.h"
-#include "base/GlobalFun.h"
-#include "base/SXBundle.h"
-#include "base/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
@@ -166,8 +170,8 @@ private Q_SLOTS:
         QStringList parts = SXBundle::shortVersionString().split(QLatin1Char('.'));
         while (parts.size() < 3)
             parts << QStringLiteral("0");
-        const QString query =
-            "&appid=" + GlobalFun::bundleID() + "&sysver=" + GlobalFun::getSystemVersionString();
+        const QString query = "&appid=" + SXAppIdentity::bundleID() +
+                              "&sysver=" + SXSystemInfo::systemVersionString();
         const QString report =
             "/common_task/reportstartup.php?appver=" + parts.mid(0, 3).join(QLatin1Char('.')) +
             QLatin1Char('.') + SXBundle::bundleVersion() + query + "&channelid=5&userid=" + guid;

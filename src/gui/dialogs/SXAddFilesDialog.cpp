@@ -1,6 +1,10 @@
 #include "gui/dialogs/SXAddFilesDialog.h"
 
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "workspace/SXWorkspaceFileLists.h"
 
 #include <QAbstractItemView>
@@ -14,7 +18,7 @@ SXAddFilesDialog::SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& win
     setFileMode(QFileDialog::ExistingFiles);
     setLabelText(QFileDialog::Accept, tr("Add"));
     QStringList patterns;
-    for (const QString& ext : GlobalFun::getSupportedFmts())
+    for (const QString& ext : SXFolderScan::acceptedExtensions())
         patterns.append(QStringLiteral("*.") + ext);
     setNameFilters({tr("Audio and video files (%1)").arg(patterns.join(QLatin1Char(' '))),
                     tr("All files (*)")});

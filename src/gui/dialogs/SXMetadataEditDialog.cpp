@@ -1,7 +1,7 @@
 #include "gui/dialogs/SXMetadataEditDialog.h"
 
-#include "gui/dialogs/SXArtworkDropView.h"
 #include "base/SXLog.h"
+#include "gui/dialogs/SXArtworkDropView.h"
 
 #include <QFileDialog>
 #include <QFileInfo>
@@ -20,7 +20,6 @@ using namespace SXMetadataEditing;
 
 namespace {
 constexpr int kArtworkView = 200; // the artwork well is square
-constexpr int kNoticeHeight = 40;
 } // namespace
 
 SXMetadataEditDialog::SXMetadataEditDialog(QWidget* parent)
@@ -55,11 +54,8 @@ SXMetadataEditDialog::SXMetadataEditDialog(QWidget* parent)
     buttons->addStretch(1);
     buttons->addWidget(m_btnCancel);
     buttons->addWidget(m_btnOk);
-    auto* layout = new QVBoxLayout(this);
-    layout->addWidget(m_tabView, 1);
-    layout->addLayout(buttons);
-
-    // The notice lies over the content; it is moved into sight when the item cannot be edited.
+    // Above the fields, never over them: the fields of a format that cannot carry tags are
+    // shown disabled and the notice says why.
     m_viewdisable = new QLabel(kCanNotEditNotice, this);
     m_viewdisable->setObjectName(QStringLiteral("viewdisable"));
     m_viewdisable->setAlignment(Qt::AlignCenter);
@@ -68,6 +64,12 @@ SXMetadataEditDialog::SXMetadataEditDialog(QWidget* parent)
     m_viewdisable->setAutoFillBackground(true);
     m_viewdisable->setBackgroundRole(QPalette::ToolTipBase);
     m_viewdisable->setForegroundRole(QPalette::ToolTipText);
+    m_viewdisable->setMargin(8);
+    m_viewdisable->hide();
+    auto* layout = new QVBoxLayout(this);
+    layout->addWidget(m_viewdisable);
+    layout->addWidget(m_tabView, 1);
+    layout->addLayout(buttons);
     resize(520, 470);
     updateButtonState();
     enableEdit(false);
@@ -160,7 +162,6 @@ void SXMetadataEditDialog::setMusicInfo(const SXMusicInfoPtr& item) {
         m_session.begin(item);
     const bool editable = isCanEditable(item.get());
     enableEdit(editable);
-    showCanNotEditMetadataTips(editable);
     const auto tags = item ? item->metHandler() : nullptr;
     const MTEArtworkList images = tags ? tags->albumImg() : MTEArtworkList();
     m_imgChangeBase = images.isEmpty() ? QImage() : decodeArtwork(images.last());
@@ -235,30 +236,18 @@ void SXMetadataEditDialog::showEvent(QShowEvent* event) {
 // --- Editing allowed or not ---
 
 void SXMetadataEditDialog::enableEdit(bool flag) {
+    // Navigation, the tabs and Cancel stay usable: the user may look and move on.
     for (QWidget* control :
-         {static_cast<QWidget*>(m_btnPre), static_cast<QWidget*>(m_btnNext),
-          static_cast<QWidget*>(m_btnCancel), static_cast<QWidget*>(m_btnDeleteImg),
-          static_cast<QWidget*>(m_btnAddImg), static_cast<QWidget*>(m_ivArtworkImg),
-          static_cast<QWidget*>(m_sldScale)})
+         {static_cast<QWidget*>(m_btnDeleteImg), static_cast<QWidget*>(m_btnAddImg),
+          static_cast<QWidget*>(m_ivArtworkImg), static_cast<QWidget*>(m_sldScale)})
         control->setEnabled(flag);
     for (QLineEdit* line : std::as_const(m_lineFields))
-        line->setReadOnly(!flag);
+        line->setEnabled(flag);
     for (QPlainTextEdit* text : std::as_const(m_textFields))
-        text->setReadOnly(!flag);
+        text->setEnabled(flag);
+    m_viewdisable->setVisible(!flag);
     if (!flag)
-        m_viewdisable->setFocus(); // no field keeps the keyboard
-}
-
-void SXMetadataEditDialog::showCanNotEditMetadataTips(bool hide) {
-    m_noticeHidden = hide;
-    m_viewdisable->setGeometry(0, noticeStripY(hide, size()), width(), kNoticeHeight);
-    m_viewdisable->setVisible(!hide);
-    m_viewdisable->raise();
-}
-
-void SXMetadataEditDialog::resizeEvent(QResizeEvent* event) {
-    QDialog::resizeEvent(event);
-    showCanNotEditMetadataTips(m_noticeHidden);
+        m_viewdisable->setFocus(); // no disabled field keeps the keyboard
 }
 
 // --- Artwork ---

@@ -43,7 +43,6 @@ public:
 protected:
     void done(int result) override;
     void showEvent(QShowEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
 
 private:
     QWidget* buildTagsTab();
@@ -55,7 +54,6 @@ private:
     void updateButtonState();
     void resetImageSlider();
     void enableEdit(bool flag);
-    void showCanNotEditMetadataTips(bool hide);
     void showArtwork(const QImage& image);
     void storeArtwork(const MTEArtwork& artwork);
 
@@ -76,5 +74,4 @@ private:
     QPushButton* m_btnAddImg = nullptr;
     QPushButton* m_btnDeleteImg = nullptr;
     QLabel* m_viewdisable = nullptr;
-    bool m_noticeHidden = true;
 };

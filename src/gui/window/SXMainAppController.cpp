@@ -1,6 +1,10 @@
 #include "gui/window/SXMainAppController.h"
 
-#include "online/SXPreferences.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
@@ -16,8 +20,8 @@
 #include "gui/window/SXRunFeedback.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "gui/window/SXWindowToolbar.h"
+#include "online/SXPreferences.h"
 #include "player/SXAudioPlayer.h"
-#include "base/GlobalFun.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
 

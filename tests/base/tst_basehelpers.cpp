@@ -1,5 +1,9 @@
-#include "base/GlobalFun.h"
+#include "base/FileHelper.h"
+#include "base/SXAppIdentity.h"
+#include "base/SXFolderScan.h"
 #include "base/SXSettings.h"
+#include "base/SXSystemInfo.h"
+#include "base/SXTimeText.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -14,22 +18,22 @@ static void touch(const QString& path) {
     QVERIFY2(SonoriaTest::writeFile(path, {}), qPrintable(path));
 }
 
-class GlobalFunTest : public QObject {
+class BaseHelpersTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void versions() {
-        QCOMPARE(GlobalFun::normalizedVersion("3"), QStringLiteral("3.0.0"));
-        QCOMPARE(GlobalFun::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
-        QCOMPARE(GlobalFun::normalizedVersion("1.2.3.4"), QStringLiteral("1.2.3"));
+        QCOMPARE(SXAppIdentity::normalizedVersion("3"), QStringLiteral("3.0.0"));
+        QCOMPARE(SXAppIdentity::normalizedVersion("2.1"), QStringLiteral("2.1.0"));
+        QCOMPARE(SXAppIdentity::normalizedVersion("1.2.3.4"), QStringLiteral("1.2.3"));
         // The running kernel publishes its release under /proc too; both readings must agree.
         QFile osRelease("/proc/sys/kernel/osrelease");
         QVERIFY(osRelease.open(QIODevice::ReadOnly));
         qint64 major = 0, minor = 0, bugFix = 0;
-        QVERIFY(GlobalFun::getMajorMinorBugFix(&major, &minor, &bugFix));
+        QVERIFY(SXSystemInfo::kernelVersion(&major, &minor, &bugFix));
         QVERIFY(osRelease.readAll().startsWith(QString("%1.%2.").arg(major).arg(minor).toLatin1()));
-        QCOMPARE(GlobalFun::getSystemVersionString(),
+        QCOMPARE(SXSystemInfo::systemVersionString(),
                  QString("%1.%2.%3").arg(major).arg(minor).arg(bugFix));
-        QCOMPARE(GlobalFun::computerModelFromFile("/nonexistent/product_name"),
+        QCOMPARE(SXSystemInfo::computerModelFromFile("/nonexistent/product_name"),
                  QStringLiteral("PC"));
     }
 
@@ -48,7 +52,7 @@ private Q_SLOTS:
         QFETCH(bool, ok);
         QFETCH(QList<qint64>, numbers);
         QList<qint64> got{-1, -1, -1};
-        QCOMPARE(GlobalFun::versionNumbersFromRelease(release, &got[0], &got[1], &got[2]), ok);
+        QCOMPARE(SXSystemInfo::versionNumbersFromRelease(release, &got[0], &got[1], &got[2]), ok);
         QCOMPARE(got, numbers);
     }
 
@@ -66,8 +70,8 @@ private Q_SLOTS:
     void clockStrings() {
         QFETCH(double, seconds);
         QFETCH(QString, clock);
-        QCOMPARE(GlobalFun::getTimeStringBySecond(seconds), clock);
-        const double back = GlobalFun::getSecondsByTimeString(clock);
+        QCOMPARE(SXTimeText::clockString(seconds), clock);
+        const double back = SXTimeText::secondsOfClockString(clock);
         QCOMPARE(back, std::isnan(seconds) ? 0.0 : std::floor(qMin(seconds, 2147483647.0)));
     }
 
@@ -81,7 +85,7 @@ private Q_SLOTS:
                                             {"1h:2m:3.5s", 3723.5},
                                             {" +1: -1:.5", 3540.5},
                                             {"inf:nan:1", 1.0}})
-            QVERIFY2(GlobalFun::getSecondsByTimeString(text) == seconds, text);
+            QVERIFY2(SXTimeText::secondsOfClockString(text) == seconds, text);
     }
 
     void estimateWording_data() {
@@ -102,43 +106,42 @@ private Q_SLOTS:
     void estimateWording() {
         QFETCH(double, seconds);
         QFETCH(QString, wording);
-        QCOMPARE(GlobalFun::getEstimateStrBySecond(seconds), wording);
+        QCOMPARE(SXTimeText::remainingText(seconds), wording);
     }
 
     void uniquePathNeverNamesAnExistingEntry() {
         QTemporaryDir dir;
         const QString song = dir.filePath("song.mp3");
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), song);
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song"), "mp3"), song);
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song.MP3"), "mp3"),
+        QCOMPARE(FileHelper::unusedPath(song, "mp3"), song);
+        QCOMPARE(FileHelper::unusedPath(dir.filePath("song"), "mp3"), song);
+        QCOMPARE(FileHelper::unusedPath(dir.filePath("song.MP3"), "mp3"),
                  dir.filePath("song.MP3.mp3"));
         touch(song);
         touch(dir.filePath("song(1).mp3"));
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3"), dir.filePath("song(2).mp3"));
+        QCOMPARE(FileHelper::unusedPath(song, "mp3"), dir.filePath("song(2).mp3"));
         // A folder and a dangling link are taken names too.
         QVERIFY(QDir(dir.path()).mkdir("song(2).mp3"));
         QVERIFY(QFile::link(dir.filePath("nowhere"), dir.filePath("song(3).mp3")));
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("song(1).mp3"), "mp3"),
+        QCOMPARE(FileHelper::unusedPath(dir.filePath("song(1).mp3"), "mp3"),
                  dir.filePath("song(4).mp3"));
         // The counter belongs to the file name: a folder called "Album(1)" stays the folder.
         touch(dir.filePath("Album(1)/take.wav"));
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(dir.filePath("Album(1)/take"), "wav"),
+        QCOMPARE(FileHelper::unusedPath(dir.filePath("Album(1)/take"), "wav"),
                  dir.filePath("Album(1)/take(1).wav"));
         // Names another writer of this program has claimed count as taken too.
         const auto claimed = [&](const QString& p) { return p == dir.filePath("song(4).mp3"); };
-        QCOMPARE(GlobalFun::makeSureFullPathIdentical(song, "mp3", claimed),
-                 dir.filePath("song(5).mp3"));
+        QCOMPARE(FileHelper::unusedPath(song, "mp3", claimed), dir.filePath("song(5).mp3"));
     }
 
     void folderIsMadeSure() {
         QTemporaryDir dir;
-        QVERIFY(!GlobalFun::makeSureFolderExists(QString()));
-        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
+        QVERIFY(!FileHelper::makeSureFolderExists(QString()));
+        QVERIFY(FileHelper::makeSureFolderExists(dir.filePath("a/b/c")));
         QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
-        QVERIFY(GlobalFun::makeSureFolderExists(dir.filePath("a/b/c")));
+        QVERIFY(FileHelper::makeSureFolderExists(dir.filePath("a/b/c")));
         touch(dir.filePath("plain"));
-        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain")));
-        QVERIFY(!GlobalFun::makeSureFolderExists(dir.filePath("plain/below")));
+        QVERIFY(!FileHelper::makeSureFolderExists(dir.filePath("plain")));
+        QVERIFY(!FileHelper::makeSureFolderExists(dir.filePath("plain/below")));
     }
 
     void scanIsDepthFirstAndSurvivesLinkLoops() {
@@ -156,13 +159,13 @@ private Q_SLOTS:
         // Hidden entries (a trash folder, resource forks) stay out; files come before folders;
         // a file matching two filter entries comes once; depth first.
         const QStringList found =
-            GlobalFun::fileListAtDirenctory(dir.path(), {"MP3", "flac", "mp3", "wav"});
+            SXFolderScan::filesBelow(dir.path(), {"MP3", "flac", "mp3", "wav"});
         QStringList relative;
         for (const QString& path : found)
             relative.append(QDir(dir.path()).relativeFilePath(path));
         QCOMPARE(relative,
                  (QStringList{"alias.mp3", "song.mp3", "sub/clip.wav", "sub/deeper/track.Mp3"}));
-        QVERIFY(GlobalFun::fileListAtDirenctory(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
+        QVERIFY(SXFolderScan::filesBelow(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
     }
 
     // A folder lists as a file manager shows it: numbers by value, case aside.
@@ -173,27 +176,27 @@ private Q_SLOTS:
         for (auto name = names.crbegin(); name != names.crend(); ++name)
             touch(dir.filePath(*name));
         QStringList found;
-        for (const QString& path : GlobalFun::fileListAtDirenctory(dir.path(), {"flac"}))
+        for (const QString& path : SXFolderScan::filesBelow(dir.path(), {"flac"}))
             found.append(QFileInfo(path).fileName());
         QCOMPARE(found, names);
     }
 
     void supportedFormatsFollowExperimentalSwitch() {
-        const QStringList all = GlobalFun::getSupportedFmts();
+        const QStringList all = SXFolderScan::acceptedExtensions();
 
         bool experimental = false;
-        GlobalFun::setExperimentalSwitch([&experimental] { return experimental; });
+        SXFolderScan::setExperimentalSwitch([&experimental] { return experimental; });
         QStringList reduced = all;
         for (const char* gated : {"vob", "m4v", "m4r"})
             reduced.removeAll(gated);
         QCOMPARE(reduced.size(), all.size() - 3);
-        QCOMPARE(GlobalFun::getSupportedFmts(), reduced);
+        QCOMPARE(SXFolderScan::acceptedExtensions(), reduced);
         experimental = true;
-        QCOMPARE(GlobalFun::getSupportedFmts(), all);
-        GlobalFun::setExperimentalSwitch({});
-        QCOMPARE(GlobalFun::getSupportedFmts(), all);
+        QCOMPARE(SXFolderScan::acceptedExtensions(), all);
+        SXFolderScan::setExperimentalSwitch({});
+        QCOMPARE(SXFolderScan::acceptedExtensions(), all);
     }
 };
 
-SONORIA_TEST_MAIN(GlobalFunTest)
-#include "tst_globalfun.moc"
+SONORIA_TEST_MAIN(BaseHelpersTest)
+#include "tst_basehelpers.moc"
