@@ -1,11 +1,12 @@
-#include "desktop/SXSingleInstance.h"
 #include "DisplayCheck.h"
-#include "gui/application/SXDesktopApp.h"
 #include "RunFromEnvironment.h"
+#include "WindowScreenshot.h"
 #include "base/SXBundle.h"
 #include "base/SXLog.h"
 #include "base/SXSignalWatcher.h"
-#include "WindowScreenshot.h"
+#include "base/SXTranslations.h"
+#include "desktop/SXSingleInstance.h"
+#include "gui/application/SXDesktopApp.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -67,6 +68,7 @@ int main(int argc, char** argv) {
         return 1;
 
     QApplication app(argc, argv);
+    SXTranslations::install(app);
     QApplication::setApplicationDisplayName(SXBundle::productName());
     QApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
     parser.process(app);

@@ -2,6 +2,8 @@
 
 #include "model/SXDataEngine.h"
 
+#include <QCoreApplication>
+
 namespace {
 
 QString choiceLine(const QString& caption, const QStringList& offered, const QString& chosen) {
@@ -13,8 +15,9 @@ QString choiceLine(const QString& caption, const QStringList& offered, const QSt
 
 QString libraryText(int enumAddToLibrary) {
     if (enumAddToLibrary < 0)
-        return QStringLiteral("not offered");
-    return enumAddToLibrary == 1 ? QStringLiteral("offered, on") : QStringLiteral("offered, off");
+        return QCoreApplication::translate("CliCatalogue", "not offered");
+    return enumAddToLibrary == 1 ? QCoreApplication::translate("CliCatalogue", "offered, on")
+                                 : QCoreApplication::translate("CliCatalogue", "offered, off");
 }
 
 // Applies one choice; false with *error when the format does not offer it.
@@ -24,8 +27,9 @@ bool applyChoice(const QString& wanted, const QStringList& offered, const QStrin
         return true;
     const QString match = CliCatalogue::matchChoice(offered, wanted);
     if (match.isEmpty()) {
-        *error = QStringLiteral("%1 does not offer %2 \"%3\" (offered: %4)")
-                     .arg(format.fmtName(), what, wanted, offered.join(QStringLiteral(", ")));
+        *error =
+            QCoreApplication::translate("CliCatalogue", "%1 does not offer %2 \"%3\" (offered: %4)")
+                .arg(format.fmtName(), what, wanted, offered.join(QStringLiteral(", ")));
         return false;
     }
     *chosen = match;
@@ -36,19 +40,22 @@ bool applyChoice(const QString& wanted, const QStringList& offered, const QStrin
 
 QString CliCatalogue::formatListing() {
     const SXDataEngine* engine = SXDataEngine::shareInstance();
-    QString text = QStringLiteral("Output formats (* marks the default choice):\n");
+    QString text = QCoreApplication::translate("CliCatalogue",
+                                               "Output formats (* marks the default choice):\n");
     for (const QString& name : engine->getAllOutputFormats()) {
         const SXFormatSettingPtr format = engine->getFormatWithName(name);
         if (!format)
             continue;
         text += QStringLiteral("%1 (.%2): %3\n")
                     .arg(name, format->outputExtName(), format->fmtDescribe());
-        text += choiceLine(QStringLiteral("bit rates:"), format->aryBiteRate(), format->bitRate());
-        text += choiceLine(QStringLiteral("sample rates:"), format->arySampleRate(),
-                           format->sampleRate());
-        text += choiceLine(QStringLiteral("channels:"), format->aryChannels(), format->channels());
+        text += choiceLine(QCoreApplication::translate("CliCatalogue", "bit rates:"),
+                           format->aryBiteRate(), format->bitRate());
+        text += choiceLine(QCoreApplication::translate("CliCatalogue", "sample rates:"),
+                           format->arySampleRate(), format->sampleRate());
+        text += choiceLine(QCoreApplication::translate("CliCatalogue", "channels:"),
+                           format->aryChannels(), format->channels());
         text += QStringLiteral("    %1 %2\n")
-                    .arg(QStringLiteral("music library:"), -14)
+                    .arg(QCoreApplication::translate("CliCatalogue", "music library:"), -14)
                     .arg(libraryText(format->enumAddToLibrary()));
     }
     return text;
@@ -68,26 +75,30 @@ SXFormatSettingPtr CliCatalogue::settingForOptions(const CliOptions& options, QS
     SXFormatSettingPtr format = engine->getFormatWithName(options.formatName);
     if (!format) {
         *error =
-            QStringLiteral("unknown format \"%1\" (formats: %2)")
+            QCoreApplication::translate("CliCatalogue", "unknown format \"%1\" (formats: %2)")
                 .arg(options.formatName, engine->getAllOutputFormats().join(QStringLiteral(", ")));
         return nullptr;
     }
     QString bitrate = format->bitRate();
     QString samplerate = format->sampleRate();
     QString channels = format->channels();
-    if (!applyChoice(options.bitrate, format->aryBiteRate(), QStringLiteral("bit rate"), *format,
-                     &bitrate, error) ||
-        !applyChoice(options.samplerate, format->arySampleRate(), QStringLiteral("sample rate"),
-                     *format, &samplerate, error) ||
-        !applyChoice(options.channels, format->aryChannels(), QStringLiteral("channels"), *format,
-                     &channels, error))
+    if (!applyChoice(options.bitrate, format->aryBiteRate(),
+                     QCoreApplication::translate("CliCatalogue", "bit rate"), *format, &bitrate,
+                     error) ||
+        !applyChoice(options.samplerate, format->arySampleRate(),
+                     QCoreApplication::translate("CliCatalogue", "sample rate"), *format,
+                     &samplerate, error) ||
+        !applyChoice(options.channels, format->aryChannels(),
+                     QCoreApplication::translate("CliCatalogue", "channels"), *format, &channels,
+                     error))
         return nullptr;
     format->setBiteRate(bitrate);
     format->setSampleRate(samplerate);
     format->setChannels(channels);
 
     if (options.library && format->enumAddToLibrary() < 0) {
-        *error = QStringLiteral("%1 does not offer delivery to the music library")
+        *error = QCoreApplication::translate("CliCatalogue",
+                                             "%1 does not offer delivery to the music library")
                      .arg(format->fmtName());
         return nullptr;
     }

@@ -4,6 +4,7 @@
 #include "engine/LSMediaLoader.h"
 #include "workspace/SXFileInfoText.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 
@@ -23,9 +24,13 @@ public:
 QString artworkText(const SXMusicInfo& item) {
     const std::optional<MTEArtwork> artwork = SXFileInfoText::artworkForItem(item);
     if (!artwork)
-        return QStringLiteral("none");
-    const QString kind = artwork->mimeType.isEmpty() ? QStringLiteral("image") : artwork->mimeType;
-    return QStringLiteral("%1, %2 bytes").arg(kind).arg(artwork->data.size());
+        return QCoreApplication::translate("CliInfo", "none");
+    const QString kind = artwork->mimeType.isEmpty()
+                             ? QCoreApplication::translate("CliInfo", "image")
+                             : artwork->mimeType;
+    return QCoreApplication::translate("CliInfo", "%1, %n bytes", nullptr,
+                                       int(artwork->data.size()))
+        .arg(kind);
 }
 
 } // namespace
@@ -40,7 +45,8 @@ int CliInfo::printInfo(const QString& path) {
     loader->loadMediasWithMediaArray({item});
     loader->waitUntilDone();
     if (verdict.failed) {
-        CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot read \"%1\" as media")
+        CliOutput::line(stderr, QCoreApplication::translate(
+                                    "CliInfo", "sonoria-cli: cannot read \"%1\" as media")
                                     .arg(CliOutput::escaped(path)));
         return 1;
     }
@@ -52,7 +58,9 @@ int CliInfo::printInfo(const QString& path) {
                         .arg(line.caption + QLatin1Char(':'), -15)
                         .arg(CliOutput::escaped(line.text));
     }
-    text += QStringLiteral("%1 %2\n").arg(QStringLiteral("Artwork:"), -15).arg(artworkText(*item));
+    text += QStringLiteral("%1 %2\n")
+                .arg(QCoreApplication::translate("CliInfo", "Artwork:"), -15)
+                .arg(artworkText(*item));
     CliOutput::write(stdout, text);
     return 0;
 }

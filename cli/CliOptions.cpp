@@ -1,10 +1,12 @@
 #include "CliOptions.h"
 
 #include <QCommandLineParser>
+#include <QCoreApplication>
 
 namespace {
 
-const char* const kHelp = R"(Usage: sonoria-cli [options] FILE|FOLDER...
+const char* const kHelp =
+    QT_TRANSLATE_NOOP("CliOptionsParser", R"(Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
   -f, --format NAME       output format, a catalogue name (default "MP3")
@@ -25,7 +27,7 @@ Stored settings are read, never changed.
 Exit status: 0 every file converted; 1 a file failed, could not be loaded or was cancelled
 (also after SIGTERM, which cancels the run); 2 usage error; 130 interrupted by SIGINT (Ctrl-C
 cancels the run; partial outputs are removed).
-)";
+)");
 
 struct Declared {
     QCommandLineOption format{
@@ -58,7 +60,9 @@ struct Declared {
 bool checkSingleValues(const QCommandLineParser& parser, const Declared& declared, QString* error) {
     for (const QCommandLineOption& option : declared.all()) {
         if (!option.valueName().isEmpty() && parser.values(option).size() > 1) {
-            *error = QStringLiteral("option --%1 given more than once").arg(option.names().last());
+            *error =
+                QCoreApplication::translate("CliOptionsParser", "option --%1 given more than once")
+                    .arg(option.names().last());
             return false;
         }
     }
@@ -69,7 +73,9 @@ std::optional<int> parseJobs(const QString& text, QString* error) {
     bool ok = false;
     const int jobs = text.trimmed().toInt(&ok);
     if (!ok || jobs < 1) {
-        *error = QStringLiteral("--jobs needs a whole number of 1 or more, not \"%1\"").arg(text);
+        *error = QCoreApplication::translate("CliOptionsParser",
+                                             "--jobs needs a whole number of 1 or more, not \"%1\"")
+                     .arg(text);
         return std::nullopt;
     }
     return jobs;
@@ -78,7 +84,7 @@ std::optional<int> parseJobs(const QString& text, QString* error) {
 } // namespace
 
 QString CliOptionsParser::helpText() {
-    return QString::fromUtf8(kHelp);
+    return QCoreApplication::translate("CliOptionsParser", kHelp);
 }
 
 std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, QString* error) {
@@ -103,7 +109,7 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
         options.formatName = parser.value(declared.format);
     options.outputFolder = parser.value(declared.output);
     if (parser.isSet(declared.output) && options.outputFolder.isEmpty()) {
-        *error = QStringLiteral("--output needs a folder");
+        *error = QCoreApplication::translate("CliOptionsParser", "--output needs a folder");
         return std::nullopt;
     }
     options.organize = !parser.isSet(declared.noOrganize);
@@ -126,11 +132,13 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
         options.infoFile = parser.value(declared.info);
     }
     if (options.mode != CliOptions::Mode::Convert && !options.inputs.isEmpty()) {
-        *error = QStringLiteral("--list-formats and --info take no FILE|FOLDER arguments");
+        *error = QCoreApplication::translate(
+            "CliOptionsParser", "--list-formats and --info take no FILE|FOLDER arguments");
         return std::nullopt;
     }
     if (options.mode == CliOptions::Mode::Convert && options.inputs.isEmpty()) {
-        *error = QStringLiteral("no input: give at least one FILE or FOLDER (see --help)");
+        *error = QCoreApplication::translate(
+            "CliOptionsParser", "no input: give at least one FILE or FOLDER (see --help)");
         return std::nullopt;
     }
     return options;

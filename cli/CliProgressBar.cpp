@@ -7,6 +7,8 @@
 #include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -33,12 +35,16 @@ QString CliProgressBar::lineText(double percent, int done, int failed, int total
     const int filled = int(std::lround(shown * kBarWidth / 100.0));
     QString text = QStringLiteral("[") + QString(filled, QLatin1Char('#')) +
                    QString(kBarWidth - filled, QLatin1Char('-')) + QStringLiteral("] ");
-    text += QString::asprintf("%3.0f%%  %d/%d done", shown, done, total);
+    text += QCoreApplication::translate("CliProgressBar", "%1%  %2/%3 done")
+                .arg(QString::asprintf("%3.0f", shown))
+                .arg(done)
+                .arg(total);
     if (failed > 0)
-        text += QStringLiteral(", %1 failed").arg(failed);
+        text += QCoreApplication::translate("CliProgressBar", ", %1 failed").arg(failed);
     text += QStringLiteral(", ");
-    text += remaining < 0 ? QStringLiteral("estimating time remaining")
-                          : SXTimeText::remainingText(remaining);
+    text += remaining < 0
+                ? QCoreApplication::translate("CliProgressBar", "estimating time remaining")
+                : SXTimeText::remainingText(remaining);
     return text;
 }
 

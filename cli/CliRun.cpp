@@ -85,7 +85,7 @@ void CliRun::loadFinished(const SXMusicInfoList& failed) {
     for (const SXMusicInfoPtr& item : failed) {
         const LSMediaPtr media = item->mediaInfo();
         CliOutput::line(stderr,
-                        QStringLiteral("failed to load: %1: %2")
+                        QCoreApplication::translate("CliRun", "failed to load: %1: %2")
                             .arg(CliOutput::escaped(item->strFilePath()),
                                  CliOutput::escaped(SXFailureTexts::loadReason(media.get()))));
     }
@@ -114,13 +114,15 @@ void CliRun::printDryRun() {
         const QString name = media ? media->strOutFileName() : QString();
         const QString target =
             FileHelper::unusedPath(folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
-        text += QStringLiteral("would convert: %1 -> %2\n")
+        text += QCoreApplication::translate("CliRun", "would convert: %1 -> %2\n")
                     .arg(CliOutput::escaped(item->strFilePath()), CliOutput::escaped(target));
     }
-    text += QStringLiteral("%1 files would be converted to %2 in %3 (each with the name it would "
-                           "get now; nothing was converted or created)\n")
-                .arg(loaded.size())
-                .arg(m_setting->fmtName(), CliOutput::escaped(folder));
+    text +=
+        QCoreApplication::translate("CliRun",
+                                    "%n files would be converted to %1 in %2 (each with the "
+                                    "name it would get now; nothing was converted or created)\n",
+                                    nullptr, int(loaded.size()))
+            .arg(m_setting->fmtName(), CliOutput::escaped(folder));
     CliOutput::write(stdout, text);
 }
 
@@ -157,9 +159,9 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
     QString line;
     if (state == CvtStateFinished) {
         ++m_done;
-        line = outputFile.isEmpty()
-                   ? QStringLiteral("done: %1").arg(path)
-                   : QStringLiteral("done: %1 -> %2").arg(path, CliOutput::escaped(outputFile));
+        line = outputFile.isEmpty() ? QCoreApplication::translate("CliRun", "done: %1").arg(path)
+                                    : QCoreApplication::translate("CliRun", "done: %1 -> %2")
+                                          .arg(path, CliOutput::escaped(outputFile));
     } else if (const std::optional<SXPathFailure> failure =
                    SXFailureTexts::conversionFailure(*item)) {
         ++m_failed;
@@ -169,7 +171,7 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
             printFailed(*failure);
         return;
     } else if (state == CvtStateCanceled || item->dConvertProgress() == SXProgress::Canceled) {
-        line = QStringLiteral("cancelled: %1").arg(path);
+        line = QCoreApplication::translate("CliRun", "cancelled: %1").arg(path);
     } else {
         return;
     }
@@ -180,7 +182,7 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
 
 void CliRun::printFailed(const SXPathFailure& failure) {
     CliOutput::line(stdout,
-                    QStringLiteral("failed: %1: %2")
+                    QCoreApplication::translate("CliRun", "failed: %1: %2")
                         .arg(CliOutput::escaped(failure.path), CliOutput::escaped(failure.reason)));
 }
 
@@ -205,8 +207,8 @@ void CliRun::runFinished(int succeeded) {
         m_bar.update(m_workspace->getTotalConvertProgress() * 100.0, m_done, m_failed, m_total);
         CliOutput::write(stdout, QStringLiteral("\n"));
         for (const SXPathFailure& failure : std::as_const(failures))
-            CliOutput::line(stdout,
-                            QStringLiteral("failed: %1: %2").arg(failure.path, failure.reason));
+            CliOutput::line(stdout, QCoreApplication::translate("CliRun", "failed: %1: %2")
+                                        .arg(failure.path, failure.reason));
     }
     // The window's summary, built again from the escaped names so that none can break a line.
     CliOutput::line(stdout, SXWorkspaceScheduler::summaryMessage(succeeded, failures));
@@ -224,13 +226,15 @@ void CliRun::interrupt(int signalNumber) {
         return;
     m_interruptSignal = signalNumber;
     if (m_phase == Phase::Loading) {
-        CliOutput::line(stderr, QStringLiteral("sonoria-cli: interrupted, stopping the load"));
+        CliOutput::line(stderr, QCoreApplication::translate(
+                                    "CliRun", "sonoria-cli: interrupted, stopping the load"));
         m_workspace->cancelLoading();
     } else {
         if (m_terminal)
             m_bar.clear();
         CliOutput::line(stderr,
-                        QStringLiteral("sonoria-cli: interrupted, cancelling the conversions"));
+                        QCoreApplication::translate(
+                            "CliRun", "sonoria-cli: interrupted, cancelling the conversions"));
         m_workspace->cancelAll();
     }
 }

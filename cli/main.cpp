@@ -5,6 +5,7 @@
 #include "CliRun.h"
 #include "base/SXLog.h"
 #include "base/SXSignalWatcher.h"
+#include "base/SXTranslations.h"
 
 #include <QCoreApplication>
 
@@ -25,7 +26,8 @@ int runConversion(const CliOptions& options) {
     SXSignalWatcher watcher;
     QObject::connect(&watcher, &SXSignalWatcher::received, &run, &CliRun::interrupt);
     if (!watcher.install(SXSignalWatcher::terminationSignals()))
-        CliOutput::line(stderr, QStringLiteral("sonoria-cli: cannot watch for interrupts"));
+        CliOutput::line(stderr, QCoreApplication::translate(
+                                    "main", "sonoria-cli: cannot watch for interrupts"));
     run.start();
     return QCoreApplication::exec();
 }
@@ -37,6 +39,7 @@ int main(int argc, char** argv) {
     // carries on and its files are whole.
     SXSignalWatcher::ignoreBrokenPipe();
     QCoreApplication app(argc, argv);
+    SXTranslations::install(app);
     QString error;
     const std::optional<CliOptions> options =
         CliOptionsParser::parse(QCoreApplication::arguments(), &error);

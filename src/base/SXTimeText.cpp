@@ -4,7 +4,6 @@
 
 #include <charconv>
 #include <cmath>
-#include <cstdio>
 #include <limits>
 #include <system_error>
 
@@ -84,30 +83,30 @@ double SXTimeText::secondsOfClockString(const QString& timeString) {
 }
 
 QString SXTimeText::remainingText(double seconds) {
-    const QString remaining = QStringLiteral("%1 %2 %3 %4 remaining");
+    // Each source text is picked by the rule users have always read ("1 seconds" under 1.5 s,
+    // "minite" up to 119 s), so that without a catalogue the words stay as they were; a
+    // catalogue gives every one of them proper plural forms from the count itself.
     if (seconds < 60) {
-        // printf rounds the value; the plural test deliberately looks at the unrounded one.
-        char number[512];
-        std::snprintf(number, sizeof number, "%0.0f", seconds);
-        return QStringLiteral("%1 %2 remaining")
-            .arg(QString::fromLatin1(number),
-                 seconds > 1.0 ? QStringLiteral("seconds") : QStringLiteral("second"));
+        // printf rounds the value; the choice of word deliberately looks at the unrounded one.
+        const int shown = int(std::nearbyint(seconds));
+        return seconds > 1.0 ? tr("%n seconds remaining", nullptr, shown)
+                             : tr("%n second remaining", nullptr, shown);
     }
     if (seconds < 3600) {
         const int whole = truncatedToInt(seconds);
         const int minutes = whole / 60;
         const int rest = truncatedToInt(seconds - minutes * 60.0) % 60;
-        return remaining.arg(minutes)
-            .arg(whole > 119 ? QStringLiteral("minites") : QStringLiteral("minite"))
-            .arg(rest)
-            .arg(rest > 1 ? QStringLiteral("seconds") : QStringLiteral("second"));
+        return tr("%1 %2 remaining")
+            .arg(whole > 119 ? tr("%n minites", nullptr, minutes)
+                             : tr("%n minite", nullptr, minutes),
+                 rest > 1 ? tr("%n seconds", nullptr, rest) : tr("%n second", nullptr, rest));
     }
     // An hour or more, and NaN, which fails both tests above.
     const int whole = truncatedToInt(seconds);
     const int hours = whole / 3600;
     const int rest = truncatedToInt(seconds - hours * 3600.0);
-    return remaining.arg(hours)
-        .arg(whole > 7199 ? QStringLiteral("hours") : QStringLiteral("hour"))
-        .arg(rest / 60)
-        .arg(rest > 119 ? QStringLiteral("minites") : QStringLiteral("minite"));
+    return tr("%1 %2 remaining")
+        .arg(whole > 7199 ? tr("%n hours", nullptr, hours) : tr("%n hour", nullptr, hours),
+             rest > 119 ? tr("%n minites", nullptr, rest / 60)
+                        : tr("%n minite", nullptr, rest / 60));
 }

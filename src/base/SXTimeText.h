@@ -1,10 +1,13 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 // Clock strings and the time-remaining wording of the rows and the summary. Static and safe to
 // call from worker threads.
 class SXTimeText {
+    Q_DECLARE_TR_FUNCTIONS(SXTimeText)
+
 public:
     // "hh:mm:ss" (hours are never cut to two digits: 360000 s give "100:00:00").
     static QString clockString(double seconds);
@@ -13,6 +16,7 @@ public:
     // "h:m:s" to seconds; each piece is read as a decimal number from its start, a piece that
     // does not begin with one counts 0, pieces after the third are ignored.
     static double secondsOfClockString(const QString& timeString);
-    // "2 minites 5 seconds remaining": the unit words are kept exactly as users know them.
+    // "2 minites 5 seconds remaining" as the source text; the catalogue of the user's language
+    // (the English one included) gives the words their proper plural forms.
     static QString remainingText(double seconds);
 };

@@ -14,10 +14,6 @@
 
 namespace {
 
-QString tr(const char* text) {
-    return QCoreApplication::translate("ConvertFailure", text);
-}
-
 // The last line of `output` that matches `pattern`, trimmed; empty when none does.
 QString lastLineMatching(const QString& output, const QRegularExpression& pattern) {
     const QStringList lines =

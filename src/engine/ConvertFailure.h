@@ -1,11 +1,14 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QString>
 
 // Why a conversion failed, in the words a user reads: from an error number of the system, from
 // what ffmpeg printed, or from what the check of the finished output found. Every text is a
 // translatable source string of the "ConvertFailure" context.
 class ConvertFailure {
+    Q_DECLARE_TR_FUNCTIONS(ConvertFailure)
+
 public:
     // The system's error `error` (errno) met while writing into the output folder.
     static QString fromErrno(int error);

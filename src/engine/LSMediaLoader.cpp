@@ -1,8 +1,8 @@
 #include "engine/LSMediaLoader.h"
 
+#include "base/SXLog.h"
 #include "framework/HVMediaInfo.h"
 #include "framework/MTEAudioFileMgr.h"
-#include "base/SXLog.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -25,10 +25,9 @@ void readFileAttributes(LSMedia& media) {
     const QFileInfo info(media.filePath());
     if (!info.exists())
         return;
-    // The pattern pairs the 24-hour clock with an upper-case AM/PM marker; the panel has always
-    // shown it so. In Qt's patterns "a" writes the marker in lower case, "AP" in upper case.
-    media.setStrLastModified(
-        QLocale::system().toString(info.lastModified(), QStringLiteral("d/M/yy H:m AP")));
+    // The user's own short date and time: the order of day and month and the clock (12 or 24
+    // hours) differ between locales.
+    media.setStrLastModified(QLocale().toString(info.lastModified(), QLocale::ShortFormat));
     media.setDFileSize(double(info.size()));
 }
 

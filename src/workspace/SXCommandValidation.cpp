@@ -3,6 +3,8 @@
 #include "model/SXDataEngine.h"
 #include "workspace/SXWorkspace.h"
 
+#include <QCoreApplication>
+
 SXCommandContext SXCommandContext::of(const SXWorkspace* primary, const SXWorkspace* key,
                                       bool primaryOpen) {
     SXCommandContext context;
@@ -81,10 +83,12 @@ bool sxValidateToolbarCommand(SXCommand command, int state, int totalItems, bool
 
 SXToolbarLook sxStartToolbarLook(int state) {
     if (state == AppStateConverting)
-        return {QStringLiteral("stopConvert"), QStringLiteral("Stop"),
-                QStringLiteral("Stop convert all files")};
-    return {QStringLiteral("startConverter"), QStringLiteral("Start"),
-            QStringLiteral("Start convert all files")};
+        return {QStringLiteral("stopConvert"),
+                QCoreApplication::translate("SXCommandValidation", "Stop"),
+                QCoreApplication::translate("SXCommandValidation", "Stop convert all files")};
+    return {QStringLiteral("startConverter"),
+            QCoreApplication::translate("SXCommandValidation", "Start"),
+            QCoreApplication::translate("SXCommandValidation", "Start convert all files")};
 }
 
 bool sxSettingPanelEnabled(int state) {

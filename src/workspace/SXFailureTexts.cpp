@@ -1,13 +1,5 @@
 #include "workspace/SXFailureTexts.h"
 
-#include <QCoreApplication>
-
-namespace {
-QString tr(const char* text, int count = -1) {
-    return QCoreApplication::translate("SXFailureTexts", text, nullptr, count);
-}
-} // namespace
-
 QString SXFailureTexts::conversionReason(const LSMedia* media) {
     const QString reason = media ? media->failReason() : QString();
     // An ffmpeg that ends with an error status is the one failure that comes without words.
@@ -36,9 +28,10 @@ QString SXFailureTexts::detailLines(const SXPathFailureList& failures) {
 
 QString SXFailureTexts::runCounts(int succeeded, int failed, int notLoaded) {
     // Worded so that each count reads correctly in English whatever its number.
-    QString text = tr("Converted: %n.", succeeded) + QLatin1Char(' ') + tr("Failed: %n.", failed);
+    QString text = tr("Converted: %n.", nullptr, succeeded) + QLatin1Char(' ') +
+                   tr("Failed: %n.", nullptr, failed);
     if (notLoaded > 0)
-        text += QLatin1Char(' ') + tr("Not loaded: %n.", notLoaded);
+        text += QLatin1Char(' ') + tr("Not loaded: %n.", nullptr, notLoaded);
     return text;
 }
 

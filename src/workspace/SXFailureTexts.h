@@ -1,14 +1,17 @@
 #pragma once
 
-#include "model/SXMusicInfo.h"
 #include "base/SXPathFailure.h"
+#include "model/SXMusicInfo.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <optional>
 
 // What the front ends say about failures: the reason of one item, the detailed list of an
 // alert, the counts of a run. Shared by the window, its notification and the command-line tool.
 class SXFailureTexts {
+    Q_DECLARE_TR_FUNCTIONS(SXFailureTexts)
+
 public:
     // The record's reason, or a general one when the conversion gave none.
     static QString conversionReason(const LSMedia* media);

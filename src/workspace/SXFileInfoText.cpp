@@ -6,20 +6,36 @@
 #include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXReadableNames.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QLocale>
 
 namespace {
 
-const QString kUnknown = QStringLiteral("Unknow");
+// "Unknow" is the source text the panel has always shown; the catalogues spell it.
+QString unknownText() {
+    return SXFileInfoText::tr("Unknow");
+}
 
 QString orUnknown(const QString& text) {
-    return text.isEmpty() ? kUnknown : text;
+    return text.isEmpty() ? unknownText() : text;
 }
 
 QString codecName(const LSMedia* media) {
-    return media ? media->strAudioCodecName().toUpper() : QString();
+    return media ? SXReadableNames::codecName(media->strAudioCodecName()) : QString();
+}
+
+// PCM is constant by nature and lossless codecs follow the music; for a lossy stream the probe
+// cannot tell.
+QString bitRateModeText(const LSMedia* media) {
+    const QString codec = media ? media->strAudioCodecName() : QString();
+    if (codec.startsWith(QLatin1String("pcm_")))
+        return SXFileInfoText::tr("Constant");
+    if (SXReadableNames::isLossless(codec))
+        return SXFileInfoText::tr("Variable");
+    return SXFileInfoText::tr("mod");
 }
 
 // Title falls back to the file's name without its last extension, never to "Unknow".
@@ -33,8 +49,7 @@ QString titleText(const MTEAudioFile* tags, const LSMedia* media) {
 // Why the item's last run failed; shown only for an item that failed.
 SXFileInfoLine failureLine(const SXMusicInfo& item) {
     const std::optional<SXPathFailure> failure = SXFailureTexts::conversionFailure(item);
-    return {QStringLiteral("tfInfoFailReason"),
-            QCoreApplication::translate("SXFileInfoText", "Failed because"),
+    return {QStringLiteral("tfInfoFailReason"), SXFileInfoText::tr("Failed because"),
             failure ? failure->reason : QString(), failure.has_value()};
 }
 
@@ -48,8 +63,8 @@ QString SXFileInfoText::bitRateText(const MTEAudioFile* tags, const LSMedia* med
     else if (media)
         kbps = media->audioBitrate() / 1000.0;
     else
-        return kUnknown;
-    return orUnknown(QString::asprintf("%.0fkbps", kbps));
+        return unknownText();
+    return tr("%1kbps").arg(QLocale().toString(kbps, 'f', 0));
 }
 
 QString SXFileInfoText::sampleRateText(const MTEAudioFile* tags, const LSMedia* media) {
@@ -59,12 +74,12 @@ QString SXFileInfoText::sampleRateText(const MTEAudioFile* tags, const LSMedia* 
     else if (media)
         hertz = media->audioSamplerate();
     else
-        return kUnknown;
-    return orUnknown(QString::asprintf("%.1fkHz", hertz / 1000.0));
+        return unknownText();
+    return tr("%1kHz").arg(QLocale().toString(hertz / 1000.0, 'f', 1));
 }
 
 QString SXFileInfoText::fileSizeText(double bytes) {
-    return QString::asprintf("%.1fM", bytes / (1024.0 * 1024.0));
+    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat);
 }
 
 QString SXFileInfoText::id3TagText(const QString& tagVersion) {
@@ -74,9 +89,9 @@ QString SXFileInfoText::id3TagText(const QString& tagVersion) {
 }
 
 QString SXFileInfoText::kindText(const QString& filePath, int mediaType) {
-    const QString kind =
-        mediaType == HVMediaTypeAudio ? QStringLiteral("audio file") : QStringLiteral("video file");
-    return QStringLiteral("%1 %2").arg(QFileInfo(filePath).suffix().toUpper(), kind);
+    const QString suffix = QFileInfo(filePath).suffix().toUpper();
+    return mediaType == HVMediaTypeAudio ? tr("%1 audio file").arg(suffix)
+                                         : tr("%1 video file").arg(suffix);
 }
 
 QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
@@ -86,36 +101,39 @@ QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
     const LSMedia* media = mediaRecord.get();
     const int channels = media ? media->audioChannels() : 0;
     const QString tagVersion = tags ? tags->strTagVersion() : QString();
+    // The revision within the family ("v2.4" of "ID3 v2.4"); "RIFF INFO" and "MP4" have none.
+    QString tagRevision = id3TagText(tagVersion);
+    if (!tagRevision.startsWith(QLatin1Char('v')))
+        tagRevision.clear();
     const QString path = media ? media->filePath() : QString();
 
+    // In reading order: what the music is, then what the file holds, then where it lies.
     return {
-        {QStringLiteral("tfInfoAlbum"), QStringLiteral("Album"),
-         orUnknown(tags ? tags->album() : QString())},
-        {QStringLiteral("tfInfoArtist"), QStringLiteral("Artist"),
+        {QStringLiteral("tfInfoTitle"), tr("Title"), titleText(tags, media)},
+        {QStringLiteral("tfInfoArtist"), tr("Artist"),
          orUnknown(tags ? tags->artist() : QString())},
-        {QStringLiteral("tfInfoBitRate"), QStringLiteral("Bit rate"), bitRateText(tags, media)},
-        {QStringLiteral("tfInfoBitRateMode"), QStringLiteral("Bit rate mode"),
-         QStringLiteral("mod")},
-        {QStringLiteral("tfInfoChannels"), QStringLiteral("Channels"),
-         channels == 2 ? QStringLiteral("Stereo") : QStringLiteral("Mono")},
-        {QStringLiteral("tfInfoChannelsMod"), QStringLiteral("Channel count"),
-         QString::asprintf("%d", channels)},
-        {QStringLiteral("tfInfoDateMdf"), QStringLiteral("Date modified"),
-         media ? media->strLastModified() : QString()},
-        {QStringLiteral("tfInfoEncodeWith"), QStringLiteral("Encoded with"), codecName(media)},
-        {QStringLiteral("tfInfoFileSize"), QStringLiteral("Size"),
-         fileSizeText(media ? media->dFileSize() : 0)},
-        {QStringLiteral("tfInfoFormat"), QStringLiteral("Format"), codecName(media)},
-        {QStringLiteral("tfInfoId3Tag"), QStringLiteral("ID3 tag"), id3TagText(tagVersion)},
-        {QStringLiteral("tfInfoKind"), QStringLiteral("Kind"),
+        {QStringLiteral("tfInfoAlbum"), tr("Album"), orUnknown(tags ? tags->album() : QString())},
+        {QStringLiteral("tfInfoKind"), tr("Kind"),
          kindText(path, media ? media->eumMediaType() : HVMediaTypeUnknown)},
-        {QStringLiteral("tfInfoLength"), QStringLiteral("Length"),
+        {QStringLiteral("tfInfoFormat"), tr("Format"), codecName(media)},
+        {QStringLiteral("tfInfoEncodeWith"), tr("Encoded with"), codecName(media)},
+        {QStringLiteral("tfInfoLength"), tr("Length"),
          media ? SXTimeText::clockString(media->duration()) : QString()},
-        {QStringLiteral("tfInfoSampleRate"), QStringLiteral("Sample rate"),
-         sampleRateText(tags, media)},
-        {QStringLiteral("tfInfoTagFmt"), QStringLiteral("Tag format"), tagVersion},
-        {QStringLiteral("tfInfoTitle"), QStringLiteral("Title"), titleText(tags, media)},
-        {QStringLiteral("tfInfoWhere"), QStringLiteral("Where"), path},
+        {QStringLiteral("tfInfoBitRate"), tr("Bit rate"), bitRateText(tags, media)},
+        {QStringLiteral("tfInfoBitRateMode"), tr("Bit rate mode"), bitRateModeText(media)},
+        {QStringLiteral("tfInfoSampleRate"), tr("Sample rate"), sampleRateText(tags, media)},
+        {QStringLiteral("tfInfoChannels"), tr("Channels"),
+         orUnknown(SXReadableNames::channelsName(channels))},
+        {QStringLiteral("tfInfoChannelsMod"), tr("Channel count"), QLocale().toString(channels)},
+        {QStringLiteral("tfInfoFileSize"), tr("Size"),
+         fileSizeText(media ? media->dFileSize() : 0)},
+        {QStringLiteral("tfInfoTagFmt"), tr("Tag format"),
+         SXReadableNames::tagFamilyName(tagVersion)},
+        // A family without revisions shows no line.
+        {QStringLiteral("tfInfoId3Tag"), tr("Tag version"), tagRevision, !tagRevision.isEmpty()},
+        {QStringLiteral("tfInfoDateMdf"), tr("Date modified"),
+         media ? media->strLastModified() : QString()},
+        {QStringLiteral("tfInfoWhere"), tr("Where"), path},
         failureLine(item),
     };
 }

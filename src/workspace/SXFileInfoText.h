@@ -3,6 +3,7 @@
 #include "framework/MTEAudioFile.h"
 #include "model/SXMusicInfo.h"
 
+#include <QCoreApplication>
 #include <QList>
 #include <QString>
 #include <optional>
@@ -16,13 +17,17 @@ struct SXFileInfoLine {
     bool shown = true; // false for a label that has nothing to say for this item
 };
 
-// The texts of the file information panel for one item, with every fallback the panel has
-// always shown ("Unknow", "mod", "Mono" for anything but two channels). The window's panel and
-// the command-line tool both take their texts from here, so they cannot disagree.
+// The texts of the file information panel for one item: names people know for codecs, channels
+// and tag families, numbers, sizes and dates as the user's locale writes them, and the source
+// texts the panel has always shown ("Unknow", "mod"), which the catalogues word properly. The
+// window's panel and the command-line tool both take their texts from here, so they cannot
+// disagree.
 class SXFileInfoText {
+    Q_DECLARE_TR_FUNCTIONS(SXFileInfoText)
+
 public:
-    // Every label in the order the panel fills them. A missing tag handle or media record
-    // yields the fallbacks, never a failure.
+    // Every label in the order the panel shows them, title first. A missing tag handle or media
+    // record yields the fallbacks, never a failure.
     static QList<SXFileInfoLine> linesForItem(const SXMusicInfo& item);
     // The text of one label by name (empty when the name is not a label of the panel).
     static QString textForLabel(const QList<SXFileInfoLine>& lines, const QString& labelName);

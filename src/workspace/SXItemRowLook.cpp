@@ -6,6 +6,7 @@
 #include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
+#include "workspace/SXReadableNames.h"
 #include "workspace/SXWorkspaceData.h"
 
 #include <QFileInfo>
@@ -20,7 +21,7 @@ SXItemRowTexts SXItemRowLookRules::textsForItem(const SXMusicInfoPtr& item) {
         texts.artist = tags->artist();
     if (const LSMediaPtr media = item->mediaInfo()) {
         texts.duration = SXTimeText::clockString(media->duration());
-        texts.codec = media->strAudioCodecName();
+        texts.codec = SXReadableNames::codecName(media->strAudioCodecName());
     }
     return texts;
 }
@@ -29,17 +30,17 @@ SXStateButtonLook SXItemRowLookRules::stateButtonLook(double progress) {
     const int value = int(progress);
     switch (value) {
     case int(SXProgress::Waiting):
-        return {QStringLiteral("pending"), QStringLiteral("pending")};
+        return {QStringLiteral("pending"), tr("pending")};
     case int(SXProgress::Sending):
-        return {QStringLiteral("sending"), QStringLiteral("sending")};
+        return {QStringLiteral("sending"), tr("sending")};
     case int(SXProgress::Done):
-        return {QStringLiteral("finish"), QStringLiteral("finish")};
+        return {QStringLiteral("finish"), tr("finish")};
     case int(SXProgress::Failed):
-        return {QStringLiteral("error"), QStringLiteral("error")};
+        return {QStringLiteral("error"), tr("error")};
     case int(SXProgress::Canceled):
-        return {QStringLiteral("canceled"), QStringLiteral("canceled")};
+        return {QStringLiteral("canceled"), tr("canceled")};
     default:
-        return {QStringLiteral("progress-background"), QStringLiteral("converting"), value / 100.0};
+        return {QStringLiteral("progress-background"), tr("converting"), value / 100.0};
     }
 }
 

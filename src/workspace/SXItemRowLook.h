@@ -2,6 +2,7 @@
 
 #include "model/SXMusicInfo.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 class SXWorkspaceData;
@@ -11,7 +12,7 @@ struct SXItemRowTexts {
     QString name;     // file name without its extension
     QString artist;   // from the tag handle
     QString duration; // SXTimeText::clockString of the media record's duration
-    QString codec;    // the media record's audio codec
+    QString codec;    // the media record's audio codec by its common name ("PCM 16-bit")
 };
 
 // The round state button of a row: its image, its tool tip and, while converting, the share of
@@ -32,6 +33,8 @@ struct SXItemRowLook {
 // How the rows of the list look, decided once for the window and every other front end. A row
 // reads only the cached fields of its item, never the disk.
 class SXItemRowLookRules {
+    Q_DECLARE_TR_FUNCTIONS(SXItemRowLookRules)
+
 public:
     // Every label empty for a missing item.
     static SXItemRowTexts textsForItem(const SXMusicInfoPtr& item);

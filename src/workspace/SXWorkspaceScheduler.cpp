@@ -242,10 +242,11 @@ void SXWorkspaceScheduler::finishRun() {
 }
 
 QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
-    QString message = QStringLiteral("%1 files has been successfully converted.").arg(succeeded);
+    // The counts stand in their sentences so that a catalogue can give each its plural form.
+    QString message = tr("%n files has been successfully converted.", nullptr, succeeded);
     if (failures.isEmpty())
         return message;
-    message += QStringLiteral("except %1 files failed,including:").arg(failures.size());
+    message += tr("except %n files failed,including:", nullptr, int(failures.size()));
     for (int i = 0; i < failures.size(); ++i) {
         if (i == 3) {
             message += QStringLiteral("...");

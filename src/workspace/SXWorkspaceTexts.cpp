@@ -2,6 +2,8 @@
 
 #include "workspace/SXWorkspaceData.h"
 
+#include <QLocale>
+
 #include <cmath>
 
 QString SXWorkspaceTexts::helpBarText(const SXWorkspaceData& workspace) {
@@ -20,27 +22,37 @@ QString SXWorkspaceTexts::helpBarText(const SXWorkspaceData& workspace) {
     }
     if (files == 0)
         return QString();
-    return QString::asprintf("%d files, %.1f hours, %.1f MB in %d containers", files,
-                             seconds / 3600.0, bytes / 1048576.0, int(containers.size()));
+    // The counts choose their source text the way the words always read ("1 containers"); the
+    // catalogue gives each count its plural form.
+    const int containerCount = int(containers.size());
+    const QLocale locale;
+    return tr("%n files, %1 hours, %2 in %3", nullptr, files)
+        .arg(locale.toString(seconds / 3600.0, 'f', 1),
+             locale.formattedDataSize(qint64(bytes), 1, QLocale::DataSizeTraditionalFormat),
+             tr("%n containers", nullptr, containerCount));
 }
 
 QString SXWorkspaceTexts::tabToolTip(const SXFormatSettingPtr& setting) {
-    return setting ? QStringLiteral("Converter to ") + setting->fmtDescribe() : QString();
+    return setting ? tr("Converter to %1").arg(setting->fmtDescribe()) : QString();
 }
 
 QString SXWorkspaceTexts::countNoun(int count) {
-    return count == 1 ? QStringLiteral("item") : QStringLiteral("items");
+    return count == 1 ? tr("item") : tr("items");
+}
+
+QString SXWorkspaceTexts::countText(int count) {
+    return count == 1 ? tr("%n item", nullptr, count) : tr("%n items", nullptr, count);
 }
 
 QString SXWorkspaceTexts::tabAccessibleName(const QString& label, int count) {
-    return QStringLiteral("%1, %2 %3").arg(label).arg(count).arg(countNoun(count));
+    return tr("%1, %2").arg(label, countText(count));
 }
 
 QString SXWorkspaceTexts::windowTitle(const QString& appName, int state, double percent) {
     if (state != AppStateConverting)
         return appName;
     const int whole = std::isnan(percent) ? 0 : int(std::clamp(percent, 0.0, 100.0));
-    return QStringLiteral("%1% \u2014 %2").arg(whole).arg(appName);
+    return tr("%1% — %2").arg(whole).arg(appName);
 }
 
 QString SXWorkspaceTexts::cappedNameLines(const QStringList& names) {

@@ -1,5 +1,5 @@
-#include "framework/MTEAudioFile.h"
 #include "engine/LSMediaLoader.h"
+#include "framework/MTEAudioFile.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
@@ -140,9 +140,8 @@ private Q_SLOTS:
         const LSMediaPtr good = batch[0]->mediaInfo();
         QVERIFY(good->dAOBitrate() == 128 && good->dAOSamplerate() == 44100 &&
                 good->iAOChannels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
-        // 24-hour clock, no leading zeros, and the marker in upper case ("PM", never "pm").
-        QCOMPARE(good->strLastModified(),
-                 QStringLiteral("7/3/21 14:5 ") + QLocale::system().pmText().toUpper());
+        // The locale's own short format, never a 24-hour clock with a marker ("14:5 PM").
+        QCOMPARE(good->strLastModified(), QLocale().toString(stamp, QLocale::ShortFormat));
         QVERIFY(batch[0]->metHandler() && batch[2]->metHandler());
         QCOMPARE(batch[2]->mediaInfo()->iAOChannels(), 2);
         QCOMPARE(batch[3]->mediaInfo()->iAOChannels(), 6);

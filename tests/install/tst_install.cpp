@@ -116,6 +116,7 @@ void TestInstall::installsEveryFileInPlace_data() {
     QTest::newRow("manual") << u"share/man/man1/sonoria.1.gz"_s << false;
     QTest::newRow("tool manual") << u"share/man/man1/sonoria-cli.1.gz"_s << false;
     QTest::newRow("help page") << u"share/sonoria/help.html"_s << false;
+    QTest::newRow("English catalogue") << u"share/sonoria/translations/sonoria_en.qm"_s << false;
 }
 
 void TestInstall::installsEveryFileInPlace() {

@@ -1,18 +1,19 @@
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
+#include "support/TemporaryHome.h"
 #include "workspace/SXCommandValidation.h"
 #include "workspace/SXFormatChooser.h"
 #include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXStateStripModel.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
-#include "support/TemporaryHome.h"
 
 #include "WorkspaceTestPresenter.h"
 
 #include <QDirIterator>
+#include <QLocale>
 #include <QSettings>
 
 using namespace Qt::StringLiterals;
@@ -296,6 +297,8 @@ void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
 }
 
 void TestWindowDecisions::helpBarSumsEveryContainer() {
+    // The hours and the size are written as the locale writes numbers.
+    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     SXWorkspace workspace;
     workspace.setData({}, u"AAC"_s);
     workspace.setData({}, u"MP3"_s);
