@@ -242,11 +242,14 @@ void SXWorkspaceScheduler::finishRun() {
 }
 
 QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
-    // The counts stand in their sentences so that a catalogue can give each its plural form.
-    QString message = tr("%n files has been successfully converted.", nullptr, succeeded);
+    // The counts stand in their sentences so that a catalogue can give each its plural form. The
+    // context is named, so the catalogue's entries stay whichever class builds the summary.
+    QString message = QCoreApplication::translate(
+        "SXWorkspaceScheduler", "%n files has been successfully converted.", nullptr, succeeded);
     if (failures.isEmpty())
         return message;
-    message += tr("except %n files failed,including:", nullptr, int(failures.size()));
+    message += QCoreApplication::translate(
+        "SXWorkspaceScheduler", "except %n files failed,including:", nullptr, int(failures.size()));
     for (int i = 0; i < failures.size(); ++i) {
         if (i == 3) {
             message += QStringLiteral("...");

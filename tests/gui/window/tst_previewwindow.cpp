@@ -114,8 +114,8 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     workspace.setSelectedRows({1}); // it follows the selection
     const QList<QPair<QString, QString>> fallbacks{
         {u"tfInfoAlbum"_s, u"Unknow"_s},        {u"tfInfoArtist"_s, u"Unknow"_s},
-        {u"tfInfoChannels"_s, u"Mono"_s},       {u"tfInfoChannelsMod"_s, u"6"_s},
-        {u"tfInfoFileSize"_s, u"3.0M"_s},       {u"tfInfoTitle"_s, u"surround"_s},
+        {u"tfInfoChannels"_s, u"5.1"_s},        {u"tfInfoChannelsMod"_s, u"6"_s},
+        {u"tfInfoFileSize"_s, u"3.0 MB"_s},     {u"tfInfoTitle"_s, u"surround"_s},
         {u"tfInfoKind"_s, u"FLAC audio file"_s}};
     for (const auto& [label, text] : fallbacks)
         QCOMPARE(panel->labelText(label), text);
