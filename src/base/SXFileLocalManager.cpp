@@ -18,3 +18,15 @@ QString SXFileLocalManager::musicDirectory() {
     const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     return QDir::cleanPath(music.isEmpty() ? QDir::homePath() + QStringLiteral("/Music") : music);
 }
+
+QString SXFileLocalManager::processHome() {
+    return QDir::homePath();
+}
+
+QString SXFileLocalManager::documentsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString SXFileLocalManager::dataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
+}
