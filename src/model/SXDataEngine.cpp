@@ -1,11 +1,11 @@
 #include "model/SXDataEngine.h"
 
-#include "base/SXFileLocalManager.h"
-#include "model/SXPropertyListReader.h"
-#include "model/SXWindowController.h"
 #include "base/SXBundle.h"
+#include "base/SXFileLocalManager.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "model/SXPropertyListReader.h"
+#include "model/SXWindowController.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -44,7 +44,6 @@ SXDataEngine* SXDataEngine::shareInstance() {
 
 SXDataEngine::SXDataEngine(const QString& presetPath) {
     load(presetPath);
-    m_registeredWindows.reserve(5);
 }
 
 void SXDataEngine::load(const QString& presetPath) {
@@ -162,22 +161,4 @@ QStringList SXDataEngine::getCanNotRemoveFormatContainer() {
 
 QStringList SXDataEngine::getCanUseImageType() {
     return {QStringLiteral("PNG"), QStringLiteral("JPEG"), QStringLiteral("JPG")};
-}
-
-void SXDataEngine::registerWindow(SXWindowController* controller) {
-    if (controller)
-        m_registeredWindows.append(controller);
-}
-
-void SXDataEngine::unregisterWindow(SXWindowController* controller) {
-    if (controller)
-        m_registeredWindows.removeAll(controller);
-}
-
-SXWindowController* SXDataEngine::keyWindowRecord() const {
-    for (SXWindowController* controller : m_registeredWindows) {
-        if (controller->isKeyWindow())
-            return controller;
-    }
-    return nullptr;
 }

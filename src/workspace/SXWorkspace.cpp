@@ -1,7 +1,7 @@
 #include "workspace/SXWorkspace.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXThreadAffinity.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspaceNotifier.h"
 
 #include <QPointer>
@@ -9,14 +9,14 @@
 SXWorkspace::SXWorkspace(QObject* parent)
     : SXWorkspaceScheduler(parent) {
     removeallTabs();
-    SXDataEngine::shareInstance()->registerWindow(this);
+    SXWindowRegistry::instance().registerWindow(this);
     m_registered = true;
     sxAssertSignalsOnOwnerThread(this);
 }
 
 SXWorkspace::~SXWorkspace() {
     if (m_registered)
-        SXDataEngine::shareInstance()->unregisterWindow(this);
+        SXWindowRegistry::instance().unregisterWindow(this);
 }
 
 void SXWorkspace::reNewDefaultWindow() {
@@ -27,7 +27,7 @@ void SXWorkspace::reNewDefaultWindow() {
 }
 
 void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) {
-    const bool last = SXDataEngine::shareInstance()->registeredWindows().size() < 2;
+    const bool last = SXWindowRegistry::instance().registeredWindows().size() < 2;
     if (!last || getTotalNeedConvertMusic() == 0) {
         closeAfterAnswer(last);
         decided(true);
@@ -57,7 +57,7 @@ void SXWorkspace::closeAfterAnswer(bool last) {
         refreshTabCount();
         Q_EMIT lastWorkspaceClosing();
     }
-    SXDataEngine::shareInstance()->unregisterWindow(this);
+    SXWindowRegistry::instance().unregisterWindow(this);
     m_registered = false;
     disconnect(SXWorkspaceNotifier::defaultCenter(), nullptr, this, nullptr);
 }
@@ -65,7 +65,7 @@ void SXWorkspace::closeAfterAnswer(bool last) {
 void SXWorkspace::registerAgain() {
     if (m_registered)
         return;
-    SXDataEngine::shareInstance()->registerWindow(this);
+    SXWindowRegistry::instance().registerWindow(this);
     m_registered = true;
     connectNotifier();
 }

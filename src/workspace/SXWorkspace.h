@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/SXWindowController.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspaceScheduler.h"
 
 #include <functional>

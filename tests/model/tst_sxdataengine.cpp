@@ -1,9 +1,8 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
-#include "model/SXWindowController.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,13 +12,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Stands in for a workspace window: only its key state matters to the registry.
-class FakeWindow : public SXWindowController {
-public:
-    bool key = false;
-    bool isKeyWindow() const override { return key; }
-};
 
 // Title, extension and codec of the formats a small preset file can hold.
 const char* const kFourFormats[4][3] = {{"One", "one", "mp3"},
@@ -223,26 +215,6 @@ private Q_SLOTS:
         QVERIFY2(log.lines()[0].startsWith("load formats failed: ") &&
                      log.lines()[0].contains(reason),
                  qPrintable(log.lines()[0]));
-    }
-
-    // Windows are kept in the order added, duplicates included; the first key window answers.
-    void registryKeepsOrderAndDuplicates() {
-        SXDataEngine engine(writePreset(u"reg.plist"_s, presetXml(0)));
-        FakeWindow a, b, c;
-        QCOMPARE(engine.keyWindowRecord(), nullptr);
-        for (FakeWindow* window : {&a, static_cast<FakeWindow*>(nullptr), &b, &a, &c})
-            engine.registerWindow(window);
-        QCOMPARE(engine.registeredWindows(), (QList<SXWindowController*>{&a, &b, &a, &c}));
-        QCOMPARE(engine.keyWindowRecord(), nullptr);
-        c.key = b.key = true;
-        QCOMPARE(engine.keyWindowRecord(), &b);
-        // The registry is handed out itself, so callers see later changes.
-        const QList<SXWindowController*>& live = engine.registeredWindows();
-        engine.unregisterWindow(&a);
-        engine.unregisterWindow(nullptr);
-        QCOMPARE(live, (QList<SXWindowController*>{&b, &c}));
-        engine.unregisterWindow(&b);
-        QCOMPARE(engine.keyWindowRecord(), &c);
     }
 
     void tagFileKinds() {

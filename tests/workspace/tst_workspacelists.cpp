@@ -1,8 +1,8 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
@@ -86,7 +86,7 @@ void TestWorkspaceLists::init() {
 
 void TestWorkspaceLists::windowLifecycle() {
     const auto registered = [](SXWorkspace* window) {
-        return SXDataEngine::shareInstance()->registeredWindows().contains(window);
+        return SXWindowRegistry::instance().registeredWindows().contains(window);
     };
     SXWorkspace workspace;
     QVERIFY(registered(&workspace));
@@ -428,3 +428,4 @@ void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
 
 SONORIA_TEST_MAIN(TestWorkspaceLists)
 #include "tst_workspacelists.moc"
+#include "workspace/SXWindowRegistry.h"

@@ -1,17 +1,18 @@
 #include "gui/application/SXDesktopApp.h"
 
-#include "online/HVConfigManager.h"
-#include "online/SXPreferences.h"
-#include "online/SXStartupReport.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
 #include "desktop/SXFileManager.h"
 #include "gui/application/SXMenuHandler.h"
 #include "gui/dialogs/SXPreferencesDialog.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "model/SXDataEngine.h"
-#include "base/SXLog.h"
-#include "base/SXSettings.h"
+#include "online/HVConfigManager.h"
+#include "online/SXPreferences.h"
+#include "online/SXStartupReport.h"
 #include "workspace/SXAboutText.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>
@@ -83,7 +84,7 @@ void SXDesktopApp::applicationDidFinishLaunching(bool contactService) {
 }
 
 SXMainAppController* SXDesktopApp::keyWindowController() const {
-    auto* key = dynamic_cast<SXWorkspace*>(SXDataEngine::shareInstance()->keyWindowRecord());
+    auto* key = dynamic_cast<SXWorkspace*>(SXWindowRegistry::instance().keyWindowRecord());
     return key ? qobject_cast<SXMainAppController*>(key->parent()) : nullptr;
 }
 
@@ -93,7 +94,7 @@ bool SXDesktopApp::isCoreControllerIsKeyWindow() const {
 
 void SXDesktopApp::stopEveryRun() {
     // A copy: a workspace may leave the registry while its run is being stopped.
-    const QList<SXWindowController*> windows = SXDataEngine::shareInstance()->registeredWindows();
+    const QList<SXWindowController*> windows = SXWindowRegistry::instance().registeredWindows();
     for (SXWindowController* window : windows) {
         if (auto* workspace = dynamic_cast<SXWorkspace*>(window))
             workspace->abandonRun();

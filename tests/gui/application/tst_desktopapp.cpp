@@ -1,5 +1,6 @@
-#include "online/SXPreferences.h"
+#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXSettings.h"
 #include "gui/application/SXDesktopApp.h"
 #include "gui/application/SXMenuHandler.h"
 #include "gui/dialogs/SXFormatChooserDialog.h"
@@ -9,13 +10,11 @@
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
-#include "model/SXDataEngine.h"
-#include "base/SXBundle.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
+#include "online/SXPreferences.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryHome.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -75,7 +74,7 @@ void TestDesktopApp::init() {
 
 void TestDesktopApp::cleanup() {
     m_app.reset();
-    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
 }
 
 void TestDesktopApp::addTone(const QString& name) {
@@ -353,3 +352,4 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
 
 SONORIA_GUI_TEST_MAIN(TestDesktopApp)
 #include "tst_appdelegate.moc"
+#include "workspace/SXWindowRegistry.h"

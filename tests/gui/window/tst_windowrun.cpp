@@ -1,14 +1,13 @@
+#include "base/SXSettings.h"
 #include "gui/dialogs/SXOutputFolderDialog.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "gui/window/SXWindowToolbar.h"
-#include "model/SXDataEngine.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -111,7 +110,7 @@ void TestWindowRun::init() {
 
 void TestWindowRun::cleanup() {
     m_window.reset();
-    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
 }
 
 void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
@@ -321,3 +320,4 @@ void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
 
 SONORIA_GUI_TEST_MAIN(TestWindowRun)
 #include "tst_windowrun.moc"
+#include "workspace/SXWindowRegistry.h"
