@@ -5,7 +5,6 @@
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "model/SXPropertyListReader.h"
-#include "model/SXWindowController.h"
 
 #include <QMutex>
 #include <QMutexLocker>
