@@ -351,5 +351,5 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
 }
 
 SONORIA_GUI_TEST_MAIN(TestDesktopApp)
-#include "tst_appdelegate.moc"
+#include "tst_desktopapp.moc"
 #include "workspace/SXWindowRegistry.h"
