@@ -1,11 +1,11 @@
-#include "desktop/SXSingleInstance.h"
 #include "DisplayCheck.h"
-#include "gui/application/SXDesktopApp.h"
 #include "RunFromEnvironment.h"
+#include "WindowScreenshot.h"
 #include "base/SXBundle.h"
 #include "base/SXLog.h"
 #include "base/SXSignalWatcher.h"
-#include "WindowScreenshot.h"
+#include "desktop/SXSingleInstance.h"
+#include "gui/application/SXDesktopApp.h"
 
 #include <QApplication>
 #include <QCommandLineParser>

@@ -4,9 +4,9 @@
 // the whole list scrolls by pages, and the resident memory per item with the window.
 //   sonoria-bench-list FOLDER        (run by bench/list.sh, which prepares the environment)
 
+#include "MainThreadWatch.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/window/SXMainAppController.h"
-#include "MainThreadWatch.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>

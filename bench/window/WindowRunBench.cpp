@@ -3,10 +3,10 @@
 // thread meanwhile. bench/window.sh compares it with sonoria-cli on the same files.
 //
 //   sonoria-bench-window [-f FORMAT] [-j JOBS] -o DIR FILE|FOLDER...
-#include "gui/window/SXMainAppController.h"
 #include "MainThreadWatch.h"
-#include "model/SXDataEngine.h"
 #include "base/SXLog.h"
+#include "gui/window/SXMainAppController.h"
+#include "model/SXDataEngine.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>

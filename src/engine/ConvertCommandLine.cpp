@@ -1,7 +1,7 @@
 #include "engine/ConvertCommandLine.h"
 
-#include "model/LSMedia.h"
 #include "base/SXBundle.h"
+#include "model/LSMedia.h"
 
 #include <QDir>
 #include <QFileInfo>

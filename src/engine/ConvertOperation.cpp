@@ -1,5 +1,8 @@
 #include "engine/ConvertOperation.h"
 
+#include "base/SXBundle.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
@@ -9,9 +12,6 @@
 #include "engine/TaskWrapper.h"
 #include "framework/MTEAudioFileMgr.h"
 #include "framework/MTETagCopy.h"
-#include "base/SXBundle.h"
-#include "base/SXLog.h"
-#include "base/SXSettings.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -1,9 +1,9 @@
 #include "engine/ConvertOutputFile.h"
 
+#include "base/SXLog.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputPath.h"
 #include "model/LSMedia.h"
-#include "base/SXLog.h"
 
 #include <QCoreApplication>
 #include <QDir>

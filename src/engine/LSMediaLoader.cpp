@@ -1,8 +1,8 @@
 #include "engine/LSMediaLoader.h"
 
+#include "base/SXLog.h"
 #include "framework/HVMediaInfo.h"
 #include "framework/MTEAudioFileMgr.h"
-#include "base/SXLog.h"
 
 #include <QCoreApplication>
 #include <QDateTime>

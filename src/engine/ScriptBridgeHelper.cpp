@@ -1,10 +1,10 @@
 #include "engine/ScriptBridgeHelper.h"
 
 #include "base/SXFileLocalManager.h"
-#include "engine/SXMpdLibrary.h"
-#include "engine/SXPlaylistFileLibrary.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "engine/SXMpdLibrary.h"
+#include "engine/SXPlaylistFileLibrary.h"
 
 void ScriptBridgeHelper::syncItunesLibrary(const QString& playlistName, const QString& originFile,
                                            QString* error) {

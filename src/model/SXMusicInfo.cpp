@@ -1,7 +1,7 @@
 #include "SXMusicInfo.h"
 
-#include "framework/MTEAudioFile.h"
 #include "base/SXLocked.h"
+#include "framework/MTEAudioFile.h"
 
 #include <QFileInfo>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/SXMusicInfo.h"
 #include "base/SXPathFailure.h"
+#include "model/SXMusicInfo.h"
 
 #include <QString>
 #include <optional>

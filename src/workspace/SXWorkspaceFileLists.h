@@ -1,7 +1,7 @@
 #pragma once
 
-#include "engine/LSMediaLoader.h"
 #include "base/SXPathFailure.h"
+#include "engine/LSMediaLoader.h"
 #include "workspace/SXLoadProgressRelay.h"
 #include "workspace/SXMetadataEditing.h"
 #include "workspace/SXWorkspaceContainers.h"

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "base/SXPathFailure.h"
 #include "engine/ConvertOperation.h"
 #include "engine/SXOperationQueue.h"
-#include "base/SXPathFailure.h"
 #include "workspace/SXWorkspaceItemMoves.h"
 
 #include <QMutex>

@@ -1,8 +1,8 @@
 #include "ConvertTestSupport.h"
 
+#include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"
 #include "framework/MTEAudioFileMgr.h"
-#include "base/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 

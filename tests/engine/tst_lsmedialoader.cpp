@@ -1,5 +1,5 @@
-#include "framework/MTEAudioFile.h"
 #include "engine/LSMediaLoader.h"
+#include "framework/MTEAudioFile.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 

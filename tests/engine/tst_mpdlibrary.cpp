@@ -1,6 +1,6 @@
+#include "base/SXSettings.h"
 #include "engine/SXMpdLibrary.h"
 #include "engine/ScriptBridgeHelper.h"
-#include "base/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 

@@ -1,14 +1,14 @@
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
+#include "support/TemporaryHome.h"
 #include "workspace/SXCommandValidation.h"
 #include "workspace/SXFormatChooser.h"
 #include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXStateStripModel.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
-#include "support/TemporaryHome.h"
 
 #include "WorkspaceTestPresenter.h"
 

@@ -1,11 +1,11 @@
+#include "base/SXSettings.h"
 #include "desktop/SXSingleInstance.h"
 #include "gui/application/SXDesktopApp.h"
 #include "gui/window/SXMainAppController.h"
 #include "model/SXMusicInfo.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -1,11 +1,11 @@
 #include "ItemListTestSupport.h"
 
+#include "base/SXSettings.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/panels/SXHelpView.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXWindowPresenter.h"
-#include "base/SXSettings.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>

@@ -1,12 +1,12 @@
-#include "online/SXPreferences.h"
 #include "gui/dialogs/SXFormatChooserDialog.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "model/SXDataEngine.h"
+#include "online/SXPreferences.h"
+#include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
-#include "support/gui/GuiTestSupport.h"
 
 #include <QCheckBox>
 #include <QComboBox>
