@@ -1,11 +1,12 @@
 #include "CliRun.h"
 
 #include "CliOutput.h"
-#include "base/SXFileLocalManager.h"
 #include "base/GlobalFun.h"
 #include "base/SXBundle.h"
+#include "base/SXFileLocalManager.h"
 #include "base/SXSettings.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
@@ -99,9 +100,8 @@ void CliRun::loadFinished(const SXMusicInfoList& failed) {
 }
 
 void CliRun::printDryRun() {
-    const QString folder = m_options.organize
-                               ? m_outputFolder + QLatin1Char('/') + m_setting->fmtName()
-                               : m_outputFolder;
+    const QString folder =
+        SXJobBuilder::outputFolder(*m_setting, m_outputFolder, m_options.organize);
     const QString ext = m_setting->outputExtName();
     const SXMusicInfoList loaded = items();
     QString text;

@@ -7,8 +7,6 @@
 // under $HOME. Nothing here creates a folder: a folder appears only when a run writes into it.
 class SXFileLocalManager {
 public:
-    // <music>/Sonoria/<fmtName>; the name is used as it stands.
-    static QString getDefaultOutputDir(const QString& fmtName);
     // <music>/Sonoria, the folder the Start dialog offers first.
     static QString getDefaultUpperOutputDir();
 

@@ -1,11 +1,10 @@
 #include "model/SXDataEngine.h"
 
-#include "base/SXFileLocalManager.h"
-#include "model/SXPropertyListReader.h"
-#include "model/SXWindowController.h"
 #include "base/SXBundle.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "model/SXPropertyListReader.h"
+#include "model/SXWindowController.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -96,7 +95,6 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
     format->setChannels(defaultOf(entry, QStringLiteral("channel")));
     format->setOutputExtName(entry.value(QStringLiteral("ext")).toString());
     format->setStrImgFileName(entry.value(QStringLiteral("image")).toString());
-    format->setOutputPath(SXFileLocalManager::getDefaultOutputDir(format->fmtName()));
     format->setDecodecName(getDecodecWithCodecName(defaultOf(entry, QStringLiteral("acodec"))));
     format->setEnumAddToLibrary(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
     format->setAryChannels(choicesOf(entry.value(QStringLiteral("channel")).toMap()));
