@@ -18,12 +18,12 @@ class QEventLoop;
 class TaskWrapper;
 
 // Converts one item into one output file with an ffmpeg child process: builds the command line
-// from its job, runs the child into a temporary file while its console text
-// drives the item's progress, and calls the item finished only when the child exited cleanly,
-// said nothing of a failure and its output reads back whole (ConvertVerification); then copies
-// the tags, moves the file to a final name that replaces nothing and hands it to the music
-// library. Every failure carries its reason on the item's record; the record gets the run's
-// state and reason, the listener the progress, and the job is never changed.
+// from its job, runs the child into a temporary file while its console text drives the
+// progress the listener hears of, and calls the item finished only when the child exited
+// cleanly, said nothing of a failure and its output reads back whole (ConvertVerification); then
+// copies the tags, moves the file to a final name that replaces nothing and hands it to the
+// music library. The item's record gets the run's state and, for every failure, its reason; the
+// job is never changed.
 //
 // Threads: main() and every listener callback run on the queue's worker thread. cancel(),
 // pause() and resume() may come from any thread (normally the main one).

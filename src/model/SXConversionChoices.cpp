@@ -7,9 +7,8 @@
 
 namespace {
 const QString kUseSource = QStringLiteral("Use Source");
-} // namespace
 
-std::optional<int> SXConversionChoices::numberIn(const QString& title) {
+std::optional<int> numberIn(const QString& title) {
     // A title may carry its unit ("192 kbps"); only the leading number counts.
     static const QRegularExpression number(QStringLiteral(R"(^\s*(\d+(?:\.\d+)?))"));
     const QRegularExpressionMatch match = number.match(title);
@@ -18,13 +17,14 @@ std::optional<int> SXConversionChoices::numberIn(const QString& title) {
     return int(std::lround(QLocale::c().toDouble(match.captured(1))));
 }
 
-std::optional<int> SXConversionChoices::channelsIn(const QString& title) {
+std::optional<int> channelsIn(const QString& title) {
     if (title.compare(QLatin1String("Stereo"), Qt::CaseInsensitive) == 0)
         return 2;
     if (title.compare(QLatin1String("Mono"), Qt::CaseInsensitive) == 0)
         return 1;
     return numberIn(title);
 }
+} // namespace
 
 SXConversionChoices SXConversionChoices::fromTitles(const QString& bitRate,
                                                     const QString& sampleRate,

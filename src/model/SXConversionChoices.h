@@ -13,14 +13,9 @@ struct SXConversionChoices {
     // The format sets its own size ("Lossless"): no bit rate is asked of the encoder.
     bool lossless = false;
 
-    // The choices that the three titles of a container stand for.
+    // The choices that the three titles of a container stand for. A title that names no number
+    // of its own keeps the source's value, except a bit rate, where any word but "Use Source"
+    // means the format sets its own size ("Lossless"). A unit after the number is ignored.
     static SXConversionChoices fromTitles(const QString& bitRate, const QString& sampleRate,
                                           const QString& channels);
-
-    // One title each. A title that names no number of its own keeps the source's value, except
-    // a bit rate, where any word but "Use Source" means the format picks its own ("Lossless").
-    static std::optional<int> numberIn(const QString& title);
-    static std::optional<int> channelsIn(const QString& title);
-
-    friend bool operator==(const SXConversionChoices&, const SXConversionChoices&) = default;
 };
