@@ -10,6 +10,7 @@
 #include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
@@ -103,9 +104,8 @@ void CliRun::loadFinished(const SXMusicInfoList& failed) {
 }
 
 void CliRun::printDryRun() {
-    const QString folder = m_options.organize
-                               ? m_outputFolder + QLatin1Char('/') + m_setting->fmtName()
-                               : m_outputFolder;
+    const QString folder =
+        SXJobBuilder::outputFolder(*m_setting, m_outputFolder, m_options.organize);
     const QString ext = m_setting->outputExtName();
     const SXMusicInfoList loaded = items();
     QString text;

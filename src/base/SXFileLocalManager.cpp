@@ -5,10 +5,6 @@
 #include <QDir>
 #include <QStandardPaths>
 
-QString SXFileLocalManager::getDefaultOutputDir(const QString& fmtName) {
-    return getDefaultUpperOutputDir() + QLatin1Char('/') + fmtName;
-}
-
 QString SXFileLocalManager::getDefaultUpperOutputDir() {
     return musicDirectory() + QLatin1Char('/') + SXBundle::productName();
 }

@@ -9,8 +9,6 @@
 // into it.
 class SXFileLocalManager {
 public:
-    // <music>/Sonoria/<fmtName>; the name is used as it stands.
-    static QString getDefaultOutputDir(const QString& fmtName);
     // <music>/Sonoria, the folder the Start dialog offers first.
     static QString getDefaultUpperOutputDir();
 

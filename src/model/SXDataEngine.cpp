@@ -94,7 +94,6 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
     format->setChannels(defaultOf(entry, QStringLiteral("channel")));
     format->setOutputExtName(entry.value(QStringLiteral("ext")).toString());
     format->setStrImgFileName(entry.value(QStringLiteral("image")).toString());
-    format->setOutputPath(SXFileLocalManager::getDefaultOutputDir(format->fmtName()));
     format->setDecodecName(getDecodecWithCodecName(defaultOf(entry, QStringLiteral("acodec"))));
     format->setEnumAddToLibrary(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
     format->setAryChannels(choicesOf(entry.value(QStringLiteral("channel")).toMap()));

@@ -3,6 +3,7 @@
 #include "base/SXFileLocalManager.h"
 #include "base/SXSettings.h"
 #include "workspace/SXContainerMemory.h"
+#include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspaceData.h"
 
 #include <QDir>
@@ -47,9 +48,9 @@ QString SXSettingPanelActions::containerOutputFolder(const SXWorkspaceData& work
     if (folder.isEmpty())
         folder = SXFileLocalManager::getDefaultUpperOutputDir();
     const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
-    // The same rule as the run's (SXWorkspaceScheduler::doRealConverterTask).
-    if (setting && SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
-        folder += QLatin1Char('/') + setting->fmtName();
+    if (setting)
+        folder = SXJobBuilder::outputFolder(
+            *setting, folder, SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
     return QDir::cleanPath(folder);
 }
 

@@ -14,9 +14,11 @@ public:
     static void setChannels(SXWorkspaceData& workspace, const QString& title);
     // Refills the panel afterwards, as the setting now reads.
     static void setAddToLibrary(SXWorkspaceData& workspace, bool on);
+    // The folder the selected container's runs write into from now on, whatever Start chooses.
     static void setOutputFolder(SXWorkspaceData& workspace, const QString& folder);
-    // The selected container's output folder as the next Start would offer it: the stored output
-    // folder (else the default one), with the format's folder when output is organised by format.
+    // The folder the selected container's next run writes into: its own folder when one was
+    // chosen, else the stored output folder (else the default one), with the format's folder when
+    // output is organised by format.
     static QString containerOutputFolder(const SXWorkspaceData& workspace);
     // What "Show in Files" opens: that folder, or the nearest folder above it that exists, since
     // showing creates nothing.

@@ -11,13 +11,12 @@
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXJobBuilder.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMutexLocker>
 #include <QPointer>
-#include <QRegularExpression>
 
 #include <utility>
 #include <vector>
@@ -82,7 +81,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
         const QString output =
-            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+            setting ? SXJobBuilder::outputFolder(*setting, folder, m_bOrganized) : folder;
         if (setting && !getDataForFormat(name).isEmpty() && !folders.contains(output))
             folders.append(output);
     }
@@ -107,7 +106,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
     m_totalConvertOps = getTotalNeedConvertMusic();
     startConvertOperation();
-    const QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
+    const SXJobBuilder::Run run = SXJobBuilder::Run::fromSettings(folder, m_bOrganized);
 
     // Every item is queued again at each Start, whatever an earlier run made of it. All are
     // prepared before the first is queued: the first conversions' start-up would otherwise
@@ -115,16 +114,13 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     std::vector<ConvertOperationPtr> operations;
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
-        const QString output =
-            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             item->setDConvertProgress(SXProgress::Waiting);
             // Without a media record or a format there is nothing to convert: it stays waiting.
             if (!item->mediaInfo() || !setting)
                 continue;
-            copyChoicesInto(item, *setting, playlist);
-            auto operation = std::make_shared<ConvertOperation>(item);
-            operation->setStrOutFilePath(output);
+            auto operation =
+                std::make_shared<ConvertOperation>(item, SXJobBuilder::build(*item, *setting, run));
             operation->setListener(this);
             operations.push_back(std::move(operation));
         }
@@ -141,34 +137,6 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     connect(_timerToRefresh, &QTimer::timeout, this, &SXWorkspaceScheduler::refreshTimeFired);
     _timerToRefresh->start();
     return true;
-}
-
-void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
-                                           const SXFormatSetting& setting,
-                                           const QString& playlist) const {
-    const LSMediaPtr media = item->mediaInfo();
-    const QString useSource = QStringLiteral("Use Source");
-    media->setDProgress(0);
-    media->setFailReason(QString());
-    media->setDAOBitrate(setting.bitRate() == useSource ? media->audioBitrate() / 1000
-                                                        : choiceValue(setting.bitRate()));
-    media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
-                                                              : choiceValue(setting.sampleRate()));
-    if (setting.channels() == useSource)
-        media->setIAOChannels(media->audioChannels());
-    else
-        media->setIAOChannels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
-    media->setVOACodecName(setting.decodecName());
-    media->setStrOutFileExt(setting.outputExtName());
-    item->setBIsSendingToLibrary(setting.enumAddToLibrary() == 1);
-    item->setStrLibraryPlaylistName(playlist);
-}
-
-double SXWorkspaceScheduler::choiceValue(const QString& choice) {
-    static const QRegularExpression number(
-        QStringLiteral(R"(^\s*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?))"));
-    const QRegularExpressionMatch match = number.match(choice);
-    return match.hasMatch() ? QLocale::c().toDouble(match.captured(1)) : 0.0;
 }
 
 void SXWorkspaceScheduler::startConvertOperation() {

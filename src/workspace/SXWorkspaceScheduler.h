@@ -11,9 +11,9 @@
 #include <optional>
 
 // The conversion run of a workspace: Start asks for the output folder, every item of every
-// container becomes one ConvertOperation with its container's choices copied into its media
-// record, all go on one queue with a bounded number of parallel conversions, and a 0.4 s timer
-// on the main thread pulls the items' progress into a total until the queue has drained.
+// container becomes one ConvertOperation with a job of its own (SXJobBuilder), all go on one queue
+// with a bounded number of parallel conversions, and a 0.4 s timer on the main thread pulls the
+// items' progress into a total until the queue has drained.
 //
 // Threads: the operation callbacks come on queue workers; they only store the item's progress
 // value and hand the signals to the main thread. Everything else runs on the main thread.
@@ -25,7 +25,8 @@ public:
 
     // Start, or Stop during a run.
     void toggleRun();
-    // Starts the run into `folder` (per container below it when organising by format). When an
+    // Starts the run into `folder` (per container below it when organising by format; a
+    // container with a folder of its own writes there, SXJobBuilder::outputFolder). When an
     // output folder cannot be made or written, no child starts: the user is told which folder
     // and why (an alert, and runRefused) and this returns false.
     bool doRealConverterTask(const QString& folder);
@@ -60,8 +61,6 @@ public:
     // The summary of a run: successes, then up to three failed names with their reasons and
     // "..." for more (the alert's details list them all).
     static QString summaryMessage(int succeeded, const SXPathFailureList& failures);
-    // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
-    static double choiceValue(const QString& choice);
 
     // ConvertOperationListener (worker threads)
     void didConvertOperationStart(ConvertOperation* operation) override;
@@ -91,8 +90,6 @@ private:
     void refreshTimeFired();
     void refreshUIOnMainThreadWhenConvert();
     void finishRun();
-    void copyChoicesInto(const SXMusicInfoPtr& item, const SXFormatSetting& setting,
-                         const QString& playlist) const;
     void requestRedraw();
 
     std::unique_ptr<SXOperationQueue> _queueConvertTask;

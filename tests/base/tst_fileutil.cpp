@@ -136,7 +136,6 @@ void FileUtilTest::defaultFoldersFollowHomeAndCreateNothing() {
     QCOMPARE(SXFileLocalManager::processHome(), fresh.processHome());
     QCOMPARE(SXFileLocalManager::musicDirectory(), expected);
     QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected + "/Sonoria");
-    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), expected + "/Sonoria/AAC");
     QCOMPARE(QDir(fresh.processHome()).entryList(QDir::AllEntries | QDir::Hidden), before);
     QVERIFY(!QFileInfo::exists(expected + "/Sonoria"));
 }

@@ -5,6 +5,7 @@
 #include "base/SXFileLocalManager.h"
 #include "base/SXSettings.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
@@ -39,10 +40,10 @@ class TestWorkspaceRun : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void startCopiesEachContainersChoicesIntoItsRecords();
+    void startGivesEachContainersChoicesAndFolderToItsFiles();
     void overrideAndUnorganisedFolderAndRequeue();
     void summaryOfSuccessesAndFailures();
-    void summaryAndChoiceTexts();
+    void summaryTexts();
     void emptyRunEndsAtTheFirstRefresh();
     void totalProgressWeights();
     void rightClickCancelsItsOwnRowThenStopEndsTheRun();
@@ -91,7 +92,7 @@ QList<QVariant> TestWorkspaceRun::runInto(SXWorkspace& workspace, const QString&
     return finished.first();
 }
 
-void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
+void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     SXWorkspace workspace;
     workspace.setPresenter(&m_presenter);
     workspace.addDefaultTabs();
@@ -110,6 +111,11 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
     QVERIFY(addFiles(workspace, u"AAC"_s, {source(u"m44.flac"_s)}));
     QVERIFY(addFiles(workspace, u"FLAC"_s, {source(u"s48.wav"_s)}));
+    // AAC has a folder of its own ("Output Folder…"): its run writes there, not below Start's.
+    const QString own = freshFolder(u"own AAC"_s);
+    QVERIFY(workspace.selectContainer(u"AAC"_s));
+    SXSettingPanelActions::setOutputFolder(workspace, own);
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), own);
 
     const QString folder = freshFolder(u"start"_s);
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, true};
@@ -145,35 +151,27 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QVERIFY(redraws.count() > 0);
     QCOMPARE(workspace.getTotalConvertProgress(), 1.0);
 
-    // Numbers, "Use Source", "Stereo" and a non-numeric choice, as copied into the records.
-    const LSMediaPtr m1 = workspace.getDataForFormat(u"MP3"_s).first()->mediaInfo();
-    QCOMPARE(m1->dAOBitrate(), 128.0);
-    QCOMPARE(m1->dAOSamplerate(), 22050.0);
-    QCOMPARE(m1->iAOChannels(), 1);
-    QCOMPARE(m1->vOACodecName(), mp3->decodecName());
-    QCOMPARE(m1->strOutFileExt(), u"mp3"_s);
-    const LSMediaPtr m2 = workspace.getDataForFormat(u"AAC"_s).first()->mediaInfo();
-    QCOMPARE(m2->dAOBitrate(), m2->audioBitrate() / 1000);
-    QCOMPARE(m2->dAOSamplerate(), 44100.0);
-    QCOMPARE(m2->iAOChannels(), 2);
-    const SXMusicInfoPtr flacItem = workspace.getDataForFormat(u"FLAC"_s).first();
-    QCOMPARE(flacItem->mediaInfo()->iAOChannels(), 2);
-    QCOMPARE(flacItem->mediaInfo()->dAOBitrate(), 0.0); // "Lossless" carries no number
-    QVERIFY(!flacItem->bIsSendingToLibrary());
-    QCOMPARE(flacItem->strLibraryPlaylistName(),
-             SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName));
-    QCOMPARE(flacItem->dConvertProgress(), SXProgress::Done);
-
-    // Organised by format.
+    // Organised by format, except the container with a folder of its own.
     QCOMPARE(QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-             (QStringList{u"AAC"_s, u"FLAC"_s, u"MP3"_s}));
-    QCOMPARE(filesIn(folder + u"/AAC"_s), QStringList{u"m44.m4a"_s});
+             (QStringList{u"FLAC"_s, u"MP3"_s}));
+    QCOMPARE(filesIn(own), QStringList{u"m44.m4a"_s});
     // Each item announced its end once, with the file it wrote.
     QStringList outputs;
     for (const QList<QVariant>& done : std::as_const(itemsDone))
         outputs.append(QDir(folder).relativeFilePath(done.at(1).toString()));
     outputs.sort();
-    QCOMPARE(outputs, (QStringList{u"AAC/m44.m4a"_s, u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
+    QCOMPARE(outputs, (QStringList{u"../own AAC/m44.m4a"_s, u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
+
+    // Numbers, "Use Source", "Stereo" and "Lossless", as the files on disk have them (the
+    // mono 44.1 kHz source in AAC, the stereo 48 kHz one in MP3 and FLAC).
+    const ProbeReference m1 = ProbeReference::read(folder + u"/MP3/s48.mp3"_s);
+    QVERIFY(m1.ok && m1.sampleRate == 22050 && m1.channels == 1 && m1.bitRate == 128000);
+    QCOMPARE(m1.codecName, u"mp3"_s);
+    const ProbeReference m2 = ProbeReference::read(own + u"/m44.m4a"_s);
+    QVERIFY(m2.ok && m2.sampleRate == 44100 && m2.channels == 2);
+    const ProbeReference m3 = ProbeReference::read(folder + u"/FLAC/s48.flac"_s);
+    QVERIFY(m3.ok && m3.sampleRate == 48000 && m3.channels == 2 && m3.codecName == "flac"_L1);
+    QCOMPARE(workspace.getDataForFormat(u"FLAC"_s).first()->dConvertProgress(), SXProgress::Done);
 
     // The open flag came from the chooser: off again, nothing is opened.
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, false};
@@ -250,7 +248,7 @@ void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
     QCOMPARE(workspace.getTotalNeedConvertMusic(), 3);
 }
 
-void TestWorkspaceRun::summaryAndChoiceTexts() {
+void TestWorkspaceRun::summaryTexts() {
     QCOMPARE(SXWorkspace::summaryMessage(0, {}), u"0 files has been successfully converted."_s);
     SXPathFailureList failures;
     for (const QString& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
@@ -262,9 +260,6 @@ void TestWorkspaceRun::summaryAndChoiceTexts() {
     QCOMPARE(SXWorkspace::summaryMessage(0, failures),
              u"0 files has been successfully converted."
              "except 5 files failed,including: \na: reason a \nb: reason b \nc: reason c..."_s);
-    QCOMPARE(SXWorkspace::choiceValue(u"192"_s), 192.0);
-    QCOMPARE(SXWorkspace::choiceValue(u"22.5k"_s), 22.5);
-    QCOMPARE(SXWorkspace::choiceValue(u"Lossless"_s), 0.0);
 }
 
 void TestWorkspaceRun::emptyRunEndsAtTheFirstRefresh() {

@@ -83,7 +83,8 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
     _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
-    _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
+    _btnSavePath->setToolTip(
+        QDir::toNativeSeparators(SXSettingPanelActions::containerOutputFolder(m_workspace)));
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
