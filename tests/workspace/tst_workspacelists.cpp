@@ -6,6 +6,7 @@
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
+#include "workspace/SXWindowRegistry.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -428,4 +429,3 @@ void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
 
 SONORIA_TEST_MAIN(TestWorkspaceLists)
 #include "tst_workspacelists.moc"
-#include "workspace/SXWindowRegistry.h"

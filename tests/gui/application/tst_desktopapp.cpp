@@ -14,6 +14,7 @@
 #include "support/LogCapture.h"
 #include "support/TemporaryHome.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QAction>
@@ -352,4 +353,3 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
 
 SONORIA_GUI_TEST_MAIN(TestDesktopApp)
 #include "tst_desktopapp.moc"
-#include "workspace/SXWindowRegistry.h"

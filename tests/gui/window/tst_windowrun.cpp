@@ -7,6 +7,7 @@
 #include "gui/window/SXWindowToolbar.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QAction>
@@ -320,4 +321,3 @@ void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
 
 SONORIA_GUI_TEST_MAIN(TestWindowRun)
 #include "tst_windowrun.moc"
-#include "workspace/SXWindowRegistry.h"
