@@ -2,13 +2,9 @@
 
 #include "CliOutput.h"
 #include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
-#include "base/SXFolderScan.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspace.h"

@@ -1,9 +1,5 @@
 #include "workspace/SXItemRowLook.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
 #include "workspace/SXWorkspaceData.h"

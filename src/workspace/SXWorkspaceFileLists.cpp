@@ -1,12 +1,8 @@
 #include "workspace/SXWorkspaceFileLists.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXWorkspaceTexts.h"
 

@@ -1,13 +1,8 @@
 #include "workspace/SXWorkspaceScheduler.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFileLocalManager.h"
-#include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"

@@ -1,10 +1,6 @@
 #include "gui/dialogs/SXAddFilesDialog.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "workspace/SXWorkspaceFileLists.h"
 
 #include <QAbstractItemView>

@@ -1,10 +1,5 @@
 #include "gui/window/SXMainAppController.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
