@@ -59,6 +59,17 @@ struct SXCommandAnswer {
 // open) and, for "New Format", the primary window being key.
 SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext& context);
 
+// The commands the application answers itself, whichever window they come from: reviving the
+// primary window, the preferences, quitting and the help items. Every other command acts on one
+// workspace window.
+bool sxIsApplicationCommand(SXCommand command);
+
+// A command chosen from a menu, a shortcut or a toolbar that the application refuses, with a
+// beep, before any window sees it: New Format outside the primary window (only the primary
+// window adds containers). Every other refusal is the workspace's own, made where the command
+// lands (a fixed container's Close Tab, Delete during a run, …), so it holds for every caller.
+bool sxCommandRefused(SXCommand command, const SXCommandContext& context);
+
 // The image, label and tool tip of a toolbar item in a state; only Start changes with it.
 struct SXToolbarLook {
     QString image;

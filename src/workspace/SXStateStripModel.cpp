@@ -1,8 +1,8 @@
 #include "workspace/SXStateStripModel.h"
 
-#include "framework/MTEAudioFile.h"
 #include "base/GlobalFun.h"
-#include "workspace/SXWorkspaceData.h"
+#include "framework/MTEAudioFile.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QFileInfo>
 

@@ -1,12 +1,13 @@
 #include "workspace/SXWorkspaceScheduler.h"
 
-#include "base/SXFileLocalManager.h"
-#include "engine/ConvertFailure.h"
-#include "engine/ConvertOutputFile.h"
 #include "base/GlobalFun.h"
+#include "base/SXFileLocalManager.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "engine/ConvertFailure.h"
+#include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXWorkspacePreview.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -18,8 +19,11 @@
 #include <utility>
 #include <vector>
 
-SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
-    : SXWorkspaceItemMoves(parent)
+SXWorkspaceScheduler::SXWorkspaceScheduler(SXContainerStore& store, SXWorkspacePreview& preview,
+                                           QObject* parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_preview(preview)
     , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
     , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
 
@@ -32,6 +36,10 @@ SXWorkspaceScheduler::~SXWorkspaceScheduler() {
         _queueConvertTask->cancelAllOperations();
         _queueConvertTask.reset();
     }
+}
+
+void SXWorkspaceScheduler::stopPlayerWithRefreshUI() {
+    m_preview.stopPlayerWithRefreshUI();
 }
 
 // --- Start ---
@@ -47,9 +55,9 @@ void SXWorkspaceScheduler::toggleRun() {
     m_bOrganized = SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true);
     m_bOverOpen = SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false);
     SXLog::line(QStringLiteral("thepath = %1").arg(path));
-    if (!presenter())
+    if (!m_store.presenter())
         return;
-    presenter()->chooseOutputFolder(
+    m_store.presenter()->chooseOutputFolder(
         {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
          m_bOverOpen},
         [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
@@ -168,12 +176,12 @@ double SXWorkspaceScheduler::choiceValue(const QString& choice) {
 }
 
 void SXWorkspaceScheduler::startConvertOperation() {
-    setAppState(AppStateConverting);
+    m_store.setAppState(AppStateConverting);
     Q_EMIT totalProgressChanged(0.0);
 }
 
 void SXWorkspaceScheduler::setConvertOperationFinished() {
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
 }
 
 void SXWorkspaceScheduler::abandonRun() {
@@ -233,8 +241,8 @@ void SXWorkspaceScheduler::finishRun() {
     runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
     Q_EMIT rowsRedrawRequested();
     Q_EMIT runFinished(message, succeeded, int(failures.size()));
-    if (m_bOverOpen && presenter())
-        presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
+    if (m_bOverOpen && m_store.presenter())
+        m_store.presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
 }
 
 QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
@@ -274,13 +282,6 @@ double SXWorkspaceScheduler::getTotalConvertProgress() const {
     // Without items there is nothing to divide by: no progress, never NaN, which the state strip
     // and the launcher would turn into an integer.
     return count == 0 ? 0.0 : sum / (double(count) * 100.0);
-}
-
-int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
-    int total = 0;
-    for (const QString& name : containerNames())
-        total += int(getDataForFormat(name).size());
-    return total;
 }
 
 // --- Cancel ---
@@ -326,8 +327,8 @@ ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusi
 void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
     const int state = enumAppState();
     if (state == AppStateIdle || state == AppStatePlaying) {
-        const int row = indexMusicItem(item, getCurTableDatasource());
-        setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
+        const int row = SXContainerStore::indexMusicItem(item, m_store.getCurTableDatasource());
+        m_store.setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
         Q_EMIT rowsRedrawRequested();
         Q_EMIT metadataEditorRequested(item);
         return;

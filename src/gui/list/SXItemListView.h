@@ -2,10 +2,14 @@
 
 #include <QListView>
 
+class SXAddRun;
+class SXContainerStore;
 class SXItemListModel;
 class SXItemRowDelegate;
 class SXRowContextMenu;
+class SXWorkspacePreview;
 class SXWorkspaceScheduler;
+class SXWorkspace;
 
 // The item list of the selected container: one view for every container of the window, rows
 // painted by SXItemRowDelegate over SXItemListModel. The workspace holds the selection; the view
@@ -18,7 +22,7 @@ class SXWorkspaceScheduler;
 class SXItemListView final : public QListView {
     Q_OBJECT
 public:
-    explicit SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent = nullptr);
+    explicit SXItemListView(SXWorkspace& workspace, QWidget* parent = nullptr);
 
     SXItemListModel& itemModel() const { return *m_model; }
     SXItemRowDelegate& rowDelegate() const { return *m_delegate; }
@@ -48,7 +52,10 @@ private:
     void popupRowMenu(const QModelIndex& index, const QPoint& globalPos);
     void popupRowMenuFromKeyboard();
 
-    SXWorkspaceScheduler& m_workspace;
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
+    SXAddRun& m_addRun;
+    SXWorkspaceScheduler& m_scheduler;
     SXItemListModel* m_model = nullptr;
     SXItemRowDelegate* m_delegate = nullptr;
     SXRowContextMenu* m_rowMenu = nullptr;

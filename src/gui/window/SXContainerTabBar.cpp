@@ -2,15 +2,15 @@
 
 #include "gui/panels/SXIcons.h"
 #include "gui/window/SXCountBadge.h"
-#include "workspace/SXWorkspaceContainers.h"
+#include "workspace/SXContainerTabs.h"
 #include "workspace/SXWorkspaceTexts.h"
 
 #include <QSignalBlocker>
 #include <QToolButton>
 
-SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* parent)
+SXContainerTabBar::SXContainerTabBar(SXContainerTabs& tabs, QWidget* parent)
     : QTabBar(parent)
-    , m_workspace(workspace) {
+    , m_tabs(tabs) {
     setObjectName(QStringLiteral("containerTabs"));
     setAccessibleName(tr("Containers"));
     setMovable(false);
@@ -28,16 +28,17 @@ SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* 
     m_addButton->setAutoRaise(true);
 
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
-        if (index >= 0 && index != m_workspace.selectedTabIndex())
-            m_workspace.selectTab(index);
+        if (index >= 0 && index != m_tabs.store().selectedTabIndex())
+            m_tabs.selectTab(index);
     });
     connect(this, &QTabBar::tabCloseRequested, this, &SXContainerTabBar::closeRequested);
-    connect(m_addButton, &QToolButton::clicked, &m_workspace, &SXWorkspaceContainers::addContainer);
-    connect(&m_workspace, &SXWorkspaceData::tabsChanged, this, &SXContainerTabBar::showTabs);
-    connect(&m_workspace, &SXWorkspaceData::tabCountsChanged, this, &SXContainerTabBar::showCounts);
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, this,
+    connect(m_addButton, &QToolButton::clicked, &m_tabs, &SXContainerTabs::addContainer);
+    connect(&m_tabs.store(), &SXContainerStore::tabsChanged, this, &SXContainerTabBar::showTabs);
+    connect(&m_tabs.store(), &SXContainerStore::tabCountsChanged, this,
+            &SXContainerTabBar::showCounts);
+    connect(&m_tabs.store(), &SXContainerStore::appStateChanged, this,
             &SXContainerTabBar::refreshCloseButtons);
-    showTabs(m_workspace.tabLabels(), m_workspace.selectedTabIndex());
+    showTabs(m_tabs.store().tabLabels(), m_tabs.store().selectedTabIndex());
 }
 
 void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
@@ -49,16 +50,16 @@ void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
             addTab(labels.at(i));
         setTabText(i, labels.at(i));
         setTabToolTip(i, SXWorkspaceTexts::tabToolTip(
-                             m_workspace.getFormatSettingForFormatName(labels.at(i))));
+                             m_tabs.store().getFormatSettingForFormatName(labels.at(i))));
         if (!qobject_cast<SXCountBadge*>(tabButton(i, QTabBar::LeftSide)))
             setTabButton(i, QTabBar::LeftSide, new SXCountBadge(this));
     }
     if (selectedIndex >= 0 && selectedIndex < count())
         setCurrentIndex(selectedIndex);
-    m_addButton->setVisible(m_workspace.showAddBtn() &&
-                            m_workspace.enumAppState() != AppStateConverting);
+    m_addButton->setVisible(m_tabs.showAddBtn() &&
+                            m_tabs.store().enumAppState() != AppStateConverting);
     refreshCloseButtons();
-    m_workspace.refreshTabCount();
+    m_tabs.store().refreshTabCount();
 }
 
 void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& counts) {
@@ -75,16 +76,15 @@ void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& 
 }
 
 void SXContainerTabBar::refreshCloseButtons() {
-    const bool running = m_workspace.enumAppState() == AppStateConverting;
-    m_addButton->setVisible(m_workspace.showAddBtn() && !running);
+    const bool running = m_tabs.store().enumAppState() == AppStateConverting;
+    m_addButton->setVisible(m_tabs.showAddBtn() && !running);
     for (int i = 0; i < count(); ++i) {
         QWidget* close = tabButton(i, QTabBar::RightSide);
         if (close)
-            close->setVisible(!running && !m_workspace.disableTabClose(tabText(i)));
+            close->setVisible(!running && !m_tabs.disableTabClose(tabText(i)));
     }
 }
 
 void SXContainerTabBar::closeRequested(int index) {
-    m_workspace.selectTab(index);
-    m_workspace.closeTab();
+    m_tabs.closeContainer(tabText(index));
 }
