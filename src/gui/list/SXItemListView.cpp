@@ -3,7 +3,9 @@
 #include "gui/list/SXItemListModel.h"
 #include "gui/list/SXItemRowDelegate.h"
 #include "gui/list/SXRowContextMenu.h"
-#include "workspace/SXWorkspace.h"
+#include "workspace/SXAddRun.h"
+#include "workspace/SXWorkspacePreview.h"
+#include "workspace/SXWorkspaceScheduler.h"
 
 #include <QContextMenuEvent>
 #include <QKeyEvent>
@@ -11,12 +13,14 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
-SXItemListView::SXItemListView(SXWorkspace& workspace, QWidget* parent)
+SXItemListView::SXItemListView(SXContainerStore& store, SXWorkspacePreview& preview,
+                               SXAddRun& addRun, SXItemMoves& moves,
+                               SXWorkspaceScheduler& scheduler, QWidget* parent)
     : QListView(parent)
-    , m_store(workspace.store())
-    , m_preview(workspace.preview())
-    , m_addRun(workspace.addRun())
-    , m_scheduler(workspace.scheduler()) {
+    , m_store(store)
+    , m_preview(preview)
+    , m_addRun(addRun)
+    , m_scheduler(scheduler) {
     setObjectName(QStringLiteral("itemList"));
     setAccessibleName(tr("Files"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -30,7 +34,7 @@ SXItemListView::SXItemListView(SXWorkspace& workspace, QWidget* parent)
     setDropIndicatorShown(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 
-    m_model = new SXItemListModel(m_store, workspace.moves(), m_addRun, this);
+    m_model = new SXItemListModel(m_store, moves, m_addRun, this);
     m_delegate = new SXItemRowDelegate(m_store, this);
     setModel(m_model);
     setItemDelegate(m_delegate);

@@ -5,11 +5,11 @@
 class SXAddRun;
 class SXContainerStore;
 class SXItemListModel;
+class SXItemMoves;
 class SXItemRowDelegate;
 class SXRowContextMenu;
 class SXWorkspacePreview;
 class SXWorkspaceScheduler;
-class SXWorkspace;
 
 // The item list of the selected container: one view for every container of the window, rows
 // painted by SXItemRowDelegate over SXItemListModel. The workspace holds the selection; the view
@@ -22,7 +22,10 @@ class SXWorkspace;
 class SXItemListView final : public QListView {
     Q_OBJECT
 public:
-    explicit SXItemListView(SXWorkspace& workspace, QWidget* parent = nullptr);
+    // The rows and the selection come from the store, drags and drops go to the moves and the
+    // add run, the play buttons to the preview, the right buttons to the scheduler.
+    SXItemListView(SXContainerStore& store, SXWorkspacePreview& preview, SXAddRun& addRun,
+                   SXItemMoves& moves, SXWorkspaceScheduler& scheduler, QWidget* parent = nullptr);
 
     SXItemListModel& itemModel() const { return *m_model; }
     SXItemRowDelegate& rowDelegate() const { return *m_delegate; }

@@ -81,7 +81,9 @@ QWidget* SXMainAppController::buildCentral() {
     tabRow->addWidget(_tabBar->addButton());
     tabRow->addStretch(1);
     layout->addLayout(tabRow);
-    _listView = new SXItemListView(*m_workspace, central);
+    SXWorkspace& ws = *m_workspace;
+    _listView = new SXItemListView(ws.store(), ws.preview(), ws.addRun(), ws.moves(),
+                                   ws.scheduler(), central);
     layout->addWidget(_listView, 1);
     _viewHelpBar = new SXHelpView(central);
     layout->addWidget(_viewHelpBar);
