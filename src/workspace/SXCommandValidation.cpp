@@ -111,6 +111,14 @@ bool sxSettingPanelEnabled(int state) {
     return state != AppStateConverting;
 }
 
+bool sxAddContainerButtonShown(int state, bool addButtonWanted) {
+    return addButtonWanted && state != AppStateConverting;
+}
+
+bool sxTabCloseButtonShown(int state, bool closable) {
+    return closable && state != AppStateConverting;
+}
+
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer) {
     return state != AppStateConverting && itemsInSelectedContainer > 0;
 }

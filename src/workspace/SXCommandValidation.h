@@ -87,6 +87,10 @@ SXToolbarLook sxStartToolbarLook(int state);
 // container and are off during a run, as their menu items are: nothing leaves a container
 // whose items are converting.
 bool sxSettingPanelEnabled(int state);
+// The tab bar's buttons: during a run no container is added or closed, and a fixed container
+// (`closable` false) never offers its close button.
+bool sxAddContainerButtonShown(int state, bool addButtonWanted);
+bool sxTabCloseButtonShown(int state, bool closable);
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer);
 
 // The entries of a row's context menu. Play, Pause and Resume are one entry whose meaning

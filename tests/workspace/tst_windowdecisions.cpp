@@ -232,6 +232,12 @@ void TestWindowDecisions::toolbarFollowsTheRun() {
     QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
              (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
     QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
+    // The tab bar adds and closes no container during a run, and never closes a fixed one.
+    QVERIFY(sxTabCloseButtonShown(AppStatePlaying, true) &&
+            !sxTabCloseButtonShown(AppStateIdle, false));
+    QVERIFY(!sxTabCloseButtonShown(AppStateConverting, true));
+    QVERIFY(sxAddContainerButtonShown(AppStateLoading, true) &&
+            !sxAddContainerButtonShown(AppStateConverting, true));
 }
 
 void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {

@@ -2,6 +2,7 @@
 
 #include "gui/panels/SXIcons.h"
 #include "gui/window/SXCountBadge.h"
+#include "workspace/SXCommandValidation.h"
 #include "workspace/SXContainerTabs.h"
 #include "workspace/SXWorkspaceTexts.h"
 
@@ -56,8 +57,8 @@ void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
     }
     if (selectedIndex >= 0 && selectedIndex < count())
         setCurrentIndex(selectedIndex);
-    m_addButton->setVisible(m_tabs.showAddBtn() &&
-                            m_tabs.store().enumAppState() != AppStateConverting);
+    m_addButton->setVisible(
+        sxAddContainerButtonShown(m_tabs.store().enumAppState(), m_tabs.showAddBtn()));
     refreshCloseButtons();
     m_tabs.store().refreshTabCount();
 }
@@ -76,12 +77,12 @@ void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& 
 }
 
 void SXContainerTabBar::refreshCloseButtons() {
-    const bool running = m_tabs.store().enumAppState() == AppStateConverting;
-    m_addButton->setVisible(m_tabs.showAddBtn() && !running);
+    const int state = m_tabs.store().enumAppState();
+    m_addButton->setVisible(sxAddContainerButtonShown(state, m_tabs.showAddBtn()));
     for (int i = 0; i < count(); ++i) {
         QWidget* close = tabButton(i, QTabBar::RightSide);
         if (close)
-            close->setVisible(!running && !m_tabs.disableTabClose(tabText(i)));
+            close->setVisible(sxTabCloseButtonShown(state, !m_tabs.disableTabClose(tabText(i))));
     }
 }
 
