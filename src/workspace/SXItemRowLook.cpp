@@ -2,7 +2,7 @@
 
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
-#include "workspace/SXWorkspaceData.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QFileInfo>
 #include <cmath>
@@ -46,11 +46,11 @@ QString SXItemRowLookRules::rightButtonImageForProgress(double progress) {
     return settled ? QStringLiteral("right_edit") : QStringLiteral("cancel");
 }
 
-SXMusicInfoPtr SXItemRowLookRules::playingItem(const SXWorkspaceData& workspace) {
+SXMusicInfoPtr SXItemRowLookRules::playingItem(const SXContainerStore& workspace) {
     return workspace.enumAppState() == AppStatePlaying ? workspace.appStateItem() : nullptr;
 }
 
-SXItemRowLook SXItemRowLookRules::rowLook(const SXWorkspaceData& workspace,
+SXItemRowLook SXItemRowLookRules::rowLook(const SXContainerStore& workspace,
                                           const SXMusicInfoPtr& item, bool hovered,
                                           bool draggingRows, bool windowIsKey) {
     SXItemRowLook look;

@@ -4,7 +4,7 @@
 
 #include <QString>
 
-class SXWorkspaceData;
+class SXContainerStore;
 
 // The four labels of an item's row.
 struct SXItemRowTexts {
@@ -41,8 +41,8 @@ public:
     static QString rightButtonImageForProgress(double progress);
     // The whole row. `hovered`: the mouse is over the row; `draggingRows`: the list is dragging
     // rows; `windowIsKey`: the workspace's window is the key window.
-    static SXItemRowLook rowLook(const SXWorkspaceData& workspace, const SXMusicInfoPtr& item,
+    static SXItemRowLook rowLook(const SXContainerStore& workspace, const SXMusicInfoPtr& item,
                                  bool hovered, bool draggingRows, bool windowIsKey);
     // The item the preview plays, when the workspace is playing.
-    static SXMusicInfoPtr playingItem(const SXWorkspaceData& workspace);
+    static SXMusicInfoPtr playingItem(const SXContainerStore& workspace);
 };

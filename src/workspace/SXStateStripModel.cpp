@@ -2,7 +2,7 @@
 
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
-#include "workspace/SXWorkspaceData.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QFileInfo>
 

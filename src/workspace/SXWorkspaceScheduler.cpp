@@ -7,6 +7,7 @@
 #include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
+#include "workspace/SXWorkspacePreview.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
@@ -16,8 +17,11 @@
 #include <utility>
 #include <vector>
 
-SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
-    : SXWorkspaceItemMoves(parent)
+SXWorkspaceScheduler::SXWorkspaceScheduler(SXContainerStore& store, SXWorkspacePreview& preview,
+                                           QObject* parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_preview(preview)
     , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
     , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
 
@@ -30,6 +34,10 @@ SXWorkspaceScheduler::~SXWorkspaceScheduler() {
         _queueConvertTask->cancelAllOperations();
         _queueConvertTask.reset();
     }
+}
+
+void SXWorkspaceScheduler::stopPlayerWithRefreshUI() {
+    m_preview.stopPlayerWithRefreshUI();
 }
 
 // --- Start ---
@@ -45,9 +53,9 @@ void SXWorkspaceScheduler::toggleRun() {
     m_bOrganized = SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true);
     m_bOverOpen = SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false);
     SXLog::line(QStringLiteral("thepath = %1").arg(path));
-    if (!presenter())
+    if (!m_store.presenter())
         return;
-    presenter()->chooseOutputFolder(
+    m_store.presenter()->chooseOutputFolder(
         {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
          m_bOverOpen},
         [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
@@ -135,12 +143,12 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
 }
 
 void SXWorkspaceScheduler::startConvertOperation() {
-    setAppState(AppStateConverting);
+    m_store.setAppState(AppStateConverting);
     Q_EMIT totalProgressChanged(0.0);
 }
 
 void SXWorkspaceScheduler::setConvertOperationFinished() {
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
 }
 
 void SXWorkspaceScheduler::abandonRun() {
@@ -200,8 +208,8 @@ void SXWorkspaceScheduler::finishRun() {
     runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
     Q_EMIT rowsRedrawRequested();
     Q_EMIT runFinished(message, succeeded, int(failures.size()));
-    if (m_bOverOpen && presenter())
-        presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
+    if (m_bOverOpen && m_store.presenter())
+        m_store.presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
 }
 
 QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
@@ -241,13 +249,6 @@ double SXWorkspaceScheduler::getTotalConvertProgress() const {
     // Without items there is nothing to divide by: no progress, never NaN, which the state strip
     // and the launcher would turn into an integer.
     return count == 0 ? 0.0 : sum / (double(count) * 100.0);
-}
-
-int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
-    int total = 0;
-    for (const QString& name : containerNames())
-        total += int(getDataForFormat(name).size());
-    return total;
 }
 
 // --- Cancel ---
@@ -293,8 +294,8 @@ ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusi
 void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
     const int state = enumAppState();
     if (state == AppStateIdle || state == AppStatePlaying) {
-        const int row = indexMusicItem(item, getCurTableDatasource());
-        setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
+        const int row = SXContainerStore::indexMusicItem(item, m_store.getCurTableDatasource());
+        m_store.setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
         Q_EMIT rowsRedrawRequested();
         Q_EMIT metadataEditorRequested(item);
         return;

@@ -5,14 +5,14 @@
 #include <QString>
 #include <QStringList>
 
-class SXWorkspaceData;
+class SXContainerStore;
 
 // The short texts a workspace window shows about itself, shared by every front end.
 class SXWorkspaceTexts {
 public:
     // "%d files, %.1f hours, %.1f MB in %d containers" over every container of the workspace;
     // empty without items. Reads the items' cached records only, never the disk.
-    static QString helpBarText(const SXWorkspaceData& workspace);
+    static QString helpBarText(const SXContainerStore& workspace);
     // "Converter to " and the format's description; empty without a setting.
     static QString tabToolTip(const SXFormatSettingPtr& setting);
     // The word after a tab's count badge for a screen reader: "item" for one, else "items".
