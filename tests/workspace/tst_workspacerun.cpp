@@ -115,8 +115,8 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     // AAC has a folder of its own ("Output Folder…"): its run writes there, not below Start's.
     const QString own = freshFolder(u"own AAC"_s);
     QVERIFY(workspace.tabs().selectContainer(u"AAC"_s));
-    SXSettingPanelActions::setOutputFolder(workspace, own);
-    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), own);
+    SXSettingPanelActions::setOutputFolder(workspace.store(), own);
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), own);
 
     const QString folder = freshFolder(u"start"_s);
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, true};
