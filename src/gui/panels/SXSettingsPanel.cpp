@@ -80,7 +80,7 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
     _btnSavePath->setToolTip(
-        QDir::toNativeSeparators(SXSettingPanelActions::containerOutputFolder(m_workspace)));
+        QDir::toNativeSeparators(SXSettingPanelActions::containerOutputFolder(m_store)));
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
