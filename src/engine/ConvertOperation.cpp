@@ -278,7 +278,7 @@ void ConvertOperation::deliverToLibrary(const QString& outputFile) {
     if (m_listener)
         m_listener->convertStartSync(this);
     setState(CvtStateSending);
-    ScriptBridgeHelper::syncItunesLibrary(m_job.playlist, outputFile);
+    ScriptBridgeHelper::syncMusicLibrary(m_job.playlist, outputFile);
     setState(CvtStateFinished);
 }
 
