@@ -20,12 +20,12 @@ void startRunFromEnvironment(SXDesktopApp& app) {
     poll->setInterval(kPollMs);
     QObject::connect(poll, &QTimer::timeout, &app, [poll, folder, &app] {
         SXMainAppController* window = app.coreWindow();
-        if (!window || window->workspace().enumAppState() != AppStateIdle ||
-            window->workspace().getTotalNeedConvertMusic() == 0)
+        if (!window || window->workspace().store().enumAppState() != AppStateIdle ||
+            window->workspace().store().getTotalNeedConvertMusic() == 0)
             return;
         poll->stop();
         poll->deleteLater();
-        window->workspace().doRealConverterTask(folder);
+        window->workspace().scheduler().doRealConverterTask(folder);
     });
     poll->start();
 }

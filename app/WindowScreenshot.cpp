@@ -37,14 +37,14 @@ void saveWindowScreenshotFromEnvironment(SXDesktopApp& app) {
         poll, &QTimer::timeout, &app, [poll, file, &app, waited = 0, idlePolls = 0]() mutable {
             SXMainAppController* window = app.coreWindow();
             waited += kPollMs;
-            const bool idle = window && window->workspace().enumAppState() == AppStateIdle;
+            const bool idle = window && window->workspace().store().enumAppState() == AppStateIdle;
             idlePolls = idle ? idlePolls + 1 : 0;
             // Idle for a few polls: the rows queued to the main thread are drawn.
             if (!window || (idlePolls < kSettlePolls && waited < kLongestWaitMs))
                 return;
             poll->stop();
-            if (window->workspace().currentTabItemCount() > 0)
-                window->workspace().setSelectedRows({0});
+            if (window->workspace().store().currentTabItemCount() > 0)
+                window->workspace().store().setSelectedRows({0});
             saveAndExit(*window, file);
         });
     poll->start();

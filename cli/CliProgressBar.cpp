@@ -1,10 +1,6 @@
 #include "CliProgressBar.h"
 
 #include "CliOutput.h"
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 
 #include <QCoreApplication>

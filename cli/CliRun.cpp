@@ -2,14 +2,11 @@
 
 #include "CliOutput.h"
 #include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
-#include "base/SXFolderScan.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
@@ -48,34 +45,34 @@ QString CliRun::outputFolderForRun() const {
 
 void CliRun::prepareWorkspace() {
     m_workspace = std::make_unique<SXWorkspace>();
-    m_workspace->setPresenter(this);
-    m_workspace->addDefaultTabs();
-    if (!m_workspace->selectContainer(m_setting->fmtName()))
-        m_workspace->addContainerWithFormat(m_setting);
-    m_workspace->setFmtSetting(m_setting);
-    m_workspace->setOrganizeByFormat(m_options.organize);
-    m_workspace->setOpenFolderWhenDone(false);
+    m_workspace->store().setPresenter(this);
+    m_workspace->tabs().addDefaultTabs();
+    if (!m_workspace->tabs().selectContainer(m_setting->fmtName()))
+        m_workspace->tabs().addContainerWithFormat(m_setting);
+    m_workspace->store().setFmtSetting(m_setting);
+    m_workspace->scheduler().setOrganizeByFormat(m_options.organize);
+    m_workspace->scheduler().setOpenFolderWhenDone(false);
     int jobs = m_options.jobs.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask));
     if (jobs <= 0)
         jobs = kDefaultJobs;
-    m_workspace->setMaxConcurrentOverride(jobs);
+    m_workspace->scheduler().setMaxConcurrentOverride(jobs);
 }
 
 void CliRun::start() {
     m_terminal = CliOutput::stdoutIsTerminal();
     m_outputFolder = outputFolderForRun();
     prepareWorkspace();
-    connect(m_workspace.get(), &SXWorkspaceFileLists::loadFinished, this,
+    connect(&m_workspace->addRun(), &SXAddRun::loadFinished, this,
             [this](const SXMusicInfoList& failed) { loadFinished(failed); });
 
     QStringList paths;
     for (const QString& input : std::as_const(m_options.inputs))
         paths.append(absoluteClean(input));
-    m_workspace->loadAndParseFiles(paths);
+    m_workspace->addRun().loadAndParseFiles(paths);
 }
 
 SXMusicInfoList CliRun::items() const {
-    return m_workspace->getDataForFormat(m_setting->fmtName());
+    return m_workspace->store().getDataForFormat(m_setting->fmtName());
 }
 
 // --- Loading ---
@@ -103,9 +100,8 @@ void CliRun::loadFinished(const SXMusicInfoList& failed) {
 }
 
 void CliRun::printDryRun() {
-    const QString folder = m_options.organize
-                               ? m_outputFolder + QLatin1Char('/') + m_setting->fmtName()
-                               : m_outputFolder;
+    const QString folder =
+        SXJobBuilder::outputFolder(*m_setting, m_outputFolder, m_options.organize);
     const QString ext = m_setting->outputExtName();
     const SXMusicInfoList loaded = items();
     QString text;
@@ -130,19 +126,20 @@ void CliRun::printDryRun() {
 
 void CliRun::startConversion() {
     m_phase = Phase::Converting;
-    connect(m_workspace.get(), &SXWorkspaceScheduler::runRefused, this, [](const QString& message) {
-        CliOutput::line(stderr, QStringLiteral("sonoria-cli: %1").arg(message));
-    });
+    connect(&m_workspace->scheduler(), &SXWorkspaceScheduler::runRefused, this,
+            [](const QString& message) {
+                CliOutput::line(stderr, QStringLiteral("sonoria-cli: %1").arg(message));
+            });
     m_total = int(items().size());
-    connect(m_workspace.get(), &SXWorkspaceScheduler::runFinished, this,
+    connect(&m_workspace->scheduler(), &SXWorkspaceScheduler::runFinished, this,
             [this](const QString&, int succeeded, int) { runFinished(succeeded); });
     if (m_terminal) {
-        connect(m_workspace.get(), &SXWorkspaceScheduler::totalProgressChanged, this,
+        connect(&m_workspace->scheduler(), &SXWorkspaceScheduler::totalProgressChanged, this,
                 &CliRun::totalProgressChanged);
         m_bar.start();
     }
-    connect(m_workspace.get(), &SXWorkspaceScheduler::itemFinished, this, &CliRun::report);
-    if (!m_workspace->doRealConverterTask(m_outputFolder)) {
+    connect(&m_workspace->scheduler(), &SXWorkspaceScheduler::itemFinished, this, &CliRun::report);
+    if (!m_workspace->scheduler().doRealConverterTask(m_outputFolder)) {
         // Not a single file was touched: the folder is named with the system's reason.
         if (m_terminal)
             m_bar.clear();
@@ -204,7 +201,8 @@ void CliRun::runFinished(int succeeded) {
                 {CliOutput::escaped(failure->path), CliOutput::escaped(failure->reason)});
     }
     if (m_terminal) {
-        m_bar.update(m_workspace->getTotalConvertProgress() * 100.0, m_done, m_failed, m_total);
+        m_bar.update(m_workspace->scheduler().getTotalConvertProgress() * 100.0, m_done, m_failed,
+                     m_total);
         CliOutput::write(stdout, QStringLiteral("\n"));
         for (const SXPathFailure& failure : std::as_const(failures))
             CliOutput::line(stdout, QCoreApplication::translate("CliRun", "failed: %1: %2")
@@ -228,14 +226,14 @@ void CliRun::interrupt(int signalNumber) {
     if (m_phase == Phase::Loading) {
         CliOutput::line(stderr, QCoreApplication::translate(
                                     "CliRun", "sonoria-cli: interrupted, stopping the load"));
-        m_workspace->cancelLoading();
+        m_workspace->addRun().cancelLoading();
     } else {
         if (m_terminal)
             m_bar.clear();
         CliOutput::line(stderr,
                         QCoreApplication::translate(
                             "CliRun", "sonoria-cli: interrupted, cancelling the conversions"));
-        m_workspace->cancelAll();
+        m_workspace->scheduler().cancelAll();
     }
 }
 

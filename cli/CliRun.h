@@ -2,9 +2,9 @@
 
 #include "CliOptions.h"
 #include "CliProgressBar.h"
+#include "base/SXPathFailure.h"
 #include "engine/ConvertOperation.h"
 #include "model/SXFormatSetting.h"
-#include "base/SXPathFailure.h"
 #include "workspace/SXWorkspacePresenter.h"
 
 #include <QHash>

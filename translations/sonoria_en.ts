@@ -388,6 +388,13 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXAddRun</name>
+    <message>
+        <source>The file name is not valid UTF-8</source>
+        <translation>The file name is not valid UTF-8</translation>
+    </message>
+</context>
+<context>
     <name>SXArtworkDropView</name>
     <message>
         <source>Drop a picture here</source>
@@ -1106,13 +1113,6 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Help</source>
         <translation>Help</translation>
-    </message>
-</context>
-<context>
-    <name>SXWorkspaceFileLists</name>
-    <message>
-        <source>The file name is not valid UTF-8</source>
-        <translation>The file name is not valid UTF-8</translation>
     </message>
 </context>
 <context>

@@ -4,9 +4,9 @@
 // the whole list scrolls by pages, and the resident memory per item with the window.
 //   sonoria-bench-list FOLDER        (run by bench/list.sh, which prepares the environment)
 
+#include "MainThreadWatch.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/window/SXMainAppController.h"
-#include "MainThreadWatch.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>
@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     }
     const QString folder = QString::fromLocal8Bit(argv[1]);
     SXMainAppController window;
-    window.workspace().addDefaultTabs();
+    window.workspace().tabs().addDefaultTabs();
     window.resize(980, 640);
     window.show();
     auto* view = window.findChild<SXItemListView*>(QStringLiteral("itemList"));
@@ -110,7 +110,7 @@ int main(int argc, char** argv) {
         monitor.start();
         scrollStep();
     };
-    QObject::connect(&window.workspace(), &SXWorkspace::loadFinished, &window, [&] {
+    QObject::connect(&window.workspace().addRun(), &SXAddRun::loadFinished, &window, [&] {
         watch.done = lastRowShown;
         watch.armed = true;
         view->scrollToBottom();

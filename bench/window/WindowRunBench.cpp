@@ -3,10 +3,10 @@
 // thread meanwhile. bench/window.sh compares it with sonoria-cli on the same files.
 //
 //   sonoria-bench-window [-f FORMAT] [-j JOBS] -o DIR FILE|FOLDER...
-#include "gui/window/SXMainAppController.h"
 #include "MainThreadWatch.h"
-#include "model/SXDataEngine.h"
 #include "base/SXLog.h"
+#include "gui/window/SXMainAppController.h"
+#include "model/SXDataEngine.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>
@@ -45,11 +45,12 @@ Options parse(const QApplication& app) {
 }
 
 int selectContainer(SXWorkspace& workspace, const QString& format) {
-    if (!workspace.tabLabels().contains(format))
-        workspace.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(format));
-    const int index = int(workspace.tabLabels().indexOf(format));
+    if (!workspace.store().tabLabels().contains(format))
+        workspace.tabs().addContainerWithFormat(
+            SXDataEngine::shareInstance()->getFormatWithName(format));
+    const int index = int(workspace.store().tabLabels().indexOf(format));
     if (index >= 0)
-        workspace.selectTab(index);
+        workspace.tabs().selectTab(index);
     return index;
 }
 
@@ -70,25 +71,26 @@ int main(int argc, char** argv) {
     SXMainAppController window;
     window.show();
     SXWorkspace& workspace = window.workspace();
-    workspace.addDefaultTabs();
+    workspace.tabs().addDefaultTabs();
     if (selectContainer(workspace, options.format) < 0) {
         std::fprintf(stderr, "no format %s\n", qPrintable(options.format));
         return 2;
     }
     // The first paint loads fonts and icons: a start-up cost, not a block during the run.
     window.grab();
-    workspace.setMaxConcurrentOverride(options.jobs);
-    workspace.setOrganizeByFormat(false);
+    workspace.scheduler().setMaxConcurrentOverride(options.jobs);
+    workspace.scheduler().setOrganizeByFormat(false);
 
     MainThreadWatch watch;
     QElapsedTimer clock;
     int succeeded = 0;
     int failed = 0;
-    QObject::connect(&workspace, &SXWorkspace::loadFinished, &app, [&] {
+    QObject::connect(&workspace.addRun(), &SXAddRun::loadFinished, &app, [&] {
         // The same run as Start with the folder already chosen.
-        QTimer::singleShot(0, &app, [&] { workspace.doRealConverterTask(options.output); });
+        QTimer::singleShot(0, &app,
+                           [&] { workspace.scheduler().doRealConverterTask(options.output); });
     });
-    QObject::connect(&workspace, &SXWorkspace::runFinished, &app,
+    QObject::connect(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished, &app,
                      [&](const QString&, int ok, int bad) {
                          succeeded = ok;
                          failed = bad;
@@ -98,17 +100,19 @@ int main(int argc, char** argv) {
                      });
     if (!qEnvironmentVariableIsEmpty("BENCHDEBUG")) {
         watch.reportBlocksOver(30.0);
-        QObject::connect(&workspace, &SXWorkspace::totalProgressChanged, &app, [&](double p) {
-            std::fprintf(stderr, "%.3f s progress %.1f\n", clock.elapsed() / 1e3, p);
-        });
-        QObject::connect(&workspace, &SXWorkspace::appStateChanged, &app, [&](int s) {
+        QObject::connect(&workspace.scheduler(), &SXWorkspaceScheduler::totalProgressChanged, &app,
+                         [&](double p) {
+                             std::fprintf(stderr, "%.3f s progress %.1f\n", clock.elapsed() / 1e3,
+                                          p);
+                         });
+        QObject::connect(&workspace.store(), &SXContainerStore::appStateChanged, &app, [&](int s) {
             std::fprintf(stderr, "%.3f s state %d\n", clock.elapsed() / 1e3, s);
         });
     }
     QTimer::singleShot(0, &app, [&] {
         watch.start();
         clock.start();
-        workspace.loadAndParseFiles(options.files);
+        workspace.addRun().loadAndParseFiles(options.files);
     });
     app.exec();
     const qint64 wall = clock.elapsed();

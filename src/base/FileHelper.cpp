@@ -1,8 +1,8 @@
 #include "FileHelper.h"
 
 #include "base/SXBundle.h"
-#include "base/SXFolderVisit.h"
-#include "base/SXHomeFolder.h"
+#include "base/SXFileLocalManager.h"
+#include "base/SXFolderScan.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -204,7 +204,7 @@ quint64 FileHelper::getFileSizeWithPath(const QString& path) {
 }
 
 quint64 FileHelper::getFileSystemFreeSize() {
-    return getFreeSizeOfFileSystemHolding(SXHomeFolder::processHome());
+    return getFreeSizeOfFileSystemHolding(SXFileLocalManager::processHome());
 }
 
 quint64 FileHelper::getFreeSizeOfFileSystemHolding(const QString& path) {
@@ -232,11 +232,11 @@ bool FileHelper::isDiskFullForFreeBytes(quint64 freeBytes) {
 }
 
 QString FileHelper::getDocumentsPath() {
-    return SXHomeFolder::documentsFolder();
+    return SXFileLocalManager::documentsFolder();
 }
 
 QString FileHelper::getLibraryPath() {
-    return SXHomeFolder::dataFolder();
+    return SXFileLocalManager::dataFolder();
 }
 
 QString FileHelper::getAppPath() {

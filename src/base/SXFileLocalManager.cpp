@@ -5,10 +5,6 @@
 #include <QDir>
 #include <QStandardPaths>
 
-QString SXFileLocalManager::getDefaultOutputDir(const QString& fmtName) {
-    return getDefaultUpperOutputDir() + QLatin1Char('/') + fmtName;
-}
-
 QString SXFileLocalManager::getDefaultUpperOutputDir() {
     return musicDirectory() + QLatin1Char('/') + SXBundle::productName();
 }
@@ -17,4 +13,16 @@ QString SXFileLocalManager::musicDirectory() {
     // Qt reads user-dirs.dirs itself and falls back to $HOME/Music when it names no music folder.
     const QString music = QStandardPaths::writableLocation(QStandardPaths::MusicLocation);
     return QDir::cleanPath(music.isEmpty() ? QDir::homePath() + QStringLiteral("/Music") : music);
+}
+
+QString SXFileLocalManager::processHome() {
+    return QDir::homePath();
+}
+
+QString SXFileLocalManager::documentsFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+}
+
+QString SXFileLocalManager::dataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation);
 }

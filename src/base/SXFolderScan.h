@@ -2,9 +2,12 @@
 
 #include "base/SXPathFailure.h"
 
+#include <QSet>
+#include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <utility>
 
 // What a dropped or named folder contributes: the files below it with an accepted extension, in
 // the order a file manager shows them, hidden entries left out. Static and safe to call from
@@ -22,4 +25,17 @@ public:
     static QStringList acceptedExtensions();
     // Registers the getter of the remote "experimental" switch; without one the switch is on.
     static void setExperimentalSwitch(std::function<bool()> isExperimentalOn);
+};
+
+// Remembers which folders a recursive walk has entered, by device and inode, so that a walk that
+// follows symbolic links enters every folder at most once. A link back to an ancestor, or two
+// links to the same folder, therefore cannot make a scan run forever.
+class SXFolderVisit {
+public:
+    // True when `path` is a folder (links followed) that this walk has not entered before; the
+    // folder is then recorded as entered.
+    bool enter(const QString& path);
+
+private:
+    QSet<std::pair<quint64, quint64>> m_entered;
 };

@@ -1,14 +1,35 @@
 #include "engine/ConvertCommandLine.h"
 
-#include "model/LSMedia.h"
 #include "base/SXBundle.h"
+#include "engine/ConvertJob.h"
+#include "model/LSMedia.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QStandardPaths>
 
 namespace {
+// Above this bit rate the output is stereo whatever was chosen.
 constexpr double kForceStereoAboveKbps = 192.0;
+
+// What ffmpeg is asked for: the chosen values, the source's where none was chosen.
+double bitRateKbps(const ConvertJob& job) {
+    if (job.choices.lossless)
+        return 0.0; // the lossless encoders have always been given 0
+    if (job.choices.bitRate)
+        return double(*job.choices.bitRate);
+    return job.sourceBitRate / 1000.0;
+}
+
+double sampleRate(const ConvertJob& job) {
+    return job.choices.sampleRate ? double(*job.choices.sampleRate) : job.sourceSampleRate;
+}
+
+int channels(const ConvertJob& job) {
+    if (bitRateKbps(job) > kForceStereoAboveKbps)
+        return 2;
+    return job.choices.channels.value_or(job.sourceChannels);
+}
 } // namespace
 
 QString ConvertCommandLine::ffmpegPath() {
@@ -20,22 +41,20 @@ QString ConvertCommandLine::ffmpegPath() {
     return QStandardPaths::findExecutable(QStringLiteral("ffmpeg"));
 }
 
-QStringList ConvertCommandLine::arguments(const QString& executable, const LSMedia& media,
+QStringList ConvertCommandLine::arguments(const QString& executable, const ConvertJob& job,
                                           const QString& outputFile) {
-    const double bitrate = media.dAOBitrate();
-    const int channels = bitrate > kForceStereoAboveKbps ? 2 : media.iAOChannels();
     return {executable,
             QStringLiteral("-i"),
-            media.filePath(),
+            job.sourcePath,
             QStringLiteral("-vn"),
             QStringLiteral("-acodec"),
-            media.vOACodecName(),
+            job.encoder,
             QStringLiteral("-ar"),
-            QString::number(media.dAOSamplerate(), 'f', 2),
+            QString::number(sampleRate(job), 'f', 2),
             QStringLiteral("-b:a"),
-            QString::number(bitrate, 'f', 2) + QLatin1Char('k'),
+            QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k'),
             QStringLiteral("-ac"),
-            QString::number(channels),
+            QString::number(channels(job)),
             QStringLiteral("-y"),
             outputFile};
 }

@@ -3,17 +3,18 @@
 #include <QString>
 #include <QStringList>
 
-class LSMedia;
+struct ConvertJob;
 
-// The ffmpeg command line of one conversion: which ffmpeg runs, and the arguments it gets from
-// the item's output settings, always in the same order and never more than these.
+// The ffmpeg command line of one conversion: which ffmpeg runs, and the arguments its job gets,
+// always in the same order and never more than these. Every rule that turns a container's
+// choices into numbers for ffmpeg is here.
 class ConvertCommandLine {
 public:
     // The ffmpeg beside our own executable, else the one on PATH; empty when there is none.
     static QString ffmpegPath();
 
     // The argument vector (element 0 is the executable), in its fixed order.
-    static QStringList arguments(const QString& executable, const LSMedia& media,
+    static QStringList arguments(const QString& executable, const ConvertJob& job,
                                  const QString& outputFile);
 
     // The arguments as the log shows them: ("a", "b", ...).

@@ -1,5 +1,8 @@
 #include "engine/ConvertOperation.h"
 
+#include "base/SXBundle.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
@@ -9,9 +12,6 @@
 #include "engine/TaskWrapper.h"
 #include "framework/MTEAudioFileMgr.h"
 #include "framework/MTETagCopy.h"
-#include "base/SXBundle.h"
-#include "base/SXLog.h"
-#include "base/SXSettings.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -22,6 +22,7 @@
 
 #include <csignal>
 #include <sys/types.h>
+#include <utility>
 
 namespace {
 const QString kRingtone = QStringLiteral("ringtone");
@@ -40,10 +41,14 @@ const QStringList& kindsWithTags() {
 }
 } // namespace
 
-ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item)
-    : _musicToConvert(item) {
-    if (item && item->mediaInfo())
-        item->mediaInfo()->setEumCvtState(CvtStateReady);
+ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item, ConvertJob job)
+    : _musicToConvert(item)
+    , m_job(std::move(job))
+    , m_strOutFilePath(m_job.outputFolder) {
+    if (const LSMediaPtr media = item ? item->mediaInfo() : nullptr) {
+        media->setEumCvtState(CvtStateReady);
+        media->setFailReason(QString());
+    }
 }
 
 ConvertOperation::~ConvertOperation() {
@@ -60,11 +65,6 @@ SXMusicInfoPtr ConvertOperation::musicToConvert() const {
     return _musicToConvert;
 }
 
-void ConvertOperation::setMusicToConvert(const SXMusicInfoPtr& item) {
-    QMutexLocker locker(&m_lock);
-    _musicToConvert = item;
-}
-
 QString ConvertOperation::strOutFilePath() const {
     QMutexLocker locker(&m_lock);
     return m_strOutFilePath;
@@ -76,8 +76,7 @@ void ConvertOperation::setStrOutFilePath(const QString& path) {
 }
 
 bool ConvertOperation::isRingtone() const {
-    const SXMusicInfoPtr item = musicToConvert();
-    return item && item->getStrMusicType().toLower() == kRingtone;
+    return m_job.formatName.toLower() == kRingtone;
 }
 
 void ConvertOperation::setState(int state) {
@@ -110,9 +109,9 @@ void ConvertOperation::main() {
         tellFinish();
         return;
     }
-    const QString folder = ConvertOutputFile::folderFor(strOutFilePath(), *media);
+    const QString folder = ConvertOutputFile::folderFor(m_job);
     const QString problem =
-        m_output.prepare(*media, folder, isRingtone() ? kRingtoneEncodeExt : QString());
+        m_output.prepare(m_job, folder, isRingtone() ? kRingtoneEncodeExt : QString());
     if (!problem.isEmpty()) {
         // No child is started for a folder that cannot take the file.
         if (isCancelled())
@@ -123,7 +122,7 @@ void ConvertOperation::main() {
     }
     setStrOutFilePath(m_output.finalPath());
     const QStringList arguments =
-        ConvertCommandLine::arguments(ffmpeg, *media, m_output.temporaryPath());
+        ConvertCommandLine::arguments(ffmpeg, m_job, m_output.temporaryPath());
     SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
 
@@ -237,7 +236,7 @@ void ConvertOperation::decideOutcome() {
         fail(reason);
         return;
     }
-    if (SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary)) {
+    if (m_job.runLibraryScript) {
         setState(CvtStateSending);
         SXLibraryScript::run(strOutFilePath());
     }
@@ -257,9 +256,8 @@ QString ConvertOperation::finishOutput() {
     reason = saveTags(m_output.temporaryPath());
     if (!reason.isEmpty())
         return reason;
-    const LSMediaPtr media = musicToConvert()->mediaInfo();
-    reason = ConvertVerification::check(m_output.temporaryPath(), media->vOACodecName(),
-                                        media->durationExact() ? media->duration() : 0.0);
+    reason = ConvertVerification::check(m_output.temporaryPath(), m_job.encoder,
+                                        m_job.sourceDurationExact ? m_job.sourceDuration : 0.0);
     if (!reason.isEmpty()) {
         // A source that would not decode is the better explanation of a short output.
         const QString decoding = ConvertFailure::decodingIn(m_console);
@@ -274,16 +272,13 @@ QString ConvertOperation::finishOutput() {
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {
     const SXMusicInfoPtr item = musicToConvert();
-    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !item->bIsSendingToLibrary())
+    if (item->mediaInfo()->eumCvtState() != CvtStateFinished || !m_job.addToLibrary)
         return;
     setState(CvtStateSending);
     if (m_listener)
         m_listener->convertStartSync(this);
     setState(CvtStateSending);
-    QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
-    if (playlist.isEmpty())
-        playlist = SXBundle::productName();
-    ScriptBridgeHelper::syncItunesLibrary(playlist, outputFile);
+    ScriptBridgeHelper::syncMusicLibrary(m_job.playlist, outputFile);
     setState(CvtStateFinished);
 }
 
@@ -357,17 +352,9 @@ void ConvertOperation::appendOutput(const QString& output) {
     m_console += output;
     if (m_console.size() > kConsoleKeep)
         m_console.remove(0, m_console.size() - kConsoleKeep);
-    const SXMusicInfoPtr item = musicToConvert();
-    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
-    if (!media)
-        return;
-    const ConvertProgressTracker::Update update = m_progress.feed(output, media->duration());
-    if (!update.hasTime)
-        return;
-    media->setDProgress(update.progress);
-    media->setDLeftTime(update.leftTime);
-    if (update.renewed && m_listener)
-        m_listener->convertOperationHandleProgress(this, media->dProgress());
+    const ConvertProgressTracker::Update update = m_progress.feed(output, m_job.sourceDuration);
+    if (update.hasTime && update.renewed && m_listener)
+        m_listener->convertOperationHandleProgress(this, update.progress);
 }
 
 void ConvertOperation::processStarted() {
@@ -382,9 +369,6 @@ void ConvertOperation::processFinished() {
 
 void ConvertOperation::launcherDidTerminatedWithCode(int code) {
     SXLog::line(QStringLiteral("exit code:%1").arg(code));
-    const SXMusicInfoPtr item = musicToConvert();
-    if (item && item->mediaInfo())
-        item->mediaInfo()->setDProgress(100.0);
     iExitCode = code;
     m_terminated = true;
     bIsConverting = false;

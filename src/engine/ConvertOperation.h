@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/ConvertJob.h"
 #include "engine/ConvertOperationListener.h"
 #include "engine/ConvertOutputFile.h"
 #include "engine/ConvertProgressTracker.h"
@@ -17,27 +18,29 @@ class QEventLoop;
 class TaskWrapper;
 
 // Converts one item into one output file with an ffmpeg child process: builds the command line
-// from the item's output settings, runs the child into a temporary file while its console text
-// drives the item's progress, and calls the item finished only when the child exited cleanly,
-// said nothing of a failure and its output reads back whole (ConvertVerification); then copies
-// the tags, moves the file to a final name that replaces nothing and hands it to the music
-// library. Every failure carries its reason on the item's record.
+// from its job, runs the child into a temporary file while its console text drives the
+// progress the listener hears of, and calls the item finished only when the child exited
+// cleanly, said nothing of a failure and its output reads back whole (ConvertVerification); then
+// copies the tags, moves the file to a final name that replaces nothing and hands it to the
+// music library. The item's record gets the run's state and, for every failure, its reason; the
+// job is never changed.
 //
 // Threads: main() and every listener callback run on the queue's worker thread. cancel(),
 // pause() and resume() may come from any thread (normally the main one).
 class ConvertOperation : public SXOperation, public TaskWrapperController {
 public:
-    explicit ConvertOperation(const SXMusicInfoPtr& item);
+    // A new operation starts the item afresh: ready, without the reason of an earlier failure.
+    ConvertOperation(const SXMusicInfoPtr& item, ConvertJob job);
     ~ConvertOperation() override;
 
     SXMusicInfoPtr musicToConvert() const;
-    void setMusicToConvert(const SXMusicInfoPtr& item);
+    const ConvertJob& job() const { return m_job; }
     ConvertOperationListener* listener() const { return m_listener; }
     void setListener(ConvertOperationListener* listener) { m_listener = listener; }
-    // Before main(): the output folder (empty = beside the source). From the moment main() has
-    // claimed the output's name: that final name (the file appears there only when whole).
+    // Before main(): the job's output folder (empty = beside the source). From the moment
+    // main() has claimed the output's name: that final name (the file appears there only when
+    // whole).
     QString strOutFilePath() const;
-    void setStrOutFilePath(const QString& path);
 
     void main() override;
     // A running conversion: stops the child, deletes its partial output, ends CvtStateCanceled
@@ -59,6 +62,7 @@ public:
 
 private:
     bool isRingtone() const;
+    void setStrOutFilePath(const QString& path);
     bool startChild(const QStringList& arguments);
     void waitForChild();
     void decideOutcome();
@@ -75,6 +79,7 @@ private:
     std::atomic<bool> bIsConverting{false};
     ConvertProgressTracker m_progress; // dLastTime, dLastPrg, dLastLeftTime
     SXMusicInfoPtr _musicToConvert;
+    const ConvertJob m_job;
     std::atomic<bool> isUserCancel{false};
     std::atomic<int> iExitCode{0};
     ConvertOperationListener* m_listener = nullptr;

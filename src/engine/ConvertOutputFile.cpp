@@ -1,9 +1,10 @@
 #include "engine/ConvertOutputFile.h"
 
+#include "base/SXLog.h"
 #include "engine/ConvertFailure.h"
+#include "engine/ConvertJob.h"
 #include "engine/ConvertOutputPath.h"
 #include "model/LSMedia.h"
-#include "base/SXLog.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -37,19 +38,19 @@ ConvertOutputFile::~ConvertOutputFile() {
     discard();
 }
 
-QString ConvertOutputFile::folderFor(const QString& chosen, const LSMedia& media) {
-    return chosen.isEmpty() ? QFileInfo(media.filePath()).absolutePath()
-                            : QDir(chosen).absolutePath();
+QString ConvertOutputFile::folderFor(const ConvertJob& job) {
+    return job.outputFolder.isEmpty() ? QFileInfo(job.sourcePath).absolutePath()
+                                      : QDir(job.outputFolder).absolutePath();
 }
 
 bool ConvertOutputFile::isTemporaryName(const QString& fileName) {
     return temporaryPattern().match(fileName).hasMatch();
 }
 
-QString ConvertOutputFile::prepare(const LSMedia& media, const QString& folder,
+QString ConvertOutputFile::prepare(const ConvertJob& job, const QString& folder,
                                    const QString& encodeExt) {
     discard();
-    const QString finalExt = media.strOutFileExt();
+    const QString finalExt = job.extension;
     const QString encodeAs = encodeExt.isEmpty() ? finalExt : encodeExt;
     for (;;) {
         const QString name = QStringLiteral(".sonoria-part-%1-%2")
@@ -71,7 +72,7 @@ QString ConvertOutputFile::prepare(const LSMedia& media, const QString& folder,
         }
     }
     m_final = ConvertOutputPath::claim(
-        folder + QLatin1Char('/') + withExtension(media.strOutFileName(), finalExt), finalExt);
+        folder + QLatin1Char('/') + withExtension(job.outputName, finalExt), finalExt);
     m_claimed = true;
     return {};
 }

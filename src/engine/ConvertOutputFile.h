@@ -2,7 +2,7 @@
 
 #include <QString>
 
-class LSMedia;
+struct ConvertJob;
 
 // The file one conversion writes. The encoder writes under a hidden temporary name in the
 // destination folder (with the extension the encoder needs, so it picks the same container);
@@ -16,14 +16,14 @@ public:
     ConvertOutputFile(const ConvertOutputFile&) = delete;
     ConvertOutputFile& operator=(const ConvertOutputFile&) = delete;
 
-    // The folder the output goes to: `chosen` (empty: the source's folder), always absolute, so
-    // ffmpeg can never take the output for an option.
-    static QString folderFor(const QString& chosen, const LSMedia& media);
+    // The folder the job's output goes to: its own (empty: the source's folder), always
+    // absolute, so ffmpeg can never take the output for an option.
+    static QString folderFor(const ConvertJob& job);
 
-    // Claims the final name for `media` in `folder` and creates the temporary file (named with
+    // Claims the job's final name in `folder` and creates the temporary file (named with
     // `encodeExt` when given, e.g. a ringtone is encoded as .m4a). Empty on success, else why
     // not (the folder is read-only, full, ...); nothing is left on disk then.
-    QString prepare(const LSMedia& media, const QString& folder, const QString& encodeExt);
+    QString prepare(const ConvertJob& job, const QString& folder, const QString& encodeExt);
     QString temporaryPath() const { return m_temporary; }
     // The final name claimed by prepare(); after commit() the name the file really got.
     QString finalPath() const { return m_final; }

@@ -1,10 +1,6 @@
 #include "engine/ConvertOutputPath.h"
 
 #include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 
 #include <QFile>
 #include <QMutex>

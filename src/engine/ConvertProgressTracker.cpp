@@ -1,9 +1,5 @@
 #include "engine/ConvertProgressTracker.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 
 #include <QRegularExpression>

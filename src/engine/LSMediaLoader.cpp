@@ -31,17 +31,8 @@ void readFileAttributes(LSMedia& media) {
     media.setDFileSize(double(info.size()));
 }
 
-// The output settings start from the source's own values; the scheduler later replaces them
-// with the container's choices.
-void copyProbeToOutput(LSMedia& media) {
-    media.setDAOBitrate(media.audioBitrate() / 1000.0);
-    media.setDAOSamplerate(media.audioSamplerate());
-    media.setIAOChannels(media.audioChannels());
-}
-
 // Everything after a good probe. Unreadable tags leave the handle empty; the item still loads.
 void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
-    copyProbeToOutput(media);
     readFileAttributes(media);
     const QString path = item.strFilePath();
     std::shared_ptr<MTEAudioFile> handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);

@@ -1,7 +1,7 @@
 #include "engine/SXLibraryScript.h"
 
-#include "base/SXFileLocalManager.h"
 #include "base/SXBundle.h"
+#include "base/SXFileLocalManager.h"
 #include "base/SXLog.h"
 
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #include "engine/SXMpdLibrary.h"
 
-#include "engine/SXLibraryFolder.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "engine/SXLibraryFolder.h"
 
 #include <QDeadlineTimer>
 

@@ -1,13 +1,13 @@
 #include "engine/ScriptBridgeHelper.h"
 
 #include "base/SXFileLocalManager.h"
-#include "engine/SXMpdLibrary.h"
-#include "engine/SXPlaylistFileLibrary.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "engine/SXMpdLibrary.h"
+#include "engine/SXPlaylistFileLibrary.h"
 
-void ScriptBridgeHelper::syncItunesLibrary(const QString& playlistName, const QString& originFile,
-                                           QString* error) {
+void ScriptBridgeHelper::syncMusicLibrary(const QString& playlistName, const QString& originFile,
+                                          QString* error) {
     Q_UNUSED(error)
     const QString backend = SXSettings::stringForKey(SXSettingsKey::LibraryBackend).trimmed();
     if (backend == QLatin1String("mpd")) {

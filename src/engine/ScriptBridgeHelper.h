@@ -12,6 +12,6 @@ public:
     // A null or empty playlist name delivers to the library alone. The error slot
     // is kept for callers written against the original interface; it is never
     // written.
-    static void syncItunesLibrary(const QString& playlistName, const QString& originFile,
-                                  QString* error = nullptr);
+    static void syncMusicLibrary(const QString& playlistName, const QString& originFile,
+                                 QString* error = nullptr);
 };

@@ -1,7 +1,7 @@
 #include "engine/TaskWrapper.h"
 
-#include "engine/TaskWrapperController.h"
 #include "base/SXLog.h"
+#include "engine/TaskWrapperController.h"
 
 #include <QCoreApplication>
 #include <QThread>

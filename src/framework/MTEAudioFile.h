@@ -1,7 +1,7 @@
 #pragma once
 
-#include "framework/MTEArtwork.h"
 #include "base/SXCoder.h"
+#include "framework/MTEArtwork.h"
 
 #include <QMap>
 #include <QString>

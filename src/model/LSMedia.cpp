@@ -12,14 +12,8 @@
         field = value;                                                                             \
     }
 
-SX_LOCKED_PROPERTY(bool, bSampleQuality, setBSampleQuality, m_bSampleQuality)
-SX_LOCKED_PROPERTY(int, iAOChannels, setIAOChannels, m_iAOChannels)
 SX_LOCKED_PROPERTY(int, eumCvtState, setEumCvtState, m_eumCvtState)
 SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
-SX_LOCKED_PROPERTY(double, dAOBitrate, setDAOBitrate, m_dAOBitrate)
-SX_LOCKED_PROPERTY(double, dAOSamplerate, setDAOSamplerate, m_dAOSamplerate)
-SX_LOCKED_PROPERTY(double, dProgress, setDProgress, m_dProgress)
-SX_LOCKED_PROPERTY(double, dLeftTime, setDLeftTime, m_dLeftTime)
 
 #undef SX_LOCKED_PROPERTY
 
@@ -34,10 +28,7 @@ SX_LOCKED_PROPERTY(double, dLeftTime, setDLeftTime, m_dLeftTime)
     }
 
 SX_LOCKED_STRING(strLastModified, setStrLastModified, m_strLastModified)
-SX_LOCKED_STRING(vOACodecName, setVOACodecName, m_vOACodecName)
-SX_LOCKED_STRING(strDescription, setStrDescription, m_strDescription)
 SX_LOCKED_STRING(strOutFileName, setStrOutFileName, m_strOutFileName)
-SX_LOCKED_STRING(strOutFileExt, setStrOutFileExt, m_strOutFileExt)
 SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
 
 #undef SX_LOCKED_STRING
@@ -45,17 +36,8 @@ SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
 std::shared_ptr<LSMedia> LSMedia::copy() const {
     auto result = std::make_shared<LSMedia>();
     copyBaseTo(*result);
-    result->setBSampleQuality(bSampleQuality());
-    result->setDAOBitrate(dAOBitrate());
-    result->setDAOSamplerate(dAOSamplerate());
-    result->setVOACodecName(vOACodecName());
-    result->setIAOChannels(iAOChannels());
-    result->setDProgress(dProgress());
-    result->setDLeftTime(dLeftTime());
     result->setEumCvtState(eumCvtState());
-    result->setStrDescription(strDescription());
     result->setStrOutFileName(strOutFileName());
-    result->setStrOutFileExt(strOutFileExt());
     result->setFailReason(failReason());
     result->setStrLastModified(strLastModified());
     result->setDFileSize(dFileSize());
@@ -75,11 +57,15 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("dFileSize"), dFileSize());
     coder.encode(QStringLiteral("eumCvtState"), eumCvtState());
     coder.encode(QStringLiteral("eumMediaType"), eumMediaType());
-    coder.encode(QStringLiteral("dAOBitrate"), dAOBitrate());
-    coder.encode(QStringLiteral("dAOSamplerate"), dAOSamplerate());
-    coder.encode(QStringLiteral("iAOChannels"), iAOChannels());
-    coder.encode(QStringLiteral("vOACodecName"), vOACodecName());
-    coder.encode(QStringLiteral("strOutFileExt"), strOutFileExt());
+    // Archives have always carried the output settings under these keys. The record no longer
+    // holds them, so they are written as a record that has not run yet wrote them (the probe's
+    // values, no encoder) and an archive keeps every key an earlier build reads; nobody reads
+    // them back.
+    coder.encode(QStringLiteral("dAOBitrate"), audioBitrate() / 1000.0);
+    coder.encode(QStringLiteral("dAOSamplerate"), audioSamplerate());
+    coder.encode(QStringLiteral("iAOChannels"), audioChannels());
+    coder.encode(QStringLiteral("vOACodecName"), QString());
+    coder.encode(QStringLiteral("strOutFileExt"), QString());
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
 }
 
@@ -87,23 +73,15 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
     if (!coder.allowsKeyedCoding())
         return;
     HVMediaInfoItem::initWithCoder(coder);
-    // Fields that are not archived come back empty, quality included.
-    setBSampleQuality(false);
     setStrLastModified(coder.decodeString(QStringLiteral("strLastModified")));
     setDFileSize(coder.decodeDouble(QStringLiteral("dFileSize")));
     setEumCvtState(coder.decodeInt(QStringLiteral("eumCvtState")));
     setEumMediaType(coder.decodeInt(QStringLiteral("eumMediaType")));
-    setDAOBitrate(coder.decodeDouble(QStringLiteral("dAOBitrate")));
-    setDAOSamplerate(coder.decodeDouble(QStringLiteral("dAOSamplerate")));
-    setIAOChannels(coder.decodeInt(QStringLiteral("iAOChannels")));
-    setVOACodecName(coder.decodeString(QStringLiteral("vOACodecName")));
-    setStrOutFileExt(coder.decodeString(QStringLiteral("strOutFileExt")));
     setStrOutFileName(coder.decodeString(QStringLiteral("strOutFileName")));
 }
 
 std::shared_ptr<LSMedia> LSMedia::decodeWithCoder(const SXCoder& coder) {
     auto media = std::make_shared<LSMedia>();
-    media->setBSampleQuality(false);
     media->initWithCoder(coder);
     return media;
 }

@@ -1,11 +1,10 @@
 #include "model/SXDataEngine.h"
 
-#include "base/SXFileLocalManager.h"
-#include "model/SXPropertyListReader.h"
-#include "model/SXWindowController.h"
 #include "base/SXBundle.h"
+#include "base/SXFileLocalManager.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "model/SXPropertyListReader.h"
 
 #include <QMutex>
 #include <QMutexLocker>
@@ -44,7 +43,6 @@ SXDataEngine* SXDataEngine::shareInstance() {
 
 SXDataEngine::SXDataEngine(const QString& presetPath) {
     load(presetPath);
-    m_registeredWindows.reserve(5);
 }
 
 void SXDataEngine::load(const QString& presetPath) {
@@ -96,7 +94,6 @@ SXFormatSettingPtr SXDataEngine::makeFormat(const QVariantMap& entry) const {
     format->setChannels(defaultOf(entry, QStringLiteral("channel")));
     format->setOutputExtName(entry.value(QStringLiteral("ext")).toString());
     format->setStrImgFileName(entry.value(QStringLiteral("image")).toString());
-    format->setOutputPath(SXFileLocalManager::getDefaultOutputDir(format->fmtName()));
     format->setDecodecName(getDecodecWithCodecName(defaultOf(entry, QStringLiteral("acodec"))));
     format->setEnumAddToLibrary(entry.value(QStringLiteral("isAddToiTunes"), 0).toInt());
     format->setAryChannels(choicesOf(entry.value(QStringLiteral("channel")).toMap()));
@@ -162,22 +159,4 @@ QStringList SXDataEngine::getCanNotRemoveFormatContainer() {
 
 QStringList SXDataEngine::getCanUseImageType() {
     return {QStringLiteral("PNG"), QStringLiteral("JPEG"), QStringLiteral("JPG")};
-}
-
-void SXDataEngine::registerWindow(SXWindowController* controller) {
-    if (controller)
-        m_registeredWindows.append(controller);
-}
-
-void SXDataEngine::unregisterWindow(SXWindowController* controller) {
-    if (controller)
-        m_registeredWindows.removeAll(controller);
-}
-
-SXWindowController* SXDataEngine::keyWindowRecord() const {
-    for (SXWindowController* controller : m_registeredWindows) {
-        if (controller->isKeyWindow())
-            return controller;
-    }
-    return nullptr;
 }

@@ -8,11 +8,9 @@
 #include <QStringList>
 #include <QVariant>
 
-class SXWindowController;
-
-// The process-wide catalogue of output formats, read once from the preset property list, and the
-// registry of open workspace windows. Hands out copies of its records so that no container can
-// change the catalogue. Everything except shareInstance() is meant for the main thread.
+// The process-wide catalogue of output formats, read once from the preset property list. Hands out
+// copies of its records so that no container can change the catalogue. Everything except
+// shareInstance() is meant for the main thread.
 class SXDataEngine {
 public:
     // The single instance, made and loaded on the first call (under a lock) and kept until exit.
@@ -39,13 +37,6 @@ public:
     // Formats whose output files may be opened in the tag editor.
     QStringList getCanEditMetadataMusicType() const { return m_aryCanEditTagFmts; }
 
-    // The registry. Adding the same controller twice lists it twice; removing removes every entry.
-    void registerWindow(SXWindowController* controller);
-    void unregisterWindow(SXWindowController* controller);
-    const QList<SXWindowController*>& registeredWindows() const { return m_registeredWindows; }
-    // The first registered controller whose window is key, or nullptr.
-    SXWindowController* keyWindowRecord() const;
-
     // The preset file's "Devices" and "Formats" values, kept as read.
     QVariant aryDevices() const { return m_aryDevices; }
     QVariant aryFormats() const { return m_aryFormats; }
@@ -61,6 +52,5 @@ private:
     QVariant m_aryFormats;
     QList<SXFormatSettingPtr> m_aryAFormats;
     QHash<QString, QString> m_dicDecodeMaps;
-    QList<SXWindowController*> m_registeredWindows;
     QStringList m_aryCanEditTagFmts;
 };

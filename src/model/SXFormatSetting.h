@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/SXConversionChoices.h"
+
 #include <QString>
 #include <QStringList>
 #include <memory>
@@ -30,12 +32,18 @@ public:
     void setBiteRate(const QString& choice) { m_bitRate = choice; }
     QString channels() const { return m_channels; }
     void setChannels(const QString& choice) { m_channels = choice; }
+    // The three chosen titles as the encoder gets them.
+    SXConversionChoices choices() const {
+        return SXConversionChoices::fromTitles(m_bitRate, m_sampleRate, m_channels);
+    }
     QString decodecName() const { return m_decodecName; }
     void setDecodecName(const QString& encoder) { m_decodecName = encoder; }
     QString outputExtName() const { return m_outputExtName; }
     void setOutputExtName(const QString& ext) { m_outputExtName = ext; }
     QString strImgFileName() const { return m_strImgFileName; }
     void setStrImgFileName(const QString& name) { m_strImgFileName = name; }
+    // The folder this container's run writes into, as "Output Folder…" chose it; empty: the
+    // folder chosen at Start (with the format's own folder below it when organising by format).
     QString outputPath() const { return m_outputPath; }
     void setOutputPath(const QString& path) { m_outputPath = path; }
     // -1: no music-library option for this format, 0: offered and off, 1: offered and on.

@@ -1,7 +1,7 @@
 #include "SXMusicInfo.h"
 
-#include "framework/MTEAudioFile.h"
 #include "base/SXLocked.h"
+#include "framework/MTEAudioFile.h"
 
 #include <QFileInfo>
 
@@ -32,12 +32,6 @@ QString SXMusicInfo::getStrMusicType() const {
 }
 void SXMusicInfo::setStrMusicType(const QString& t) {
     sxLockedSet(m_lock, m_strMusicType, t);
-}
-QString SXMusicInfo::strLibraryPlaylistName() const {
-    return sxLockedGet(m_lock, m_strLibraryPlaylistName);
-}
-void SXMusicInfo::setStrLibraryPlaylistName(const QString& n) {
-    sxLockedSet(m_lock, m_strLibraryPlaylistName, n);
 }
 std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
     return sxLockedGet(m_lock, m_metHandler);
@@ -72,8 +66,6 @@ std::shared_ptr<SXMusicInfo> SXMusicInfo::copy() const {
     const auto handle = metHandler();
     result->setMetHandler(handle ? handle->copy() : nullptr);
     result->setDConvertProgress(dConvertProgress());
-    result->setBIsSendingToLibrary(bIsSendingToLibrary());
-    result->setStrLibraryPlaylistName(strLibraryPlaylistName());
     return result;
 }
 
@@ -105,8 +97,10 @@ void SXMusicInfo::encodeWithCoder(SXCoder& coder) const {
     }
     coder.encode(QStringLiteral("strMusicType"), getStrMusicType());
     coder.encode(QStringLiteral("dConvertProgress"), dConvertProgress());
-    coder.encode(QStringLiteral("bIsSendingToiTunes"), bIsSendingToLibrary());
-    coder.encode(QStringLiteral("striTunesPlaylistName"), strLibraryPlaylistName());
+    // A run's library delivery travels in its job now; the keys stay, as an item that has not
+    // run wrote them.
+    coder.encode(QStringLiteral("bIsSendingToiTunes"), false);
+    coder.encode(QStringLiteral("striTunesPlaylistName"), QString());
 }
 
 std::shared_ptr<SXMusicInfo> SXMusicInfo::decodeWithCoder(const SXCoder& coder) {
@@ -123,8 +117,6 @@ std::shared_ptr<SXMusicInfo> SXMusicInfo::decodeWithCoder(const SXCoder& coder) 
             MTEAudioFile::decodeWithCoder(coder.decodeObject(QStringLiteral("metInfo"))));
     item->setStrMusicType(coder.decodeString(QStringLiteral("strMusicType")));
     item->setDConvertProgress(coder.decodeDouble(QStringLiteral("dConvertProgress")));
-    item->setBIsSendingToLibrary(coder.decodeBool(QStringLiteral("bIsSendingToiTunes")));
-    item->setStrLibraryPlaylistName(coder.decodeString(QStringLiteral("striTunesPlaylistName")));
     return item;
 }
 

@@ -34,12 +34,10 @@ public:
     void setMediaInfo(const LSMediaPtr& media);
     QString getStrMusicType() const;
     void setStrMusicType(const QString& type);
+    // The item's progress as the list draws it: per cent while converting, else an SXProgress
+    // value. The only progress an item has.
     double dConvertProgress() const { return m_dConvertProgress.load(); }
     void setDConvertProgress(double value) { m_dConvertProgress.store(value); }
-    bool bIsSendingToLibrary() const { return m_bIsSendingToLibrary.load(); }
-    void setBIsSendingToLibrary(bool value) { m_bIsSendingToLibrary.store(value); }
-    QString strLibraryPlaylistName() const;
-    void setStrLibraryPlaylistName(const QString& name);
     std::shared_ptr<MTEAudioFile> metHandler() const;
     void setMetHandler(const std::shared_ptr<MTEAudioFile>& handle);
 
@@ -70,8 +68,6 @@ private:
     LSMediaPtr m_mediaInfo;
     QString m_strMusicType;
     std::atomic<double> m_dConvertProgress{SXProgress::Waiting};
-    std::atomic<bool> m_bIsSendingToLibrary{false};
-    QString m_strLibraryPlaylistName;
     std::shared_ptr<MTEAudioFile> m_metHandler;
 };
 

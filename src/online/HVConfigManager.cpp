@@ -1,13 +1,11 @@
 #include "HVConfigManager.h"
 
-#include "base/FileHelper.h"
 #include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
 #include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "online/SXServiceRequest.h"
 #include "online/SXStartupReport.h"
 

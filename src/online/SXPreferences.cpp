@@ -1,8 +1,8 @@
 #include "online/SXPreferences.h"
 
-#include "online/SXServiceRequest.h"
 #include "base/SXBundle.h"
 #include "base/SXSettings.h"
+#include "online/SXServiceRequest.h"
 
 namespace {
 const QString kMainWindowGeometry = QStringLiteral("SXMainWindowGeometry");

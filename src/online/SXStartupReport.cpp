@@ -1,10 +1,7 @@
 #include "SXStartupReport.h"
 
-#include "base/FileHelper.h"
 #include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
 #include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "online/SXServiceRequest.h"
 
 #include <QNetworkAccessManager>

@@ -9,14 +9,14 @@ SXCommandContext SXCommandContext::of(const SXWorkspace* primary, const SXWorksp
                                       bool primaryOpen) {
     SXCommandContext context;
     if (primary) {
-        context.state = primary->enumAppState();
-        context.count = primary->currentTabItemCount();
+        context.state = primary->store().enumAppState();
+        context.count = primary->store().currentTabItemCount();
         context.primaryIsKey = primary->isKeyWindow();
     }
     if (key) {
         context.hasKeyWorkspace = true;
-        context.keyHasSelection = key->isSelectedMusic();
-        context.keySelectedFormat = key->getSelectedMusicFormat();
+        context.keyHasSelection = key->store().isSelectedMusic();
+        context.keySelectedFormat = key->store().getSelectedMusicFormat();
     }
     context.primaryOpen = primaryOpen;
     return context;
@@ -67,8 +67,28 @@ SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext&
     else if (command == SXCommand::Open)
         answer.enabled = answer.enabled && context.primaryOpen;
     else if (command == SXCommand::NewFormat)
-        answer.enabled = answer.enabled && context.primaryOpen && context.primaryIsKey;
+        answer.enabled =
+            answer.enabled && context.primaryOpen && !sxCommandRefused(command, context);
     return answer;
+}
+
+bool sxIsApplicationCommand(SXCommand command) {
+    switch (command) {
+    case SXCommand::NewContainer:
+    case SXCommand::Preferences:
+    case SXCommand::Quit:
+    case SXCommand::Help:
+    case SXCommand::Feedback:
+    case SXCommand::Website:
+    case SXCommand::About:
+        return true;
+    default:
+        return false;
+    }
+}
+
+bool sxCommandRefused(SXCommand command, const SXCommandContext& context) {
+    return command == SXCommand::NewFormat && !context.primaryIsKey;
 }
 
 bool sxValidateToolbarCommand(SXCommand command, int state, int totalItems, bool hasSelection) {
@@ -95,13 +115,21 @@ bool sxSettingPanelEnabled(int state) {
     return state != AppStateConverting;
 }
 
+bool sxAddContainerButtonShown(int state, bool addButtonWanted) {
+    return addButtonWanted && state != AppStateConverting;
+}
+
+bool sxTabCloseButtonShown(int state, bool closable) {
+    return closable && state != AppStateConverting;
+}
+
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer) {
     return state != AppStateConverting && itemsInSelectedContainer > 0;
 }
 
 SXRowFacts SXRowFacts::of(const SXWorkspacePreview& workspace, const SXMusicInfoPtr& item) {
     SXRowFacts facts;
-    facts.state = workspace.enumAppState();
+    facts.state = workspace.store().enumAppState();
     facts.progress = item ? item->dConvertProgress() : SXProgress::Waiting;
     facts.previewing = item && workspace.isPlayingMusic(item);
     facts.previewPaused = workspace.isPreviewPaused();

@@ -59,6 +59,17 @@ struct SXCommandAnswer {
 // open) and, for "New Format", the primary window being key.
 SXCommandAnswer sxValidateMenuCommand(SXCommand command, const SXCommandContext& context);
 
+// The commands the application answers itself, whichever window they come from: reviving the
+// primary window, the preferences, quitting and the help items. Every other command acts on one
+// workspace window.
+bool sxIsApplicationCommand(SXCommand command);
+
+// A command chosen from a menu, a shortcut or a toolbar that the application refuses, with a
+// beep, before any window sees it: New Format outside the primary window (only the primary
+// window adds containers). Every other refusal is the workspace's own, made where the command
+// lands (a fixed container's Close Tab, Delete during a run, …), so it holds for every caller.
+bool sxCommandRefused(SXCommand command, const SXCommandContext& context);
+
 // The image, label and tool tip of a toolbar item in a state; only Start changes with it.
 struct SXToolbarLook {
     QString image;
@@ -76,6 +87,10 @@ SXToolbarLook sxStartToolbarLook(int state);
 // container and are off during a run, as their menu items are: nothing leaves a container
 // whose items are converting.
 bool sxSettingPanelEnabled(int state);
+// The tab bar's buttons: during a run no container is added or closed, and a fixed container
+// (`closable` false) never offers its close button.
+bool sxAddContainerButtonShown(int state, bool addButtonWanted);
+bool sxTabCloseButtonShown(int state, bool closable);
 bool sxRemoveButtonsEnabled(int state, int itemsInSelectedContainer);
 
 // The entries of a row's context menu. Play, Pause and Resume are one entry whose meaning

@@ -1,9 +1,5 @@
 #include "workspace/SXFileInfoText.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXReadableNames.h"

@@ -1,13 +1,9 @@
 #include "workspace/SXItemRowLook.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
+#include "workspace/SXContainerStore.h"
 #include "workspace/SXReadableNames.h"
-#include "workspace/SXWorkspaceData.h"
 
 #include <QFileInfo>
 #include <cmath>
@@ -51,11 +47,11 @@ QString SXItemRowLookRules::rightButtonImageForProgress(double progress) {
     return settled ? QStringLiteral("right_edit") : QStringLiteral("cancel");
 }
 
-SXMusicInfoPtr SXItemRowLookRules::playingItem(const SXWorkspaceData& workspace) {
+SXMusicInfoPtr SXItemRowLookRules::playingItem(const SXContainerStore& workspace) {
     return workspace.enumAppState() == AppStatePlaying ? workspace.appStateItem() : nullptr;
 }
 
-SXItemRowLook SXItemRowLookRules::rowLook(const SXWorkspaceData& workspace,
+SXItemRowLook SXItemRowLookRules::rowLook(const SXContainerStore& workspace,
                                           const SXMusicInfoPtr& item, bool hovered,
                                           bool draggingRows, bool windowIsKey) {
     SXItemRowLook look;

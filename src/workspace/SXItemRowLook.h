@@ -5,7 +5,7 @@
 #include <QCoreApplication>
 #include <QString>
 
-class SXWorkspaceData;
+class SXContainerStore;
 
 // The four labels of an item's row.
 struct SXItemRowTexts {
@@ -44,8 +44,8 @@ public:
     static QString rightButtonImageForProgress(double progress);
     // The whole row. `hovered`: the mouse is over the row; `draggingRows`: the list is dragging
     // rows; `windowIsKey`: the workspace's window is the key window.
-    static SXItemRowLook rowLook(const SXWorkspaceData& workspace, const SXMusicInfoPtr& item,
+    static SXItemRowLook rowLook(const SXContainerStore& workspace, const SXMusicInfoPtr& item,
                                  bool hovered, bool draggingRows, bool windowIsKey);
     // The item the preview plays, when the workspace is playing.
-    static SXMusicInfoPtr playingItem(const SXWorkspaceData& workspace);
+    static SXMusicInfoPtr playingItem(const SXContainerStore& workspace);
 };

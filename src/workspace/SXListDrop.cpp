@@ -1,57 +1,58 @@
 #include "workspace/SXListDrop.h"
 
-#include "workspace/SXWorkspaceItemMoves.h"
+#include "workspace/SXAddRun.h"
+#include "workspace/SXItemMoves.h"
 #include "workspace/SXWorkspaceTexts.h"
 
-bool SXListDrop::acceptsDrops(const SXWorkspaceData& workspace) {
-    const int state = workspace.enumAppState();
+bool SXListDrop::acceptsDrops(const SXContainerStore& store) {
+    const int state = store.enumAppState();
     return state != AppStateConverting && state != AppStateLoading;
 }
 
-bool SXListDrop::acceptsDropOnTab(const SXWorkspaceData& workspace, const SXDropContent& content) {
-    return acceptsDrops(workspace) && !content.itemArchive.isEmpty();
+bool SXListDrop::acceptsDropOnTab(const SXContainerStore& store, const SXDropContent& content) {
+    return acceptsDrops(store) && !content.itemArchive.isEmpty();
 }
 
-bool SXListDrop::dropOnList(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+bool SXListDrop::dropOnList(SXItemMoves& moves, SXAddRun& addRun, const SXDropContent& content,
                             int insertRow) {
-    if (!acceptsDrops(workspace))
+    if (!acceptsDrops(moves.store()))
         return false;
     if (content.itemArchive.isEmpty())
-        return addDroppedFiles(workspace, content.urls);
+        return addDroppedFiles(addRun, content.urls);
     bool ok = false;
     const SXMusicInfoList items = SXMusicInfo::unarchiveItems(content.itemArchive, &ok);
     if (!ok)
         return false;
-    return workspace.acceptDrop(items, insertRow, SXWorkspaceItemMoves::DropAboveRow);
+    return moves.acceptDrop(items, insertRow, SXItemMoves::DropAboveRow);
 }
 
-bool SXListDrop::dropOnTab(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+bool SXListDrop::dropOnTab(SXItemMoves& moves, const SXDropContent& content,
                            const QString& tabLabel) {
-    if (!acceptsDropOnTab(workspace, content))
+    if (!acceptsDropOnTab(moves.store(), content))
         return false;
     bool ok = false;
     const SXMusicInfoList items = SXMusicInfo::unarchiveItems(content.itemArchive, &ok);
     if (!ok)
         return false;
-    workspace.acceptDropOnTab(items, tabLabel);
+    moves.acceptDropOnTab(items, tabLabel);
     return true;
 }
 
-bool SXListDrop::dropOnWindow(SXWorkspaceItemMoves& workspace, const SXDropContent& content) {
-    if (!acceptsDrops(workspace) || !content.itemArchive.isEmpty())
+bool SXListDrop::dropOnWindow(SXAddRun& addRun, const SXDropContent& content) {
+    if (!acceptsDrops(addRun.store()) || !content.itemArchive.isEmpty())
         return false;
-    return addDroppedFiles(workspace, content.urls);
+    return addDroppedFiles(addRun, content.urls);
 }
 
-bool SXListDrop::addDroppedFiles(SXWorkspaceItemMoves& workspace, const QList<QUrl>& urls) {
+bool SXListDrop::addDroppedFiles(SXAddRun& addRun, const QList<QUrl>& urls) {
     const SXDroppedLocations locations = splitLocations(urls);
     if (!locations.refused.isEmpty()) {
-        if (SXWorkspacePresenter* presenter = workspace.presenter())
+        if (SXWorkspacePresenter* presenter = addRun.store().presenter())
             presenter->runModalAlert(refusedLocationsAlert(locations.refused), [](int) {});
     }
     if (locations.paths.isEmpty())
         return !locations.refused.isEmpty();
-    workspace.loadAndParseFiles(locations.paths);
+    addRun.loadAndParseFiles(locations.paths);
     return true;
 }
 

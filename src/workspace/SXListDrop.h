@@ -7,8 +7,9 @@
 #include <QStringList>
 #include <QUrl>
 
-class SXWorkspaceData;
-class SXWorkspaceItemMoves;
+class SXAddRun;
+class SXContainerStore;
+class SXItemMoves;
 
 // The private drag type that carries items between containers and windows: an archive of the
 // dragged items in row order (SXMusicInfo::archiveItems).
@@ -32,23 +33,23 @@ struct SXDroppedLocations {
 class SXListDrop {
 public:
     // Whether the window takes drops at all now: not during a run, nor while an add run loads.
-    static bool acceptsDrops(const SXWorkspaceData& workspace);
+    static bool acceptsDrops(const SXContainerStore& store);
     // Whether a drag of `content` may end on the tab labelled `tabLabel`.
-    static bool acceptsDropOnTab(const SXWorkspaceData& workspace, const SXDropContent& content);
+    static bool acceptsDropOnTab(const SXContainerStore& store, const SXDropContent& content);
 
     // Dropped on the shown list before row `insertRow` (the row count: at the end). Items win
     // over URLs: the window's own drags carry both, the URLs only for file managers.
-    static bool dropOnList(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+    static bool dropOnList(SXItemMoves& moves, SXAddRun& addRun, const SXDropContent& content,
                            int insertRow);
-    static bool dropOnTab(SXWorkspaceItemMoves& workspace, const SXDropContent& content,
+    static bool dropOnTab(SXItemMoves& moves, const SXDropContent& content,
                           const QString& tabLabel);
     // Anywhere else in the window: files and folders only.
-    static bool dropOnWindow(SXWorkspaceItemMoves& workspace, const SXDropContent& content);
+    static bool dropOnWindow(SXAddRun& addRun, const SXDropContent& content);
 
     static SXDroppedLocations splitLocations(const QList<QUrl>& urls);
     // The alert for dropped URLs that are not local files.
     static SXAlert refusedLocationsAlert(const QStringList& refused);
 
 private:
-    static bool addDroppedFiles(SXWorkspaceItemMoves& workspace, const QList<QUrl>& urls);
+    static bool addDroppedFiles(SXAddRun& addRun, const QList<QUrl>& urls);
 };

@@ -3,64 +3,65 @@
 #include "base/SXFileLocalManager.h"
 #include "base/SXSettings.h"
 #include "workspace/SXContainerMemory.h"
-#include "workspace/SXWorkspaceData.h"
+#include "workspace/SXContainerStore.h"
+#include "workspace/SXJobBuilder.h"
 
 #include <QDir>
 #include <QFileInfo>
 
-void SXSettingPanelActions::setBitRate(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setBitRate(SXContainerStore& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setBiteRate(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::setSampleRate(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setSampleRate(SXContainerStore& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setSampleRate(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::setChannels(SXWorkspaceData& workspace, const QString& title) {
+void SXSettingPanelActions::setChannels(SXContainerStore& workspace, const QString& title) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setChannels(title);
         SXContainerMemory::storeChoices(*setting);
     }
 }
 
-void SXSettingPanelActions::setAddToLibrary(SXWorkspaceData& workspace, bool on) {
+void SXSettingPanelActions::setAddToLibrary(SXContainerStore& workspace, bool on) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setEnumAddToLibrary(on ? 1 : 0);
         workspace.setFmtSetting(setting);
     }
 }
 
-void SXSettingPanelActions::setOutputFolder(SXWorkspaceData& workspace, const QString& folder) {
+void SXSettingPanelActions::setOutputFolder(SXContainerStore& workspace, const QString& folder) {
     const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
     if (setting && !folder.isEmpty())
         setting->setOutputPath(folder);
 }
 
-QString SXSettingPanelActions::containerOutputFolder(const SXWorkspaceData& workspace) {
+QString SXSettingPanelActions::containerOutputFolder(const SXContainerStore& workspace) {
     QString folder = SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath);
     if (folder.isEmpty())
         folder = SXFileLocalManager::getDefaultUpperOutputDir();
     const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
-    // The same rule as the run's (SXWorkspaceScheduler::doRealConverterTask).
-    if (setting && SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
-        folder += QLatin1Char('/') + setting->fmtName();
+    if (setting)
+        folder = SXJobBuilder::outputFolder(
+            *setting, folder, SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
     return QDir::cleanPath(folder);
 }
 
-QString SXSettingPanelActions::revealFolder(const SXWorkspaceData& workspace) {
+QString SXSettingPanelActions::revealFolder(const SXContainerStore& workspace) {
     QString folder = containerOutputFolder(workspace);
     while (!QFileInfo(folder).isDir() && !QDir(folder).isRoot())
         folder = QFileInfo(folder).absolutePath();
     return folder;
 }
 
-void SXSettingPanelActions::revealOutputFolder(SXWorkspaceData& workspace) {
+void SXSettingPanelActions::revealOutputFolder(SXContainerStore& workspace) {
     if (workspace.presenter())
         workspace.presenter()->openFolder(revealFolder(workspace));
 }

@@ -1,12 +1,8 @@
 #include "workspace/SXStateStripModel.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
 #include "base/SXTimeText.h"
 #include "framework/MTEAudioFile.h"
-#include "workspace/SXWorkspaceData.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QFileInfo>
 

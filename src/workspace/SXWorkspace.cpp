@@ -1,71 +1,73 @@
 #include "workspace/SXWorkspace.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXThreadAffinity.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspaceNotifier.h"
 
 #include <QPointer>
 
 SXWorkspace::SXWorkspace(QObject* parent)
-    : SXWorkspaceScheduler(parent) {
-    removeallTabs();
-    SXDataEngine::shareInstance()->registerWindow(this);
+    : QObject(parent) {
+    m_tabs.removeallTabs();
+    SXWindowRegistry::instance().registerWindow(this);
     m_registered = true;
-    sxAssertSignalsOnOwnerThread(this);
+    for (QObject* part : std::initializer_list<QObject*>{this, &m_store, &m_preview, &m_tabs,
+                                                         &m_addRun, &m_moves, &m_scheduler})
+        sxAssertSignalsOnOwnerThread(part);
 }
 
 SXWorkspace::~SXWorkspace() {
     if (m_registered)
-        SXDataEngine::shareInstance()->unregisterWindow(this);
+        SXWindowRegistry::instance().unregisterWindow(this);
 }
 
 void SXWorkspace::reNewDefaultWindow() {
-    removeallTabs();
-    addDefaultTabs();
-    refreshListView();
-    refreshTabCount();
+    m_tabs.removeallTabs();
+    m_tabs.addDefaultTabs();
+    m_store.refreshListView();
+    m_store.refreshTabCount();
 }
 
 void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) {
-    const bool last = SXDataEngine::shareInstance()->registeredWindows().size() < 2;
-    if (!last || getTotalNeedConvertMusic() == 0) {
+    const bool last = SXWindowRegistry::instance().registeredWindows().size() < 2;
+    if (!last || m_store.getTotalNeedConvertMusic() == 0) {
         closeAfterAnswer(last);
         decided(true);
         return;
     }
-    runAlert({QStringLiteral("Warnning"),
-              QStringLiteral("Do you want to close all window without save information?"),
-              {QStringLiteral("Cancel"), QStringLiteral("OK")}},
-             [guard = QPointer(this), decided](int chosen) {
-                 if (!guard || chosen == 0) {
-                     decided(false);
-                     return;
-                 }
-                 guard->closeAfterAnswer(true);
-                 decided(true);
-             });
+    m_store.runAlert({QStringLiteral("Warnning"),
+                      QStringLiteral("Do you want to close all window without save information?"),
+                      {QStringLiteral("Cancel"), QStringLiteral("OK")}},
+                     [guard = QPointer(this), decided](int chosen) {
+                         if (!guard || chosen == 0) {
+                             decided(false);
+                             return;
+                         }
+                         guard->closeAfterAnswer(true);
+                         decided(true);
+                     });
 }
 
 void SXWorkspace::closeAfterAnswer(bool last) {
-    stopPreviewInContainers(containerNames());
+    m_preview.stopPreviewInContainers(m_store.containerNames());
     // A closed window leaves nothing half-written behind.
-    abandonRun();
+    m_scheduler.abandonRun();
     if (last) {
-        for (const QString& name : containerNames())
-            createListForFormat(name);
-        refreshListView();
-        refreshTabCount();
+        for (const QString& name : m_store.containerNames())
+            m_store.createListForFormat(name);
+        m_store.refreshListView();
+        m_store.refreshTabCount();
         Q_EMIT lastWorkspaceClosing();
     }
-    SXDataEngine::shareInstance()->unregisterWindow(this);
+    SXWindowRegistry::instance().unregisterWindow(this);
     m_registered = false;
-    disconnect(SXWorkspaceNotifier::defaultCenter(), nullptr, this, nullptr);
+    m_moves.disconnectNotifier();
 }
 
 void SXWorkspace::registerAgain() {
     if (m_registered)
         return;
-    SXDataEngine::shareInstance()->registerWindow(this);
+    SXWindowRegistry::instance().registerWindow(this);
     m_registered = true;
-    connectNotifier();
+    m_moves.connectNotifier();
 }

@@ -8,8 +8,9 @@ bool sameItem(const SXMusicInfoPtr& a, const SXMusicInfoPtr& b) {
 }
 } // namespace
 
-SXWorkspacePreview::SXWorkspacePreview(QObject* parent)
-    : SXWorkspaceData(parent) {}
+SXWorkspacePreview::SXWorkspacePreview(SXContainerStore& store, QObject* parent)
+    : QObject(parent)
+    , m_store(store) {}
 
 SXWorkspacePreview::~SXWorkspacePreview() = default;
 
@@ -30,7 +31,7 @@ void SXWorkspacePreview::playMusic(const SXMusicInfoPtr& item) {
         return;
     m_player->setPlayingMusic(item);
     m_player->play();
-    setAppState(AppStatePlaying, item);
+    m_store.setAppState(AppStatePlaying, item);
     Q_EMIT previewChanged();
 }
 
@@ -40,7 +41,7 @@ void SXWorkspacePreview::stopPlayerWithRefreshUI() {
     m_stopping = true;
     m_player->stop();
     m_stopping = false;
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
     Q_EMIT previewChanged();
 }
 
@@ -50,19 +51,19 @@ void SXWorkspacePreview::autoPlayNext(const QVariantMap& userInfo) {
     const SXMusicInfoPtr item = SXPlayerNotify::musicInfoOf(userInfo);
     const QString type = item ? item->getStrMusicType() : QString();
     // A run owns the state of its window; a preview that ends elsewhere must not end it.
-    if (!item || !hasDataForFormat(type) || enumAppState() == AppStateConverting)
+    if (!item || !m_store.hasDataForFormat(type) || m_store.enumAppState() == AppStateConverting)
         return;
-    const SXMusicInfoList list = getDataForFormat(type);
+    const SXMusicInfoList list = m_store.getDataForFormat(type);
     qsizetype index = 0;
     while (index < list.size() && !list.at(index)->isEqualToMusic(*item))
         ++index;
     if (index >= list.size() - 1) {
-        setAppState(AppStateIdle);
+        m_store.setAppState(AppStateIdle);
         Q_EMIT previewChanged();
         return;
     }
     playMusic(list.at(index + 1));
-    if (type == getSelectedMusicFormat())
+    if (type == m_store.getSelectedMusicFormat())
         Q_EMIT scrollToRowRequested(int(index + 1));
 }
 
@@ -75,19 +76,19 @@ void SXWorkspacePreview::checkAndChangePlayingMusicTypeInfo(const SXMusicInfoPtr
 }
 
 void SXWorkspacePreview::myListViewCelClickStartPlay(const SXMusicInfoPtr& item) {
-    setAppState(AppStatePlaying, item);
+    m_store.setAppState(AppStatePlaying, item);
     Q_EMIT previewChanged();
 }
 
 void SXWorkspacePreview::myListViewCelClickStopPlay(const SXMusicInfoPtr& item) {
-    setAppState(AppStateIdle, item);
+    m_store.setAppState(AppStateIdle, item);
     Q_EMIT previewChanged();
 }
 
 // --- Gestures ---
 
 void SXWorkspacePreview::togglePlay(const SXMusicInfoPtr& item) {
-    if (!m_player || !item || enumAppState() == AppStateConverting)
+    if (!m_player || !item || m_store.enumAppState() == AppStateConverting)
         return;
     if (sameItem(item, m_player->playingMusic()) && m_player->isPlaying()) {
         m_stopping = true;
@@ -103,17 +104,17 @@ void SXWorkspacePreview::togglePlay(const SXMusicInfoPtr& item) {
 }
 
 void SXWorkspacePreview::playSelected() {
-    const SXMusicInfoList items = selectedItems();
+    const SXMusicInfoList items = m_store.selectedItems();
     if (items.isEmpty()) {
-        beep();
+        m_store.beep();
         return;
     }
     togglePlay(items.first());
 }
 
 void SXWorkspacePreview::playRow(int row) {
-    const SXMusicInfoList list = getCurTableDatasource();
-    if (row < 0 || row >= list.size() || enumAppState() == AppStateConverting)
+    const SXMusicInfoList list = m_store.getCurTableDatasource();
+    if (row < 0 || row >= list.size() || m_store.enumAppState() == AppStateConverting)
         return;
     if (!(isPlayingMusic(list.at(row)) && m_player->isPlaying()))
         playMusic(list.at(row));
@@ -130,12 +131,12 @@ void SXWorkspacePreview::pauseOrResumePreview() {
 }
 
 void SXWorkspacePreview::sliderDown(double percent, double nowSeconds) {
-    if (enumAppState() != AppStatePlaying || !m_player)
+    if (m_store.enumAppState() != AppStatePlaying || !m_player)
         return;
     SXLog::line(QStringLiteral("time : %1").arg(nowSeconds, 0, 'f', 6));
     const bool settled = nowSeconds - m_lastSliderEvent > 0.2;
     m_lastSliderEvent = nowSeconds;
-    const SXMusicInfoPtr item = appStateItem();
+    const SXMusicInfoPtr item = m_store.appStateItem();
     const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
     if (settled && media)
         m_player->seek(media->duration() * percent / 100.0);
@@ -177,20 +178,20 @@ void SXWorkspacePreview::notificationPosted(const QString& name, const QVariantM
 }
 
 bool SXWorkspacePreview::showsAsPlaying(const SXMusicInfoPtr& item) const {
-    return enumAppState() == AppStatePlaying && sameItem(item, appStateItem());
+    return m_store.enumAppState() == AppStatePlaying && sameItem(item, m_store.appStateItem());
 }
 
 void SXWorkspacePreview::playStopped(const SXMusicInfoPtr& item) {
     // Another window stopped the preview this one shows (its run started, say).
     if (!m_stopping && showsAsPlaying(item))
-        setAppState(AppStateIdle);
+        m_store.setAppState(AppStateIdle);
     Q_EMIT previewChanged();
 }
 
 void SXWorkspacePreview::playFailed(const SXMusicInfoPtr& item, const QString& message) {
     if (!showsAsPlaying(item))
         return;
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
     Q_EMIT previewChanged();
-    runAlert({QStringLiteral("Can not play the file"), message, {QStringLiteral("OK")}});
+    m_store.runAlert({QStringLiteral("Can not play the file"), message, {QStringLiteral("OK")}});
 }

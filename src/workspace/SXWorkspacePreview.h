@@ -1,19 +1,22 @@
 #pragma once
 
+#include "workspace/SXContainerStore.h"
 #include "workspace/SXPreviewPlayer.h"
-#include "workspace/SXWorkspaceData.h"
 
 #include <QPointer>
 
 // The preview of a workspace: playing an item of a container, running on to the next row when
 // a preview ends by itself, and keeping the state (AppStatePlaying) and the rows in step with the
 // one player that every window shares. The rows, the state strip and the keyboard reach the
-// player only through the gestures here.
-class SXWorkspacePreview : public SXWorkspaceData {
+// player only through the gestures here. A part of SXWorkspace: it reads and sets the state and
+// the rows of the workspace's store.
+class SXWorkspacePreview final : public QObject {
     Q_OBJECT
 public:
-    explicit SXWorkspacePreview(QObject* parent = nullptr);
+    explicit SXWorkspacePreview(SXContainerStore& store, QObject* parent = nullptr);
     ~SXWorkspacePreview() override;
+
+    const SXContainerStore& store() const { return m_store; }
 
     // Not owned; the same player serves every workspace. Null: previews are refused.
     void setPreviewPlayer(SXPreviewPlayer* player);
@@ -45,6 +48,11 @@ public:
     bool isPlayingMusic(const SXMusicInfoPtr& item) const;
     bool isPreviewPaused() const { return m_player && m_player->isPaused(); }
 
+    // Removing `items` by the user: a removed item that plays stops first.
+    void stopPreviewAmong(const SXMusicInfoList& items);
+    // Closing the container `name` or the window: its playing item stops.
+    void stopPreviewInContainers(const QStringList& names);
+
 Q_SIGNALS:
     // The player's item or its pause changed: rows redraw their play buttons.
     void previewChanged();
@@ -53,18 +61,13 @@ Q_SIGNALS:
     // The preview ran on to `row` of the shown list: keep it visible.
     void scrollToRowRequested(int row);
 
-protected:
-    // Removing `items` by the user: a removed item that plays stops first.
-    void stopPreviewAmong(const SXMusicInfoList& items);
-    // Closing the container `name` or the window: its playing item stops.
-    void stopPreviewInContainers(const QStringList& names);
-
 private:
     void notificationPosted(const QString& name, const QVariantMap& userInfo);
     void playStopped(const SXMusicInfoPtr& item);
     void playFailed(const SXMusicInfoPtr& item, const QString& message);
     bool showsAsPlaying(const SXMusicInfoPtr& item) const;
 
+    SXContainerStore& m_store;
     QPointer<SXPreviewPlayer> m_player;
     double m_lastSliderEvent = -1e9;
     bool m_stopping = false;

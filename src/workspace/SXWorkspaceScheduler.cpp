@@ -1,29 +1,27 @@
 #include "workspace/SXWorkspaceScheduler.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFileLocalManager.h"
-#include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXJobBuilder.h"
+#include "workspace/SXWorkspacePreview.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>
-#include <QLocale>
 #include <QMutexLocker>
 #include <QPointer>
-#include <QRegularExpression>
 
 #include <utility>
 #include <vector>
 
-SXWorkspaceScheduler::SXWorkspaceScheduler(QObject* parent)
-    : SXWorkspaceItemMoves(parent)
+SXWorkspaceScheduler::SXWorkspaceScheduler(SXContainerStore& store, SXWorkspacePreview& preview,
+                                           QObject* parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_preview(preview)
     , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
     , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
 
@@ -36,6 +34,10 @@ SXWorkspaceScheduler::~SXWorkspaceScheduler() {
         _queueConvertTask->cancelAllOperations();
         _queueConvertTask.reset();
     }
+}
+
+void SXWorkspaceScheduler::stopPlayerWithRefreshUI() {
+    m_preview.stopPlayerWithRefreshUI();
 }
 
 // --- Start ---
@@ -51,9 +53,9 @@ void SXWorkspaceScheduler::toggleRun() {
     m_bOrganized = SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true);
     m_bOverOpen = SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false);
     SXLog::line(QStringLiteral("thepath = %1").arg(path));
-    if (!presenter())
+    if (!m_store.presenter())
         return;
-    presenter()->chooseOutputFolder(
+    m_store.presenter()->chooseOutputFolder(
         {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
          m_bOverOpen},
         [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
@@ -82,7 +84,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
         const QString output =
-            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
+            setting ? SXJobBuilder::outputFolder(*setting, folder, m_bOrganized) : folder;
         if (setting && !getDataForFormat(name).isEmpty() && !folders.contains(output))
             folders.append(output);
     }
@@ -107,7 +109,7 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
     m_totalConvertOps = getTotalNeedConvertMusic();
     startConvertOperation();
-    const QString playlist = SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName);
+    const SXJobBuilder::Run run = SXJobBuilder::Run::fromSettings(folder, m_bOrganized);
 
     // Every item is queued again at each Start, whatever an earlier run made of it. All are
     // prepared before the first is queued: the first conversions' start-up would otherwise
@@ -115,16 +117,13 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     std::vector<ConvertOperationPtr> operations;
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
-        const QString output =
-            !setting || !m_bOrganized ? folder : folder + QLatin1Char('/') + setting->fmtName();
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             item->setDConvertProgress(SXProgress::Waiting);
             // Without a media record or a format there is nothing to convert: it stays waiting.
             if (!item->mediaInfo() || !setting)
                 continue;
-            copyChoicesInto(item, *setting, playlist);
-            auto operation = std::make_shared<ConvertOperation>(item);
-            operation->setStrOutFilePath(output);
+            auto operation =
+                std::make_shared<ConvertOperation>(item, SXJobBuilder::build(*item, *setting, run));
             operation->setListener(this);
             operations.push_back(std::move(operation));
         }
@@ -143,41 +142,13 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     return true;
 }
 
-void SXWorkspaceScheduler::copyChoicesInto(const SXMusicInfoPtr& item,
-                                           const SXFormatSetting& setting,
-                                           const QString& playlist) const {
-    const LSMediaPtr media = item->mediaInfo();
-    const QString useSource = QStringLiteral("Use Source");
-    media->setDProgress(0);
-    media->setFailReason(QString());
-    media->setDAOBitrate(setting.bitRate() == useSource ? media->audioBitrate() / 1000
-                                                        : choiceValue(setting.bitRate()));
-    media->setDAOSamplerate(setting.sampleRate() == useSource ? media->audioSamplerate()
-                                                              : choiceValue(setting.sampleRate()));
-    if (setting.channels() == useSource)
-        media->setIAOChannels(media->audioChannels());
-    else
-        media->setIAOChannels(setting.channels() == QLatin1String("Stereo") ? 2 : 1);
-    media->setVOACodecName(setting.decodecName());
-    media->setStrOutFileExt(setting.outputExtName());
-    item->setBIsSendingToLibrary(setting.enumAddToLibrary() == 1);
-    item->setStrLibraryPlaylistName(playlist);
-}
-
-double SXWorkspaceScheduler::choiceValue(const QString& choice) {
-    static const QRegularExpression number(
-        QStringLiteral(R"(^\s*([-+]?(?:\d+\.?\d*|\.\d+)(?:[eE][-+]?\d+)?))"));
-    const QRegularExpressionMatch match = number.match(choice);
-    return match.hasMatch() ? QLocale::c().toDouble(match.captured(1)) : 0.0;
-}
-
 void SXWorkspaceScheduler::startConvertOperation() {
-    setAppState(AppStateConverting);
+    m_store.setAppState(AppStateConverting);
     Q_EMIT totalProgressChanged(0.0);
 }
 
 void SXWorkspaceScheduler::setConvertOperationFinished() {
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
 }
 
 void SXWorkspaceScheduler::abandonRun() {
@@ -237,8 +208,8 @@ void SXWorkspaceScheduler::finishRun() {
     runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
     Q_EMIT rowsRedrawRequested();
     Q_EMIT runFinished(message, succeeded, int(failures.size()));
-    if (m_bOverOpen && presenter())
-        presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
+    if (m_bOverOpen && m_store.presenter())
+        m_store.presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
 }
 
 QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
@@ -284,13 +255,6 @@ double SXWorkspaceScheduler::getTotalConvertProgress() const {
     return count == 0 ? 0.0 : sum / (double(count) * 100.0);
 }
 
-int SXWorkspaceScheduler::getTotalNeedConvertMusic() const {
-    int total = 0;
-    for (const QString& name : containerNames())
-        total += int(getDataForFormat(name).size());
-    return total;
-}
-
 // --- Cancel ---
 
 void SXWorkspaceScheduler::cancelAll() {
@@ -334,8 +298,8 @@ ConvertOperationPtr SXWorkspaceScheduler::findOperationForMusicInfo(const SXMusi
 void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
     const int state = enumAppState();
     if (state == AppStateIdle || state == AppStatePlaying) {
-        const int row = indexMusicItem(item, getCurTableDatasource());
-        setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
+        const int row = SXContainerStore::indexMusicItem(item, m_store.getCurTableDatasource());
+        m_store.setSelectedRows(row >= 0 ? QList<int>{row} : QList<int>{});
         Q_EMIT rowsRedrawRequested();
         Q_EMIT metadataEditorRequested(item);
         return;

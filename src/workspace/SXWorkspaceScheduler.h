@@ -1,37 +1,46 @@
 #pragma once
 
+#include "base/SXPathFailure.h"
 #include "engine/ConvertOperation.h"
 #include "engine/SXOperationQueue.h"
-#include "base/SXPathFailure.h"
-#include "workspace/SXWorkspaceItemMoves.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QMutex>
+#include <QObject>
 #include <QTimer>
 #include <memory>
 #include <optional>
 
+class SXWorkspacePreview;
+
 // The conversion run of a workspace: Start asks for the output folder, every item of every
-// container becomes one ConvertOperation with its container's choices copied into its media
-// record, all go on one queue with a bounded number of parallel conversions, and a 0.4 s timer
-// on the main thread pulls the items' progress into a total until the queue has drained.
+// container becomes one ConvertOperation with a job of its own (SXJobBuilder), all go on one queue
+// with a bounded number of parallel conversions, and a 0.4 s timer on the main thread pulls the
+// items' progress into a total until the queue has drained.
 //
 // Threads: the operation callbacks come on queue workers; they only store the item's progress
 // value and hand the signals to the main thread. Everything else runs on the main thread.
-class SXWorkspaceScheduler : public SXWorkspaceItemMoves, public ConvertOperationListener {
+//
+// A part of SXWorkspace: the items and their containers' choices come from its store, which
+// also carries the state of the run; a run stops the preview first.
+class SXWorkspaceScheduler final : public QObject, public ConvertOperationListener {
     Q_OBJECT
 public:
-    explicit SXWorkspaceScheduler(QObject* parent = nullptr);
+    SXWorkspaceScheduler(SXContainerStore& store, SXWorkspacePreview& preview,
+                         QObject* parent = nullptr);
     ~SXWorkspaceScheduler() override;
+
+    SXContainerStore& store() const { return m_store; }
 
     // Start, or Stop during a run.
     void toggleRun();
-    // Starts the run into `folder` (per container below it when organising by format). When an
+    // Starts the run into `folder` (per container below it when organising by format; a
+    // container with a folder of its own writes there, SXJobBuilder::outputFolder). When an
     // output folder cannot be made or written, no child starts: the user is told which folder
     // and why (an alert, and runRefused) and this returns false.
     bool doRealConverterTask(const QString& folder);
     void startConvertOperation();
     void setConvertOperationFinished();
-    int getTotalNeedConvertMusic() const;
     // Fraction 0..1 over every item (0 without items).
     double getTotalConvertProgress() const;
     void cancelAll();
@@ -60,8 +69,6 @@ public:
     // The summary of a run: successes, then up to three failed names with their reasons and
     // "..." for more (the alert's details list them all).
     static QString summaryMessage(int succeeded, const SXPathFailureList& failures);
-    // The number at the start of a preset choice ("192" -> 192, "Lossless" -> 0).
-    static double choiceValue(const QString& choice);
 
     // ConvertOperationListener (worker threads)
     void didConvertOperationStart(ConvertOperation* operation) override;
@@ -87,14 +94,27 @@ Q_SIGNALS:
     void metadataEditorRequested(const SXMusicInfoPtr& item);
 
 private:
+    // The store's and the preview's answers under the names the run has always used.
+    QStringList containerNames() const { return m_store.containerNames(); }
+    SXMusicInfoList getDataForFormat(const QString& name) const {
+        return m_store.getDataForFormat(name);
+    }
+    SXFormatSettingPtr getFormatSettingForFormatName(const QString& name) const {
+        return m_store.getFormatSettingForFormatName(name);
+    }
+    int getTotalNeedConvertMusic() const { return m_store.getTotalNeedConvertMusic(); }
+    int enumAppState() const { return m_store.enumAppState(); }
+    void runAlert(const SXAlert& alert) const { m_store.runAlert(alert); }
+    void stopPlayerWithRefreshUI();
+
     void outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice);
     void refreshTimeFired();
     void refreshUIOnMainThreadWhenConvert();
     void finishRun();
-    void copyChoicesInto(const SXMusicInfoPtr& item, const SXFormatSetting& setting,
-                         const QString& playlist) const;
     void requestRedraw();
 
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
     std::unique_ptr<SXOperationQueue> _queueConvertTask;
     QTimer* _timerToRefresh = nullptr;
     QMutex m_queueLock; // held while the queue's operations are searched

@@ -1,12 +1,12 @@
 #include "workspace/SXWorkspaceTexts.h"
 
-#include "workspace/SXWorkspaceData.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QLocale>
 
 #include <cmath>
 
-QString SXWorkspaceTexts::helpBarText(const SXWorkspaceData& workspace) {
+QString SXWorkspaceTexts::helpBarText(const SXContainerStore& workspace) {
     int files = 0;
     double seconds = 0;
     double bytes = 0;

@@ -6,7 +6,7 @@
 #include <QString>
 #include <QStringList>
 
-class SXWorkspaceData;
+class SXContainerStore;
 
 // The short texts a workspace window shows about itself, shared by every front end.
 class SXWorkspaceTexts {
@@ -16,7 +16,7 @@ public:
     // "3 files, 0.3 hours, 3.0 MB in 2 containers" over every container of the workspace, with
     // the locale's numbers and size units; empty without items. Reads the items' cached records
     // only, never the disk.
-    static QString helpBarText(const SXWorkspaceData& workspace);
+    static QString helpBarText(const SXContainerStore& workspace);
     // "Converter to " and the format's description (the catalogue words it "Convert to"); empty
     // without a setting.
     static QString tabToolTip(const SXFormatSettingPtr& setting);

@@ -1,6 +1,5 @@
 #include "base/FileHelper.h"
 #include "base/SXFileLocalManager.h"
-#include "base/SXHomeFolder.h"
 #include "support/TemporaryHome.h"
 #include "support/TestSupport.h"
 
@@ -134,10 +133,9 @@ void FileUtilTest::defaultFoldersFollowHomeAndCreateNothing() {
         QDir::isAbsolutePath(music) ? music : fresh.processHome() + QLatin1Char('/') + music;
     const QStringList before = QDir(fresh.processHome()).entryList(QDir::AllEntries | QDir::Hidden);
 
-    QCOMPARE(SXHomeFolder::processHome(), fresh.processHome());
+    QCOMPARE(SXFileLocalManager::processHome(), fresh.processHome());
     QCOMPARE(SXFileLocalManager::musicDirectory(), expected);
     QCOMPARE(SXFileLocalManager::getDefaultUpperOutputDir(), expected + "/Sonoria");
-    QCOMPARE(SXFileLocalManager::getDefaultOutputDir("AAC"), expected + "/Sonoria/AAC");
     QCOMPARE(QDir(fresh.processHome()).entryList(QDir::AllEntries | QDir::Hidden), before);
     QVERIFY(!QFileInfo::exists(expected + "/Sonoria"));
 }

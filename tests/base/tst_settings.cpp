@@ -2,11 +2,51 @@
 #include "base/SXSettings.h"
 #include "support/TestSupport.h"
 
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 
 class TestSettings : public QObject {
     Q_OBJECT
 private Q_SLOTS:
+    // A settings file as earlier versions wrote it (the keys' old spellings, which the code's
+    // names no longer show) is read by today's names, and a save keeps those spellings.
+    void fileOfAnEarlierVersionStillLoads() {
+        QVERIFY(QDir().mkpath(QFileInfo(SXSettings::fileName()).path()));
+        QFile file(SXSettings::fileName());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[General]\n"
+                   "com.sx.MaxTastKey=3\n"
+                   "com.sx.iTunesFmtKey=MP3\n"
+                   "com.sx.iTunesPlaylistNameKey=Road trip\n"
+                   "AppBSyncToiTunesKey=true\n"
+                   "DEFAULT_OUTPUT_PATH_KEY=/music/out\n"
+                   "DEFAUTL_SET_ORIGANIZED_KEY=false\n");
+        file.close();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+                 QStringLiteral("Road trip"));
+        QVERIFY(SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath),
+                 QStringLiteral("/music/out"));
+        QVERIFY(!SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
+        SXSettings::setPreferenceValue();
+        SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
+        SXSettings::synchronize();
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray saved = file.readAll();
+        QVERIFY(saved.contains("com.sx.iTunesFmtKey=AAC") && saved.contains("AppBSyncToiTunesKey"));
+        QVERIFY(saved.contains("com.sx.iTunesPlaylistNameKey=Road trip"));
+        for (const QString& key :
+             {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat,
+              SXSettingsKey::libraryPlaylistName, SXSettingsKey::AppBSyncToLibrary,
+              SXSettingsKey::DefaultOutputPath, SXSettingsKey::DefaultSetOrganized})
+            SXSettings::removeKey(key);
+        SXSettings::synchronize();
+    }
+
     // The store lives under the isolated config home; the first run puts the defaults on disk,
     // later runs keep stored choices and only repair what is empty or zero.
     void registrationKeepsStoredChoices() {

@@ -9,8 +9,8 @@
 #include <QRegularExpression>
 #include <QStringList>
 
-// Shared by the conversion tests: a listener that records its calls, and items whose output
-// settings are filled in directly (as the workspace does) rather than taken from the catalogue.
+// Shared by the conversion tests: a listener that records its calls, and items with jobs filled
+// in directly rather than built from the catalogue.
 namespace ConvertTest {
 
 using namespace Qt::StringLiterals;
@@ -42,32 +42,40 @@ private:
     QStringList m_events;
 };
 
-inline SXMusicInfoPtr makeItem(const QString& source, double duration,
-                               const QString& format = u"MP3"_s,
-                               const QString& codec = u"libmp3lame"_s,
-                               const QString& ext = u"mp3"_s) {
-    const SXMusicInfoPtr item = SXMusicInfo::newForSource(source, format);
-    const LSMediaPtr media = item->mediaInfo();
-    media->setDuration(duration);
-    media->setDAOBitrate(128.0);
-    media->setDAOSamplerate(44100.0);
-    media->setIAOChannels(2);
-    media->setVOACodecName(codec);
-    media->setStrOutFileExt(ext);
+// An item as the loader leaves it, and the job a run would make of it: 128 kbit/s, 44.1 kHz,
+// stereo, into the folder the operation is made with.
+struct Item {
+    SXMusicInfoPtr music;
+    ConvertJob job;
+    SXMusicInfo* operator->() const { return music.get(); }
+    operator SXMusicInfoPtr() const { return music; }
+};
+
+inline Item makeItem(const QString& source, double duration, const QString& format = u"MP3"_s,
+                     const QString& codec = u"libmp3lame"_s, const QString& ext = u"mp3"_s) {
+    Item item{SXMusicInfo::newForSource(source, format), {}};
+    item->mediaInfo()->setDuration(duration);
+    item.job.sourcePath = source;
+    item.job.sourceDuration = duration;
+    item.job.choices = {128, 44100, 2, false};
+    item.job.encoder = codec;
+    item.job.extension = ext;
+    item.job.formatName = format;
+    item.job.outputName = item->mediaInfo()->strOutFileName();
     return item;
 }
 
-inline ConvertOperationPtr makeOperation(const SXMusicInfoPtr& item, const QString& folder,
+inline ConvertOperationPtr makeOperation(const Item& item, const QString& folder,
                                          Recorder* recorder) {
-    auto operation = std::make_shared<ConvertOperation>(item);
-    operation->setStrOutFilePath(folder);
+    ConvertJob job = item.job;
+    job.outputFolder = folder;
+    auto operation = std::make_shared<ConvertOperation>(item.music, job);
     operation->setListener(recorder);
     return operation;
 }
 
 // Runs one conversion to its end on a queue of its own.
-inline ConvertOperationPtr convert(const SXMusicInfoPtr& item, const QString& folder,
-                                   Recorder* recorder) {
+inline ConvertOperationPtr convert(const Item& item, const QString& folder, Recorder* recorder) {
     SXOperationQueue queue;
     auto operation = makeOperation(item, folder, recorder);
     queue.addOperation(operation);

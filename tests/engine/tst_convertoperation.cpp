@@ -1,8 +1,8 @@
 #include "ConvertTestSupport.h"
 
+#include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"
 #include "framework/MTEAudioFileMgr.h"
-#include "base/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
@@ -41,7 +41,7 @@ private Q_SLOTS:
         const QByteArray sourceHash = SonoriaTest::fileHash(source);
         auto item = makeItem(source, 3.0, u"AAC"_s, u"aac"_s, u"m4a"_s);
         item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
-        item->setBIsSendingToLibrary(true);
+        item.job.addToLibrary = true;
 
         LogCapture log;
         Recorder recorder;
@@ -49,7 +49,6 @@ private Q_SLOTS:
         const QString expected = dir.filePath(u"song.m4a"_s);
         QCOMPARE(stateOf(item), int(CvtStateFinished));
         QCOMPARE(operation->strOutFilePath(), expected);
-        QCOMPARE(item->mediaInfo()->dProgress(), 100.0);
         QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
         QCOMPARE(recorder.count(u"sync"_s), 1);
         QVERIFY(log.contains(u"exit code:0"_s));
@@ -186,20 +185,37 @@ private Q_SLOTS:
         QCOMPARE(entries(dir.path()).size(), 2);
     }
 
-    // Above 192 kb/s the output is always stereo, whatever was asked.
-    void commandLineAndChannelRule() {
-        LSMedia media;
-        media.setFilePath(u"/music/-in.flac"_s);
-        media.setVOACodecName(u"libmp3lame"_s);
-        media.setDAOSamplerate(44100);
-        media.setDAOBitrate(192.0);
-        media.setIAOChannels(1);
-        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s),
+    // The chosen values, the source's where a choice says "Use Source", 0 for a lossless
+    // format, and stereo above 192 kbit/s whatever was asked; always in this order.
+    void commandLineRules_data() {
+        QTest::addColumn<QString>("bitRate");
+        QTest::addColumn<QString>("sampleRate");
+        QTest::addColumn<QString>("channels");
+        QTest::addColumn<QStringList>("asked"); // -ar, -b:a, -ac
+        QTest::newRow("chosen numbers")
+            << u"192"_s << u"44100"_s << u"Mono"_s << QStringList{"44100.00", "192.00k", "1"};
+        QTest::newRow("above 192 kbit/s")
+            << u"224"_s << u"22050"_s << u"Mono"_s << QStringList{"22050.00", "224.00k", "2"};
+        QTest::newRow("the source's") << u"Use Source"_s << u"Use Source"_s << u"Use Source"_s
+                                      << QStringList{"48000.00", "96.51k", "6"};
+        QTest::newRow("lossless") << u"Lossless"_s << u"Use Source"_s << u"Stereo"_s
+                                  << QStringList{"48000.00", "0.00k", "2"};
+    }
+    void commandLineRules() {
+        QFETCH(QString, bitRate);
+        QFETCH(QString, sampleRate);
+        QFETCH(QString, channels);
+        QFETCH(QStringList, asked);
+        ConvertJob job;
+        job.sourcePath = u"/music/-in.flac"_s;
+        job.sourceBitRate = 96512;
+        job.sourceSampleRate = 48000;
+        job.sourceChannels = 6;
+        job.encoder = u"libmp3lame"_s;
+        job.choices = SXConversionChoices::fromTitles(bitRate, sampleRate, channels);
+        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, job, u"/o.mp3"_s),
                  (QStringList{"/x/ffmpeg", "-i", "/music/-in.flac", "-vn", "-acodec", "libmp3lame",
-                              "-ar", "44100.00", "-b:a", "192.00k", "-ac", "1", "-y", "/o.mp3"}));
-        media.setDAOBitrate(192.01);
-        QCOMPARE(ConvertCommandLine::arguments(u"/x/ffmpeg"_s, media, u"/o.mp3"_s).mid(9, 3),
-                 (QStringList{"192.01k", "-ac", "2"}));
+                              "-ar", asked[0], "-b:a", asked[1], "-ac", asked[2], "-y", "/o.mp3"}));
     }
 };
 

@@ -1,6 +1,6 @@
+#include "base/SXBundle.h"
 #include "engine/SXLibraryScript.h"
 #include "engine/SXPlaylistFileLibrary.h"
-#include "base/SXBundle.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 

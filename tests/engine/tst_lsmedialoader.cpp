@@ -138,20 +138,20 @@ private Q_SLOTS:
                               "Failed:index:7", "Failed:index:8"}));
 
         const LSMediaPtr good = batch[0]->mediaInfo();
-        QVERIFY(good->dAOBitrate() == 128 && good->dAOSamplerate() == 44100 &&
-                good->iAOChannels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
+        QVERIFY(good->audioBitrate() == 128000 && good->audioSamplerate() == 44100 &&
+                good->audioChannels() == 1 && good->dFileSize() == QFileInfo(m_mp3).size());
         // The locale's own short format, never a 24-hour clock with a marker ("14:5 PM").
         QCOMPARE(good->strLastModified(), QLocale().toString(stamp, QLocale::ShortFormat));
         QVERIFY(batch[0]->metHandler() && batch[2]->metHandler());
-        QCOMPARE(batch[2]->mediaInfo()->iAOChannels(), 2);
-        QCOMPARE(batch[3]->mediaInfo()->iAOChannels(), 6);
+        QCOMPARE(batch[2]->mediaInfo()->audioChannels(), 2);
+        QCOMPARE(batch[3]->mediaInfo()->audioChannels(), 6);
         for (const SXMusicInfoPtr& untagged : batch.mid(3, 2))
             QVERIFY(!untagged->metHandler() && untagged->mediaInfo()->dFileSize() > 0 &&
                     !untagged->mediaInfo()->strLastModified().isEmpty());
 
         const LSMediaPtr bad = batch[1]->mediaInfo();
         QVERIFY(!batch[1]->metHandler() && bad->dFileSize() == 0 &&
-                bad->strLastModified().isEmpty() && bad->iAOChannels() == 0);
+                bad->strLastModified().isEmpty() && bad->audioChannels() == 0);
     }
 
     // Nothing to probe: the answer comes before the call returns, on the caller's thread.
@@ -183,7 +183,7 @@ private Q_SLOTS:
                  QStringList({"start 0", "progress 0.333333", "start 1", "complete"}));
         QVERIFY(!listener.medias.has_value() && !listener.failed.has_value());
         QVERIFY(loader->bCanceled() && batch[0]->metHandler() && !batch[1]->metHandler());
-        QVERIFY(batch[1]->mediaInfo()->iAOChannels() == 0 &&
+        QVERIFY(batch[1]->mediaInfo()->dFileSize() == 0 &&
                 batch[2]->mediaInfo()->audioSamplerate() == 0);
 
         const SXMusicInfoList second = makeItems({m_mp3});

@@ -1,6 +1,6 @@
+#include "base/SXSettings.h"
 #include "engine/SXMpdLibrary.h"
 #include "engine/ScriptBridgeHelper.h"
-#include "base/SXSettings.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
@@ -194,14 +194,14 @@ private Q_SLOTS:
         useMpdAt(m_port);
         SXSettings::setValue(SXSettingsKey::MpdMusicDirectory, m_music);
         const QString file = tone(u"settings/chosen.mp3"_s);
-        ScriptBridgeHelper::syncItunesLibrary(u"FromSettings"_s, file);
+        ScriptBridgeHelper::syncMusicLibrary(u"FromSettings"_s, file);
         QCOMPARE(storedPlaylist(u"FromSettings"_s), QStringList{u"settings/chosen.mp3"_s});
 
         // The environment wins over the settings, as for every MPD client.
         SXSettings::setValue(SXSettingsKey::MpdPort, int(freePort()));
         qputenv("MPD_HOST", "127.0.0.1");
         qputenv("MPD_PORT", QByteArray::number(m_port));
-        ScriptBridgeHelper::syncItunesLibrary(u"FromEnvironment"_s, file);
+        ScriptBridgeHelper::syncMusicLibrary(u"FromEnvironment"_s, file);
         qunsetenv("MPD_HOST");
         qunsetenv("MPD_PORT");
         QCOMPARE(storedPlaylist(u"FromEnvironment"_s), QStringList{u"settings/chosen.mp3"_s});
@@ -216,7 +216,7 @@ private Q_SLOTS:
         QCOMPARE(SXMpdLibrary(nobody).deliver(u"Lost"_s, file), Result::LibraryUnreachable);
         QCOMPARE(log.count(u"could not find iTunes library"_s), 1);
         useMpdAt(nobody.port);
-        ScriptBridgeHelper::syncItunesLibrary(u"Lost"_s, file);
+        ScriptBridgeHelper::syncMusicLibrary(u"Lost"_s, file);
         QCOMPARE(log.count(u"could not find iTunes library"_s), 2);
         QVERIFY(!storedPlaylistNames().contains(u"Lost"_s));
     }

@@ -331,7 +331,7 @@ class TagCopyMatrixTest : public QObject {
     void start(const QString& source, const SourceKind& sourceKind, const OutputKind& output,
                Content content) {
         auto item = makeItem(source, 1.0, output.format, output.codec, output.extension);
-        item->mediaInfo()->setDAOSamplerate(output.sampleRate);
+        item.job.choices.sampleRate = int(output.sampleRate);
         const auto handle = MTEAudioFileMgr::createAudioFileWithPath(source, true);
         if (handle && content == Content::Edited) {
             handle->setTitle(QString::fromUtf8(kEditedTitle));

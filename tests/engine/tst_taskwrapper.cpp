@@ -1,6 +1,6 @@
+#include "base/SXSignalWatcher.h"
 #include "engine/TaskWrapper.h"
 #include "engine/TaskWrapperController.h"
-#include "base/SXSignalWatcher.h"
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 

@@ -1,9 +1,5 @@
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXBundle.h"
 #include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "support/TestSupport.h"
 
 #include <QDirIterator>

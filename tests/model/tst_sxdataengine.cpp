@@ -1,25 +1,19 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
-#include "model/SXWindowController.h"
 #include "base/SXSettings.h"
+#include "model/SXConversionChoices.h"
+#include "model/SXDataEngine.h"
 
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-// Stands in for a workspace window: only its key state matters to the registry.
-class FakeWindow : public SXWindowController {
-public:
-    bool key = false;
-    bool isKeyWindow() const override { return key; }
-};
 
 // Title, extension and codec of the formats a small preset file can hold.
 const char* const kFourFormats[4][3] = {{"One", "one", "mp3"},
@@ -79,7 +73,7 @@ private Q_SLOTS:
     void cleanup() { SXSettings::removeKey(SXSettingsKey::libraryFormat); }
 
     // The shipped preset: fixed containers first, every default among its choices, every
-    // encoder resolved, every editable name a real format.
+    // encoder resolved, no output folder of its own, every editable name a real format.
     void shippedPresetIsConsistent() {
         SXDataEngine* engine = SXDataEngine::shareInstance();
         const QStringList names = engine->getAllOutputFormats();
@@ -92,11 +86,62 @@ private Q_SLOTS:
                          format->aryChannels().contains(format->channels()) &&
                          !format->decodecName().isEmpty() && !format->outputExtName().isEmpty() &&
                          !format->fmtDescribe().isEmpty() && !format->strImgFileName().isEmpty() &&
-                         format->outputPath().endsWith("/Music/Sonoria/" + name),
+                         format->outputPath().isEmpty(),
                      qPrintable(name));
         }
         for (const QString& editable : engine->getCanEditMetadataMusicType())
             QVERIFY2(names.contains(editable), qPrintable(editable));
+    }
+
+    // Every title the shipped catalogue offers is read once into a number: digits are that
+    // number, "Use Source" the source's own value (-1 here), "Lossless" no bit rate at all. A
+    // word the table does not know fails its row, so a new catalogue word needs a meaning first.
+    void titlesReadAsChoices_data() {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<int>("value");
+        QTest::addColumn<bool>("lossless");
+        const QMap<QString, int> words{
+            {u"Use Source"_s, -1}, {u"Lossless"_s, -1}, {u"Stereo"_s, 2}, {u"Mono"_s, 1}};
+        QSet<QString> seen;
+        SXDataEngine* engine = SXDataEngine::shareInstance();
+        for (const QString& name : engine->getAllOutputFormats()) {
+            const SXFormatSettingPtr format = engine->getFormatWithName(name);
+            const QList<std::pair<QString, QStringList>> lists{
+                {u"bit rate"_s, format->aryBiteRate()},
+                {u"sample rate"_s, format->arySampleRate()},
+                {u"channels"_s, format->aryChannels()}};
+            for (const auto& [kind, titles] : lists) {
+                for (const QString& title : titles) {
+                    if (seen.contains(kind + title))
+                        continue;
+                    seen.insert(kind + title);
+                    bool number = false;
+                    const int value = title.toInt(&number);
+                    QTest::addRow("%s %s", qPrintable(kind), qPrintable(title))
+                        << kind << title << (number ? value : words.value(title, -2))
+                        << (title == u"Lossless"_s);
+                }
+            }
+        }
+        QTest::newRow("bit rate with its unit") << u"bit rate"_s << u"192 kbps"_s << 192 << false;
+        QTest::newRow("sample rate with a blank")
+            << u"sample rate"_s << u" 44100"_s << 44100 << false;
+    }
+    void titlesReadAsChoices() {
+        QFETCH(QString, kind);
+        QFETCH(QString, title);
+        QFETCH(int, value);
+        QFETCH(bool, lossless);
+        const SXConversionChoices choices =
+            SXConversionChoices::fromTitles(kind == "bit rate"_L1 ? title : u"Use Source"_s,
+                                            kind == "sample rate"_L1 ? title : u"Use Source"_s,
+                                            kind == "channels"_L1 ? title : u"Use Source"_s);
+        const std::optional<int> read = kind == "bit rate"_L1      ? choices.bitRate
+                                        : kind == "sample rate"_L1 ? choices.sampleRate
+                                                                   : choices.channels;
+        QCOMPARE(read.value_or(-1), value);
+        QCOMPARE(choices.lossless, lossless);
     }
 
     void lookupIsCaseSensitiveAndCopiesAreIndependent() {
@@ -223,26 +268,6 @@ private Q_SLOTS:
         QVERIFY2(log.lines()[0].startsWith("load formats failed: ") &&
                      log.lines()[0].contains(reason),
                  qPrintable(log.lines()[0]));
-    }
-
-    // Windows are kept in the order added, duplicates included; the first key window answers.
-    void registryKeepsOrderAndDuplicates() {
-        SXDataEngine engine(writePreset(u"reg.plist"_s, presetXml(0)));
-        FakeWindow a, b, c;
-        QCOMPARE(engine.keyWindowRecord(), nullptr);
-        for (FakeWindow* window : {&a, static_cast<FakeWindow*>(nullptr), &b, &a, &c})
-            engine.registerWindow(window);
-        QCOMPARE(engine.registeredWindows(), (QList<SXWindowController*>{&a, &b, &a, &c}));
-        QCOMPARE(engine.keyWindowRecord(), nullptr);
-        c.key = b.key = true;
-        QCOMPARE(engine.keyWindowRecord(), &b);
-        // The registry is handed out itself, so callers see later changes.
-        const QList<SXWindowController*>& live = engine.registeredWindows();
-        engine.unregisterWindow(&a);
-        engine.unregisterWindow(nullptr);
-        QCOMPARE(live, (QList<SXWindowController*>{&b, &c}));
-        engine.unregisterWindow(&b);
-        QCOMPARE(engine.keyWindowRecord(), &c);
     }
 
     void tagFileKinds() {

@@ -83,8 +83,8 @@ void TestAudioPlayer::initTestCase() {
 
 void TestAudioPlayer::init() {
     m_workspace = std::make_unique<SXWorkspace>();
-    m_workspace->setPreviewPlayer(m_player);
-    m_workspace->addDefaultTabs();
+    m_workspace->preview().setPreviewPlayer(m_player);
+    m_workspace->tabs().addDefaultTabs();
 }
 
 void TestAudioPlayer::cleanup() {
@@ -121,12 +121,12 @@ void TestAudioPlayer::decoderReadsEveryKindOfSource() {
 }
 
 void TestAudioPlayer::previewEndsAtTheThirdTickAndRunsOn() {
-    m_workspace->setData(
+    m_workspace->store().setData(
         {probedItem(path(u"short.wav"_s), u"MP3"_s), probedItem(path(u"clip.mp4"_s), u"MP3"_s)},
         u"MP3"_s);
-    const SXMusicInfoList rows = m_workspace->getDataForFormat(u"MP3"_s);
+    const SXMusicInfoList rows = m_workspace->store().getDataForFormat(u"MP3"_s);
     Notes notes(m_player);
-    m_workspace->playMusic(rows.at(0));
+    m_workspace->preview().playMusic(rows.at(0));
     QCOMPARE(SXPlayerNotify::musicInfoOf(notes.named(SXPlayerNotify::PlayStart).value(0)),
              rows.at(0));
     QVERIFY(m_player->isPlaying());
@@ -144,10 +144,10 @@ void TestAudioPlayer::previewEndsAtTheThirdTickAndRunsOn() {
 
     // The next row, a video file, plays its sound; being the last, it ends in idle.
     QCOMPARE(m_player->playingMusic(), rows.at(1));
-    QCOMPARE(m_workspace->enumAppState(), int(AppStatePlaying));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStatePlaying));
     QVERIFY(notes.waitFor(SXPlayerNotify::PlayEnd, 2));
     QVERIFY(secondsOf(notes.named(SXPlayerNotify::PlayProgress).last()) > 1.0);
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
     QVERIFY(!m_player->playingMusic() && !m_player->isPlaying());
     m_player->stop();
     m_player->stop();
@@ -155,41 +155,42 @@ void TestAudioPlayer::previewEndsAtTheThirdTickAndRunsOn() {
 }
 
 void TestAudioPlayer::seekPauseAndResumeMovesThePosition() {
-    m_workspace->setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
-    const SXMusicInfoPtr item = m_workspace->getDataForFormat(u"MP3"_s).first();
+    m_workspace->store().setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
+    const SXMusicInfoPtr item = m_workspace->store().getDataForFormat(u"MP3"_s).first();
     Notes notes(m_player);
-    m_workspace->playMusic(item);
+    m_workspace->preview().playMusic(item);
     QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 1));
-    m_workspace->sliderDown(50, 100.0); // 6 s of 12
+    m_workspace->preview().sliderDown(50, 100.0); // 6 s of 12
     QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 2));
     const double afterSeek = secondsOf(notes.named(SXPlayerNotify::PlayProgress).last());
     QVERIFY2(afterSeek >= 6.0 && afterSeek < 8.0, qPrintable(QString::number(afterSeek)));
 
-    m_workspace->pauseOrResumePreview();
-    QVERIFY(m_workspace->isPreviewPaused() && !m_player->isPlaying());
+    m_workspace->preview().pauseOrResumePreview();
+    QVERIFY(m_workspace->preview().isPreviewPaused() && !m_player->isPlaying());
     QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 4));
     const QList<QVariantMap> paused = notes.named(SXPlayerNotify::PlayProgress).mid(2);
     QCOMPARE(secondsOf(paused.at(0)), secondsOf(paused.at(1)));
-    m_workspace->pauseOrResumePreview();
+    m_workspace->preview().pauseOrResumePreview();
     QVERIFY(notes.waitFor(SXPlayerNotify::PlayProgress, 6));
     QVERIFY(secondsOf(notes.named(SXPlayerNotify::PlayProgress).last()) > secondsOf(paused.at(1)));
 }
 
 void TestAudioPlayer::movedItemPlaysOnAndRemovedItemStops() {
-    m_workspace->setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
-    m_workspace->selectContainer(u"MP3"_s);
-    m_workspace->togglePlay(m_workspace->getDataForFormat(u"MP3"_s).first());
+    m_workspace->store().setData({probedItem(path(u"long.flac"_s), u"MP3"_s)}, u"MP3"_s);
+    m_workspace->tabs().selectContainer(u"MP3"_s);
+    m_workspace->preview().togglePlay(m_workspace->store().getDataForFormat(u"MP3"_s).first());
     const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
-        SXMusicInfo::archiveItems(m_workspace->getDataForFormat(u"MP3"_s)));
-    m_workspace->acceptDropOnTab(dragged, u"AAC"_s);
+        SXMusicInfo::archiveItems(m_workspace->store().getDataForFormat(u"MP3"_s)));
+    m_workspace->moves().acceptDropOnTab(dragged, u"AAC"_s);
     QVERIFY(m_player->isPlaying());
-    QVERIFY(m_workspace->isPlayingMusic(m_workspace->getDataForFormat(u"AAC"_s).first()));
+    QVERIFY(m_workspace->preview().isPlayingMusic(
+        m_workspace->store().getDataForFormat(u"AAC"_s).first()));
 
-    m_workspace->selectContainer(u"AAC"_s);
-    m_workspace->setSelectedRows({0});
-    m_workspace->removeSelected();
+    m_workspace->tabs().selectContainer(u"AAC"_s);
+    m_workspace->store().setSelectedRows({0});
+    m_workspace->addRun().removeSelected();
     QVERIFY(!m_player->isPlaying() && !m_player->playingMusic());
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
 }
 
 SONORIA_TEST_MAIN(TestAudioPlayer)

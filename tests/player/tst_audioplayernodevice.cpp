@@ -26,21 +26,21 @@ void TestAudioPlayerNoDevice::playingWithoutASoundServerFailsCleanly() {
     QVERIFY(SonoriaTest::makeTone(file, 2.0));
     WorkspaceTestPresenter presenter;
     SXWorkspace workspace;
-    workspace.setPresenter(&presenter);
+    workspace.store().setPresenter(&presenter);
     SXAudioPlayer* player = SXAudioPlayer::shareAudioPlayer();
-    workspace.setPreviewPlayer(player);
-    workspace.addDefaultTabs();
+    workspace.preview().setPreviewPlayer(player);
+    workspace.tabs().addDefaultTabs();
     const SXMusicInfoPtr item = SXMusicInfo::newForSource(file, u"MP3"_s);
     QVERIFY(HVMediaInfo::dumpMediaInfo(*item->mediaInfo()));
-    workspace.setData({item}, u"MP3"_s);
+    workspace.store().setData({item}, u"MP3"_s);
 
     for (int attempt = 1; attempt <= 2; ++attempt) {
         QSignalSpy failed(player, &SXPreviewPlayer::playFailed);
-        workspace.togglePlay(item);
+        workspace.preview().togglePlay(item);
         QVERIFY(failed.wait(10000));
-        QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+        QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
         QVERIFY(!player->isPlaying() && !player->playingMusic());
-        QVERIFY(!workspace.isPlayingMusic(item));
+        QVERIFY(!workspace.preview().isPlayingMusic(item));
         QCOMPARE(presenter.alerts.size(), attempt);
         QVERIFY(presenter.alerts.last().informativeText.contains(u"No sound output device"_s));
     }

@@ -28,8 +28,6 @@ private Q_SLOTS:
     void toolbarFollowsTheRun();
     void rowMenuFollowsTheRowAndTheRun_data();
     void rowMenuFollowsTheRowAndTheRun();
-    void removingFollowsTheRunAndTheList_data();
-    void removingFollowsTheRunAndTheList();
     void chooserResultSharesListsAndKeepsNoLibrary();
     void helpBarSumsEveryContainer();
     void stripBarNeverGoesBackAndNamesThePreview();
@@ -40,52 +38,45 @@ private Q_SLOTS:
 
 namespace {
 
-const QList<SXCommand> kAll = {SXCommand::NewContainer,
-                               SXCommand::Open,
-                               SXCommand::NewFormat,
-                               SXCommand::CloseTab,
-                               SXCommand::Preferences,
-                               SXCommand::Delete,
-                               SXCommand::Clear,
-                               SXCommand::NextRow,
-                               SXCommand::PreviousRow,
-                               SXCommand::NextContainer,
-                               SXCommand::PreviousContainer,
-                               SXCommand::TagEditor,
-                               SXCommand::FileInfo,
-                               SXCommand::Start,
-                               SXCommand::Stop,
-                               SXCommand::Quit,
-                               SXCommand::Help};
+// Every command of the menus, by the name the tables use.
+const QList<std::pair<SXCommand, QString>> kCommands = {
+    {SXCommand::NewContainer, u"NewContainer"_s},
+    {SXCommand::Open, u"Open"_s},
+    {SXCommand::NewFormat, u"NewFormat"_s},
+    {SXCommand::CloseTab, u"CloseTab"_s},
+    {SXCommand::Preferences, u"Preferences"_s},
+    {SXCommand::Delete, u"Delete"_s},
+    {SXCommand::Clear, u"Clear"_s},
+    {SXCommand::NextRow, u"NextRow"_s},
+    {SXCommand::PreviousRow, u"PreviousRow"_s},
+    {SXCommand::NextContainer, u"NextContainer"_s},
+    {SXCommand::PreviousContainer, u"PreviousContainer"_s},
+    {SXCommand::TagEditor, u"TagEditor"_s},
+    {SXCommand::FileInfo, u"FileInfo"_s},
+    {SXCommand::Start, u"Start"_s},
+    {SXCommand::Stop, u"Stop"_s},
+    {SXCommand::Quit, u"Quit"_s},
+    {SXCommand::Help, u"Help"_s}};
 
-const QStringList kNames = {u"NewContainer"_s,
-                            u"Open"_s,
-                            u"NewFormat"_s,
-                            u"CloseTab"_s,
-                            u"Preferences"_s,
-                            u"Delete"_s,
-                            u"Clear"_s,
-                            u"NextRow"_s,
-                            u"PreviousRow"_s,
-                            u"NextContainer"_s,
-                            u"PreviousContainer"_s,
-                            u"TagEditor"_s,
-                            u"FileInfo"_s,
-                            u"Start"_s,
-                            u"Stop"_s,
-                            u"Quit"_s,
-                            u"Help"_s};
+// The names of the commands that are enabled, that beep when chosen though greyed out, and that
+// the application's dispatcher refuses before a window sees them.
+struct CommandAnswers {
+    QStringList enabled, beeping, refused;
+};
 
-QStringList enabledNames(const SXCommandContext& context, QStringList* beeping) {
-    QStringList enabled;
-    for (int i = 0; i < kAll.size(); ++i) {
-        const SXCommandAnswer answer = sxValidateMenuCommand(kAll.at(i), context);
+CommandAnswers answersFor(const SXCommandContext& context) {
+    CommandAnswers answers;
+    for (const auto& [command, name] : kCommands) {
+        const SXCommandAnswer answer = sxValidateMenuCommand(command, context);
         if (answer.enabled)
-            enabled.append(kNames.at(i));
+            answers.enabled.append(name);
         if (answer.beep)
-            beeping->append(kNames.at(i));
+            answers.beeping.append(name);
+        if (sxCommandRefused(command, context))
+            answers.refused.append(name);
     }
-    return enabled;
+    answers.enabled.sort();
+    return answers;
 }
 
 // Every file and folder below `folder`, hidden ones too: what a test must not have created.
@@ -117,31 +108,36 @@ void TestWindowDecisions::menuCommandsFollowTheState_data() {
     QTest::addColumn<bool>("primaryIsKey");
     QTest::addColumn<QStringList>("enabled");
     QTest::addColumn<QStringList>("beeping");
+    QTest::addColumn<QStringList>("refused"); // by the dispatcher, with a beep
 
     const QStringList always{u"Quit"_s, u"Help"_s};
     const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
                               u"Stop"_s};
     QTest::newRow("idle, empty fixed container")
         << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
-        << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always << QStringList{u"CloseTab"_s};
+        << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always << QStringList{u"CloseTab"_s}
+        << QStringList();
+    const QStringList withItems{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
+                                u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s};
     QTest::newRow("idle, items, nothing selected, closable container")
         << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
-        << QStringList{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
-                       u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s} +
-               neutral + always
-        << QStringList();
+        << withItems + neutral + always << QStringList() << QStringList();
+    QTest::newRow("adding files, items")
+        << int(AppStateLoading) << 1 << false << u"FLAC"_s << true << true
+        << withItems + neutral + always << QStringList() << QStringList();
     QTest::newRow("playing, a row selected, primary not key")
         << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
         << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
                        u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
                neutral + always
-        << QStringList{u"CloseTab"_s};
+        << QStringList{u"CloseTab"_s} << QStringList{u"NewFormat"_s};
     QTest::newRow("converting: only Stop")
         << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
-        << QStringList{u"Stop"_s} + always << QStringList();
+        << QStringList{u"Stop"_s} + always << QStringList() << QStringList();
     QTest::newRow("primary window closed: New Container only")
         << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
-        << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s};
+        << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s}
+        << QStringList{u"NewFormat"_s};
 }
 
 void TestWindowDecisions::menuCommandsFollowTheState() {
@@ -153,6 +149,7 @@ void TestWindowDecisions::menuCommandsFollowTheState() {
     QFETCH(bool, primaryIsKey);
     QFETCH(QStringList, enabled);
     QFETCH(QStringList, beeping);
+    QFETCH(QStringList, refused);
     SXCommandContext context;
     context.state = state;
     context.count = count;
@@ -161,12 +158,13 @@ void TestWindowDecisions::menuCommandsFollowTheState() {
     context.keySelectedFormat = format;
     context.primaryOpen = primaryOpen;
     context.primaryIsKey = primaryIsKey;
-    QStringList beeps;
-    QStringList got = enabledNames(context, &beeps);
-    got.sort();
+    const CommandAnswers got = answersFor(context);
     enabled.sort();
-    QCOMPARE(got, enabled);
-    QCOMPARE(beeps, beeping);
+    QCOMPARE(got.enabled, enabled);
+    QCOMPARE(got.beeping, beeping);
+    QCOMPARE(got.refused, refused);
+    // The Delete and Clear buttons answer as their menu items do.
+    QCOMPARE(sxRemoveButtonsEnabled(state, count), got.enabled.contains(u"Delete"_s));
 }
 
 void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun_data() {
@@ -235,33 +233,12 @@ void TestWindowDecisions::toolbarFollowsTheRun() {
     QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
              (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
     QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
-}
-
-void TestWindowDecisions::removingFollowsTheRunAndTheList_data() {
-    QTest::addColumn<int>("state");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("enabled");
-    QTest::newRow("idle, empty") << int(AppStateIdle) << 0 << false;
-    QTest::newRow("idle, items") << int(AppStateIdle) << 2 << true;
-    QTest::newRow("playing, items") << int(AppStatePlaying) << 1 << true;
-    QTest::newRow("loading, items") << int(AppStateLoading) << 1 << true;
-    QTest::newRow("converting, items") << int(AppStateConverting) << 3 << false;
-    QTest::newRow("converting, empty container") << int(AppStateConverting) << 0 << false;
-}
-
-void TestWindowDecisions::removingFollowsTheRunAndTheList() {
-    // The Delete and Clear buttons, their menu items and the items' shortcuts give one answer.
-    QFETCH(int, state);
-    QFETCH(int, count);
-    QFETCH(bool, enabled);
-    QCOMPARE(sxRemoveButtonsEnabled(state, count), enabled);
-    SXCommandContext context;
-    context.state = state;
-    context.count = count;
-    context.hasKeyWorkspace = context.keyHasSelection = true;
-    context.keySelectedFormat = u"MP3"_s;
-    for (SXCommand command : {SXCommand::Delete, SXCommand::Clear})
-        QCOMPARE(sxValidateMenuCommand(command, context).enabled, enabled);
+    // The tab bar adds and closes no container during a run, and never closes a fixed one.
+    QVERIFY(sxTabCloseButtonShown(AppStatePlaying, true) &&
+            !sxTabCloseButtonShown(AppStateIdle, false));
+    QVERIFY(!sxTabCloseButtonShown(AppStateConverting, true));
+    QVERIFY(sxAddContainerButtonShown(AppStateLoading, true) &&
+            !sxAddContainerButtonShown(AppStateConverting, true));
 }
 
 void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
@@ -300,13 +277,14 @@ void TestWindowDecisions::helpBarSumsEveryContainer() {
     // The hours and the size are written as the locale writes numbers.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
     SXWorkspace workspace;
-    workspace.setData({}, u"AAC"_s);
-    workspace.setData({}, u"MP3"_s);
-    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace), QString());
-    workspace.setData({itemOf(u"/x/1.wav"_s, 360, 1048576), itemOf(u"/x/2.wav"_s, 360, 1048576),
-                       itemOf(u"/x/3.wav"_s, 360, 1048576)},
-                      u"MP3"_s);
-    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace),
+    workspace.store().setData({}, u"AAC"_s);
+    workspace.store().setData({}, u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()), QString());
+    workspace.store().setData({itemOf(u"/x/1.wav"_s, 360, 1048576),
+                               itemOf(u"/x/2.wav"_s, 360, 1048576),
+                               itemOf(u"/x/3.wav"_s, 360, 1048576)},
+                              u"MP3"_s);
+    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()),
              u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
     QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
     QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
@@ -355,24 +333,25 @@ void TestWindowDecisions::containersAndChoicesSurviveARestart() {
     QStringList expected = fixed;
     {
         SXWorkspace first;
-        first.setRemembersContainers(true);
-        first.addDefaultTabs();
-        QCOMPARE(first.tabLabels(), fixed);
+        first.tabs().setRemembersContainers(true);
+        first.tabs().addDefaultTabs();
+        QCOMPARE(first.store().tabLabels(), fixed);
         for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
-            first.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(name));
-        QVERIFY(first.selectContainer(u"WAV"_s) && first.closeTab());
+            first.tabs().addContainerWithFormat(
+                SXDataEngine::shareInstance()->getFormatWithName(name));
+        QVERIFY(first.tabs().selectContainer(u"WAV"_s) && first.tabs().closeTab());
         expected << u"Ogg Vorbis"_s << u"FLAC"_s;
-        QCOMPARE(first.tabLabels(), expected);
+        QCOMPARE(first.store().tabLabels(), expected);
 
-        QVERIFY(first.selectContainer(u"MP3"_s));
-        SXSettingPanelActions::setBitRate(first, catalogueMp3->aryBiteRate().first());
-        SXSettingPanelActions::setSampleRate(first, catalogueMp3->arySampleRate().last());
-        SXSettingPanelActions::setChannels(first, catalogueMp3->aryChannels().last());
-        QVERIFY(first.selectContainer(u"FLAC"_s));
-        SXSettingPanelActions::setChannels(first, u"Mono"_s);
+        QVERIFY(first.tabs().selectContainer(u"MP3"_s));
+        SXSettingPanelActions::setBitRate(first.store(), catalogueMp3->aryBiteRate().first());
+        SXSettingPanelActions::setSampleRate(first.store(), catalogueMp3->arySampleRate().last());
+        SXSettingPanelActions::setChannels(first.store(), catalogueMp3->aryChannels().last());
+        QVERIFY(first.tabs().selectContainer(u"FLAC"_s));
+        SXSettingPanelActions::setChannels(first.store(), u"Mono"_s);
         // A name with a blank, which must not become a group of the settings file.
-        QVERIFY(first.selectContainer(u"Ogg Vorbis"_s));
-        SXSettingPanelActions::setBitRate(first, vorbisRates.first());
+        QVERIFY(first.tabs().selectContainer(u"Ogg Vorbis"_s));
+        SXSettingPanelActions::setBitRate(first.store(), vorbisRates.first());
     }
     // On disk, where the next process reads it (this one shares Qt's parsed copy).
     const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
@@ -380,34 +359,37 @@ void TestWindowDecisions::containersAndChoicesSurviveARestart() {
     QVERIFY(onDisk.value(u"SXContainers"_s).toString().contains(u"FLAC"_s));
 
     SXWorkspace second;
-    second.setRemembersContainers(true);
-    second.addDefaultTabs();
-    QCOMPARE(second.tabLabels(), expected);
-    const SXFormatSettingPtr mp3 = second.getFormatSettingForFormatName(u"MP3"_s);
+    second.tabs().setRemembersContainers(true);
+    second.tabs().addDefaultTabs();
+    QCOMPARE(second.store().tabLabels(), expected);
+    const SXFormatSettingPtr mp3 = second.store().getFormatSettingForFormatName(u"MP3"_s);
     QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
     QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
     QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
-    QCOMPARE(second.getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
-    QCOMPARE(second.getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(), vorbisRates.first());
+    QCOMPARE(second.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
+    QCOMPARE(second.store().getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(),
+             vorbisRates.first());
     // The catalogue itself is untouched.
     QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
              catalogueMp3->bitRate());
 
     SXWorkspace other;
-    other.addDefaultTabs();
-    QCOMPARE(other.tabLabels(), fixed);
-    QCOMPARE(other.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
+    other.tabs().addDefaultTabs();
+    QCOMPARE(other.store().tabLabels(), fixed);
+    QCOMPARE(other.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
+             catalogueMp3->bitRate());
 
     // Hand-edited or outdated values: an unknown format and a rate nobody offers.
     SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
     SXSettings::setValue(u"SXContainerChoices/MP3"_s,
                          u"{\"bitRate\":\"7\",\"channels\":\"Mono\"}"_s);
     SXWorkspace third;
-    third.setRemembersContainers(true);
-    third.addDefaultTabs();
-    QCOMPARE(third.tabLabels(), fixed + QStringList{u"Opus"_s});
-    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
-    QCOMPARE(third.getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+    third.tabs().setRemembersContainers(true);
+    third.tabs().addDefaultTabs();
+    QCOMPARE(third.store().tabLabels(), fixed + QStringList{u"Opus"_s});
+    QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
+             catalogueMp3->bitRate());
+    QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
 }
 
 void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing_data() {
@@ -441,17 +423,18 @@ void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
 
     WorkspaceTestPresenter presenter;
     SXWorkspace workspace;
-    workspace.setPresenter(&presenter);
-    workspace.addDefaultTabs();
-    workspace.addContainerWithFormat(SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
-    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace), folder);
-    SXSettingPanelActions::revealOutputFolder(workspace);
+    workspace.store().setPresenter(&presenter);
+    workspace.tabs().addDefaultTabs();
+    workspace.tabs().addContainerWithFormat(
+        SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), folder);
+    SXSettingPanelActions::revealOutputFolder(workspace.store());
     // A folder not made yet shows its nearest existing parent.
     const QString shown = exists ? folder : stored ? chosen : home.processHome();
     QCOMPARE(presenter.openedFolders, QStringList{shown});
 
     presenter.folderAnswer.reset(); // the Start dialog is cancelled
-    workspace.toggleRun();
+    workspace.scheduler().toggleRun();
     QCOMPARE(presenter.folderRequests.size(), 1);
     QCOMPARE(presenter.folderRequests.first().startFolder, base);
     QCOMPARE(entriesBelow(home.processHome()), before);

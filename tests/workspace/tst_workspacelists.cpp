@@ -1,11 +1,12 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
-#include "model/SXDataEngine.h"
 #include "base/SXSettings.h"
+#include "model/SXDataEngine.h"
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
+#include "workspace/SXWindowRegistry.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -32,8 +33,8 @@ QString standardErrorOf(const std::function<void()>& action) {
 }
 
 bool addFiles(SXWorkspace& workspace, const QStringList& paths) {
-    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
-    workspace.loadAndParseFiles(paths);
+    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
+    workspace.addRun().loadAndParseFiles(paths);
     return finished.count() > 0 || finished.wait(60000);
 }
 
@@ -86,30 +87,31 @@ void TestWorkspaceLists::init() {
 
 void TestWorkspaceLists::windowLifecycle() {
     const auto registered = [](SXWorkspace* window) {
-        return SXDataEngine::shareInstance()->registeredWindows().contains(window);
+        return SXWindowRegistry::instance().registeredWindows().contains(window);
     };
     SXWorkspace workspace;
     QVERIFY(registered(&workspace));
-    QVERIFY(workspace.tabLabels().isEmpty());
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    QVERIFY(workspace.store().tabLabels().isEmpty());
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
-    QCOMPARE(workspace.tabLabels(), fixed);
-    QCOMPARE(workspace.getFormatSettingForFormatName(fixed.last())->fmtName(), fixed.last());
+    QCOMPARE(workspace.store().tabLabels(), fixed);
+    QCOMPARE(workspace.store().getFormatSettingForFormatName(fixed.last())->fmtName(),
+             fixed.last());
 
     // A revived window starts empty again, without the containers added meanwhile.
     m_presenter.formatAnswer = u"FLAC"_s;
-    workspace.addContainer();
+    workspace.tabs().addContainer();
     QVERIFY(addFiles(workspace, {path(u"a.mp3"_s)}));
     workspace.reNewDefaultWindow();
-    QCOMPARE(workspace.tabLabels(), fixed);
-    QCOMPARE(workspace.containerNames(), fixed);
-    QCOMPARE(workspace.getSelectedMusicFormat(), fixed.first());
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QCOMPARE(workspace.store().tabLabels(), fixed);
+    QCOMPARE(workspace.store().containerNames(), fixed);
+    QCOMPARE(workspace.store().getSelectedMusicFormat(), fixed.first());
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
 
     // Only the last window asks before it closes; a destroyed one no longer counts.
-    workspace.setData(madeUpItems(u"AAC"_s, {u"1.wav"_s}), u"AAC"_s);
+    workspace.store().setData(madeUpItems(u"AAC"_s, {u"1.wav"_s}), u"AAC"_s);
     QSignalSpy closing(&workspace, &SXWorkspace::lastWorkspaceClosing);
     {
         SXWorkspace other;
@@ -122,29 +124,29 @@ void TestWorkspaceLists::windowLifecycle() {
         alertTexts(m_presenter.alerts.last()),
         (QStringList{u"Warnning"_s, u"Do you want to close all window without save information?"_s,
                      u"Cancel"_s, u"OK"_s}));
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 1);
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 1);
     QCOMPARE(closing.count(), 0);
     m_presenter.alertAnswer = 1; // "OK"
     QVERIFY(closes(workspace));
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
-    QCOMPARE(workspace.tabLabels(), fixed);
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.store().tabLabels(), fixed);
     QCOMPARE(closing.count(), 1);
     QVERIFY(!registered(&workspace));
 }
 
 void TestWorkspaceLists::containerRules() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
 
     // Fixed containers never close; the refusal is audible.
-    QVERIFY(!workspace.closeTab());
+    QVERIFY(!workspace.tabs().closeTab());
     QCOMPARE(m_presenter.beeps, 1);
 
     // The chooser offers only formats without a container, in catalogue order.
     m_presenter.formatAnswer = u"WAV"_s;
-    workspace.addContainer();
+    workspace.tabs().addContainer();
     QStringList offered;
     for (const SXFormatSettingPtr& format : std::as_const(m_presenter.offeredFormats))
         offered.append(format->fmtName());
@@ -152,53 +154,53 @@ void TestWorkspaceLists::containerRules() {
     for (const QString& name : fixed)
         expected.removeAll(name);
     QCOMPARE(offered, expected);
-    QCOMPARE(workspace.getSelectedMusicFormat(), u"WAV"_s);
+    QCOMPARE(workspace.store().getSelectedMusicFormat(), u"WAV"_s);
 
     // No container closes during a run.
-    workspace.setAppState(AppStateConverting);
-    QVERIFY(!workspace.closeTab());
-    QVERIFY(workspace.tabLabels().contains(u"WAV"_s));
-    workspace.setAppState(AppStateIdle);
+    workspace.store().setAppState(AppStateConverting);
+    QVERIFY(!workspace.tabs().closeTab());
+    QVERIFY(workspace.store().tabLabels().contains(u"WAV"_s));
+    workspace.store().setAppState(AppStateIdle);
 
     // A tab named "Drake" is refused with its sheet.
-    workspace.addNewTabWithName(u"Drake"_s);
-    QVERIFY(workspace.selectContainer(u"Drake"_s));
-    QVERIFY(!workspace.closeTab());
+    workspace.tabs().addNewTabWithName(u"Drake"_s);
+    QVERIFY(workspace.tabs().selectContainer(u"Drake"_s));
+    QVERIFY(!workspace.tabs().closeTab());
     QCOMPARE(m_presenter.sheets.size(), 1);
     QCOMPARE(alertTexts(m_presenter.sheets.first()),
              (QStringList{u"No Way!"_s, u"I refuse to close a tab named \"Drake\""_s, u"OK"_s}));
     // "Drake" took the place of the first non-fixed tab (WAV) and the appended tab stayed
     // unnamed: the container WAV has no tab any more.
-    QCOMPARE(workspace.tabLabels(), (fixed + QStringList{u"Drake"_s, QString()}));
+    QCOMPARE(workspace.store().tabLabels(), (fixed + QStringList{u"Drake"_s, QString()}));
 
     // An added container closes and takes its items with it.
     m_presenter.formatAnswer = u"Opus"_s;
-    workspace.addContainer();
+    workspace.tabs().addContainer();
     QVERIFY(addFiles(workspace, {path(u"b.wav"_s)}));
-    QCOMPARE(workspace.currentTabItemCount(), 1);
-    QVERIFY(workspace.closeTab());
-    QVERIFY(!workspace.tabLabels().contains(u"Opus"_s));
-    QVERIFY(!workspace.hasDataForFormat(u"Opus"_s));
-    QVERIFY(!workspace.getFormatSettingForFormatName(u"Opus"_s));
+    QCOMPARE(workspace.store().currentTabItemCount(), 1);
+    QVERIFY(workspace.tabs().closeTab());
+    QVERIFY(!workspace.store().tabLabels().contains(u"Opus"_s));
+    QVERIFY(!workspace.store().hasDataForFormat(u"Opus"_s));
+    QVERIFY(!workspace.store().getFormatSettingForFormatName(u"Opus"_s));
 
     // Neighbour moves: -1 means next, +1 previous; the ends beep.
-    workspace.selectTab(0);
-    workspace.moveTabSelectedTo(1);
+    workspace.tabs().selectTab(0);
+    workspace.tabs().selectPreviousContainer();
     QCOMPARE(m_presenter.beeps, 2);
-    workspace.moveTabSelectedTo(-1);
-    QCOMPARE(workspace.selectedTabIndex(), 1);
-    workspace.selectTab(int(workspace.tabLabels().size()) - 1);
-    workspace.moveTabSelectedTo(-1);
+    workspace.tabs().selectNextContainer();
+    QCOMPARE(workspace.store().selectedTabIndex(), 1);
+    workspace.tabs().selectTab(int(workspace.store().tabLabels().size()) - 1);
+    workspace.tabs().selectNextContainer();
     QCOMPARE(m_presenter.beeps, 3);
 
     // With every format open the chooser is not offered.
     for (const QString& name : SXDataEngine::shareInstance()->getAllOutputFormats()) {
-        if (!workspace.tabLabels().contains(name))
-            workspace.addContainerWithFormat(
+        if (!workspace.store().tabLabels().contains(name))
+            workspace.tabs().addContainerWithFormat(
                 SXDataEngine::shareInstance()->getFormatWithName(name));
     }
     m_presenter.offeredFormats.clear();
-    workspace.addContainer();
+    workspace.tabs().addContainer();
     QVERIFY(m_presenter.offeredFormats.isEmpty());
     QCOMPARE(m_presenter.alerts.last().messageText,
              u"All formats are opened, you can set the paramas in the setting window."_s);
@@ -207,12 +209,12 @@ void TestWorkspaceLists::containerRules() {
 
 void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
-    QSignalSpy states(&workspace, &SXWorkspace::appStateChanged);
-    QSignalSpy texts(&workspace, &SXWorkspace::loadProgressText);
-    QSignalSpy fractions(&workspace, &SXWorkspace::loadProgressValue);
-    QSignalSpy started(&workspace, &SXWorkspace::loadStarted);
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
+    QSignalSpy states(&workspace.store(), &SXContainerStore::appStateChanged);
+    QSignalSpy texts(&workspace.addRun(), &SXAddRun::loadProgressText);
+    QSignalSpy fractions(&workspace.addRun(), &SXAddRun::loadProgressValue);
+    QSignalSpy started(&workspace.addRun(), &SXAddRun::loadStarted);
 
     // A loose "vob" file is refused without the preference; inside a folder only the folder's
     // filter applies (and it drops the text file). A path that cannot be examined is reported
@@ -227,7 +229,7 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     QCOMPARE(started.count(), 1);
     QCOMPARE(started.first().first().toString(), u"Loading Media Files..."_s);
     // The folder's files follow the loose file, in the order the folder scan gives them.
-    QStringList names = fileNames(workspace.getCurTableDatasource());
+    QStringList names = fileNames(workspace.store().getCurTableDatasource());
     // Reports are thinned out on their way to the main thread, but the last one always arrives:
     // the path that could not be examined, which ends the batch.
     QCOMPARE(texts.last().first().toString(), u"Importing missing.mp3..."_s);
@@ -238,42 +240,42 @@ void TestWorkspaceLists::addRunExpandsFoldersAndAppliesTheVobRule() {
     QCOMPARE(states.count(), 2);
     QCOMPARE(states.at(0).first().toInt(), int(AppStateLoading));
     QCOMPARE(states.at(1).first().toInt(), int(AppStateIdle));
-    QCOMPARE(workspace.selectedRows(), QList<int>{0});
+    QCOMPARE(workspace.store().selectedRows(), QList<int>{0});
     QCOMPARE(m_presenter.alerts.size(), 1);
     QCOMPARE(m_presenter.alerts.first().details,
              path(u"missing.mp3"_s) + u": No such file or directory"_s);
 
-    const SXMusicInfoPtr first = workspace.getCurTableDatasource().first();
+    const SXMusicInfoPtr first = workspace.store().getCurTableDatasource().first();
     QCOMPARE(first->getStrMusicType(), u"MP3"_s);
     QCOMPARE(first->mediaInfo()->strOutFileName(), u"a"_s);
 
     SXSettings::setValue(SXSettingsKey::AppSupportVob, true);
-    QVERIFY(workspace.selectContainer(u"AAC"_s));
+    QVERIFY(workspace.tabs().selectContainer(u"AAC"_s));
     QVERIFY(addFiles(workspace, {path(u"d.VOB"_s)}));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"d.VOB"_s});
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()), QStringList{u"d.VOB"_s});
 }
 
 void TestWorkspaceLists::addRunDropsPathsAlreadyInTheContainer() {
     SXWorkspace workspace;
-    workspace.addDefaultTabs();
+    workspace.tabs().addDefaultTabs();
     const QString a = path(u"a.mp3"_s), b = path(u"b.wav"_s), c = path(u"c.flac"_s);
     QVERIFY(addFiles(workspace, {a, b}));
 
     // Adding the same file again keeps one copy, and so does naming it twice in one add.
     QVERIFY(addFiles(workspace, {a, c, a, c}));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()),
              (QStringList{u"a.mp3"_s, u"b.wav"_s, u"c.flac"_s}));
 
     // Present paths one after the other (as a folder added again gives them) all stay out.
     QVERIFY(addFiles(workspace, {a, b, c}));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()),
              (QStringList{u"a.mp3"_s, u"b.wav"_s, u"c.flac"_s}));
 
     // Another container takes the same file.
-    QVERIFY(workspace.selectContainer(u"Ringtone"_s));
+    QVERIFY(workspace.tabs().selectContainer(u"Ringtone"_s));
     QVERIFY(addFiles(workspace, {a}));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"a.mp3"_s});
-    QCOMPARE(workspace.getCurTableDatasource().first()->getStrMusicType(), u"Ringtone"_s);
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()), QStringList{u"a.mp3"_s});
+    QCOMPARE(workspace.store().getCurTableDatasource().first()->getStrMusicType(), u"Ringtone"_s);
 }
 
 void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert_data() {
@@ -285,8 +287,8 @@ void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert_data() {
 void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert() {
     QFETCH(int, failures);
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     LogCapture log;
     QStringList paths{path(u"a.mp3"_s)};
     QString expected;
@@ -298,10 +300,10 @@ void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert() {
     }
     // The list always ends in "...", even when every name fits.
     expected += u"..."_s;
-    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
+    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
     QVERIFY(addFiles(workspace, paths));
 
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()), QStringList{u"a.mp3"_s});
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()), QStringList{u"a.mp3"_s});
     QCOMPARE(finished.first().first().value<SXMusicInfoList>().size(), failures);
     QCOMPARE(m_presenter.alerts.size(), 1);
     QCOMPARE(alertTexts(m_presenter.alerts.first()),
@@ -317,14 +319,14 @@ void TestWorkspaceLists::addRunNamesFailedFilesInOneAlert() {
 
 void TestWorkspaceLists::cancelDuringLoadingKeepsNothing() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
-    QSignalSpy cancelled(&workspace, &SXWorkspace::loadCancelled);
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
+    QSignalSpy cancelled(&workspace.addRun(), &SXAddRun::loadCancelled);
     // Cancel as the first file starts, from the loader's own thread, so the cancel surely
     // lands before the batch is through.
     connect(
-        &workspace, &SXWorkspace::loadProgressText, &workspace,
-        [&workspace] { workspace.cancelLoading(); }, Qt::DirectConnection);
+        &workspace.addRun(), &SXAddRun::loadProgressText, &workspace,
+        [&workspace] { workspace.addRun().cancelLoading(); }, Qt::DirectConnection);
     QTemporaryDir copies;
     QStringList batch;
     for (int i = 0; i < 20; ++i) {
@@ -333,97 +335,99 @@ void TestWorkspaceLists::cancelDuringLoadingKeepsNothing() {
     }
     QVERIFY(addFiles(workspace, batch));
     QVERIFY(cancelled.count() >= 1);
-    QVERIFY(workspace.mediaLoader()->bCanceled());
-    QCOMPARE(workspace.currentTabItemCount(), 0);
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QVERIFY(workspace.addRun().mediaLoader()->bCanceled());
+    QCOMPARE(workspace.store().currentTabItemCount(), 0);
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
     QVERIFY(m_presenter.alerts.isEmpty());
 }
 
 void TestWorkspaceLists::rowsSelectReorderAndDelete() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     // Nothing to act on: an audible refusal.
-    workspace.clearContainer();
-    workspace.removeSelected();
-    workspace.moveSelectedTo(-1);
+    workspace.addRun().clearContainer();
+    workspace.addRun().removeSelected();
+    workspace.store().selectNextRow();
     QCOMPARE(m_presenter.beeps, 3);
 
-    workspace.setData(madeUpItems(u"MP3"_s, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s, u"4.wav"_s}),
-                      u"MP3"_s);
-    workspace.refreshListView();
+    workspace.store().setData(
+        madeUpItems(u"MP3"_s, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s, u"4.wav"_s}), u"MP3"_s);
+    workspace.store().refreshListView();
     // The selection moves: +1 to the previous row, -1 to the next; the ends beep.
-    workspace.setSelectedRows({0});
-    workspace.moveSelectedTo(1);
+    workspace.store().setSelectedRows({0});
+    workspace.store().selectPreviousRow();
     QCOMPARE(m_presenter.beeps, 4);
     for (int i = 0; i < 3; ++i)
-        workspace.moveSelectedTo(-1);
-    QCOMPARE(workspace.selectedRows(), QList<int>{3});
-    workspace.moveSelectedTo(-1);
+        workspace.store().selectNextRow();
+    QCOMPARE(workspace.store().selectedRows(), QList<int>{3});
+    workspace.store().selectNextRow();
     QCOMPARE(m_presenter.beeps, 5);
 
     const auto dragRows = [&workspace](const QList<int>& rows) {
-        return SXMusicInfo::unarchiveItems(workspace.dragDataForRows(rows));
+        return SXMusicInfo::unarchiveItems(workspace.moves().dragDataForRows(rows));
     };
-    QVERIFY(workspace.acceptDrop(dragRows({0, 1}), 2, SXWorkspace::DropBelowRow));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+    QVERIFY(workspace.moves().acceptDrop(dragRows({0, 1}), 2, SXItemMoves::DropBelowRow));
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()),
              (QStringList{u"3.wav"_s, u"1.wav"_s, u"2.wav"_s, u"4.wav"_s}));
-    QCOMPARE(workspace.selectedRows(), (QList<int>{1, 2}));
-    QVERIFY(workspace.acceptDrop(dragRows({3}), 0, SXWorkspace::DropOnRow));
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()),
+    QCOMPARE(workspace.store().selectedRows(), (QList<int>{1, 2}));
+    QVERIFY(workspace.moves().acceptDrop(dragRows({3}), 0, SXItemMoves::DropOnRow));
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()),
              (QStringList{u"4.wav"_s, u"3.wav"_s, u"1.wav"_s, u"2.wav"_s}));
 
-    workspace.setSelectedRows({0, 2});
-    workspace.removeSelected();
-    QCOMPARE(fileNames(workspace.getCurTableDatasource()), (QStringList{u"3.wav"_s, u"2.wav"_s}));
-    workspace.clearContainer();
-    QCOMPARE(workspace.currentTabItemCount(), 0);
+    workspace.store().setSelectedRows({0, 2});
+    workspace.addRun().removeSelected();
+    QCOMPARE(fileNames(workspace.store().getCurTableDatasource()),
+             (QStringList{u"3.wav"_s, u"2.wav"_s}));
+    workspace.addRun().clearContainer();
+    QCOMPARE(workspace.store().currentTabItemCount(), 0);
     QCOMPARE(m_presenter.beeps, 5);
 }
 
 void TestWorkspaceLists::movesBetweenContainersAndWorkspaces() {
     SXWorkspace first;
     SXWorkspace second;
-    first.addDefaultTabs();
-    second.addDefaultTabs();
+    first.tabs().addDefaultTabs();
+    second.tabs().addDefaultTabs();
     const QString mp3 = u"MP3"_s, aac = u"AAC"_s;
-    first.setData(madeUpItems(mp3, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s}), mp3);
-    second.setData(madeUpItems(mp3, {u"2.wav"_s, u"9.wav"_s}), mp3);
-    second.setData(madeUpItems(aac, {u"3.wav"_s}), aac);
-    QSignalSpy counts(&first, &SXWorkspace::tabCountsChanged);
+    first.store().setData(madeUpItems(mp3, {u"1.wav"_s, u"2.wav"_s, u"3.wav"_s}), mp3);
+    second.store().setData(madeUpItems(mp3, {u"2.wav"_s, u"9.wav"_s}), mp3);
+    second.store().setData(madeUpItems(aac, {u"3.wav"_s}), aac);
+    QSignalSpy counts(&first.store(), &SXContainerStore::tabCountsChanged);
 
     // Rows 1 and 2 of the first workspace are dragged onto the second's AAC tab.
     bool ok = false;
-    const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(first.dragDataForRows({1, 2}), &ok);
+    const SXMusicInfoList dragged =
+        SXMusicInfo::unarchiveItems(first.moves().dragDataForRows({1, 2}), &ok);
     QVERIFY(ok);
     for (const SXMusicInfoPtr& item : dragged)
         item->setDConvertProgress(100);
-    second.acceptDropOnTab(dragged, aac);
+    second.moves().acceptDropOnTab(dragged, aac);
 
     // The target has each path once, marked waiting; the source name loses the items in
     // every workspace, the one where the drag began and the one that received them.
-    const SXMusicInfoList target = second.getDataForFormat(aac);
+    const SXMusicInfoList target = second.store().getDataForFormat(aac);
     QCOMPARE(fileNames(target), (QStringList{u"3.wav"_s, u"2.wav"_s}));
     QCOMPARE(target.last()->getStrMusicType(), aac);
     QCOMPARE(target.last()->dConvertProgress(), SXProgress::Waiting);
-    QCOMPARE(fileNames(first.getDataForFormat(mp3)), QStringList{u"1.wav"_s});
-    QCOMPARE(counts.last().at(0).toStringList(), first.tabLabels());
+    QCOMPARE(fileNames(first.store().getDataForFormat(mp3)), QStringList{u"1.wav"_s});
+    QCOMPARE(counts.last().at(0).toStringList(), first.store().tabLabels());
     QCOMPARE(counts.last().at(1).value<QList<int>>(), (QList<int>{1, 0, 0}));
-    QCOMPARE(fileNames(second.getDataForFormat(mp3)), QStringList{u"9.wav"_s});
+    QCOMPARE(fileNames(second.store().getDataForFormat(mp3)), QStringList{u"9.wav"_s});
 
     // Dropped on a row of another container: inserted there.
-    QVERIFY(second.selectContainer(aac));
-    const SXMusicInfoList fromFirst = {first.getDataForFormat(mp3).first()->copy()};
-    QVERIFY(second.acceptDrop(fromFirst, 0, SXWorkspace::DropOnRow));
-    QCOMPARE(fileNames(second.getDataForFormat(aac)),
+    QVERIFY(second.tabs().selectContainer(aac));
+    const SXMusicInfoList fromFirst = {first.store().getDataForFormat(mp3).first()->copy()};
+    QVERIFY(second.moves().acceptDrop(fromFirst, 0, SXItemMoves::DropOnRow));
+    QCOMPARE(fileNames(second.store().getDataForFormat(aac)),
              (QStringList{u"1.wav"_s, u"3.wav"_s, u"2.wav"_s}));
-    QCOMPARE(second.selectedRows(), QList<int>{0});
-    QVERIFY(first.getDataForFormat(mp3).isEmpty());
+    QCOMPARE(second.store().selectedRows(), QList<int>{0});
+    QVERIFY(first.store().getDataForFormat(mp3).isEmpty());
 
     // During a run nothing is dragged or dropped.
-    second.setAppState(AppStateConverting);
-    QVERIFY(second.dragDataForRows({0}).isEmpty());
-    QVERIFY(!second.acceptDrop(fromFirst, 0, SXWorkspace::DropOnRow));
+    second.store().setAppState(AppStateConverting);
+    QVERIFY(second.moves().dragDataForRows({0}).isEmpty());
+    QVERIFY(!second.moves().acceptDrop(fromFirst, 0, SXItemMoves::DropOnRow));
 }
 
 SONORIA_TEST_MAIN(TestWorkspaceLists)

@@ -81,7 +81,9 @@ private Q_SLOTS:
     void sliderSeeksOnlyWhenTheDragPauses();
 
 private:
-    SXMusicInfoPtr row(int index) const { return m_workspace->getDataForFormat(u"MP3"_s)[index]; }
+    SXMusicInfoPtr row(int index) const {
+        return m_workspace->store().getDataForFormat(u"MP3"_s)[index];
+    }
 
     std::unique_ptr<SXWorkspace> m_workspace;
     std::unique_ptr<SilentPlayer> m_player;
@@ -92,12 +94,12 @@ void TestWorkspacePreview::init() {
     m_presenter = WorkspaceTestPresenter();
     m_player = std::make_unique<SilentPlayer>();
     m_workspace = std::make_unique<SXWorkspace>();
-    m_workspace->setPresenter(&m_presenter);
-    m_workspace->setPreviewPlayer(m_player.get());
-    m_workspace->addDefaultTabs();
-    m_workspace->setData(itemsOf(u"MP3"_s, {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s}), u"MP3"_s);
-    m_workspace->setData(itemsOf(u"AAC"_s, {u"d.mp3"_s}), u"AAC"_s);
-    m_workspace->selectContainer(u"MP3"_s);
+    m_workspace->store().setPresenter(&m_presenter);
+    m_workspace->preview().setPreviewPlayer(m_player.get());
+    m_workspace->tabs().addDefaultTabs();
+    m_workspace->store().setData(itemsOf(u"MP3"_s, {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s}), u"MP3"_s);
+    m_workspace->store().setData(itemsOf(u"AAC"_s, {u"d.mp3"_s}), u"AAC"_s);
+    m_workspace->tabs().selectContainer(u"MP3"_s);
 }
 
 void TestWorkspacePreview::cleanup() {
@@ -124,9 +126,9 @@ void TestWorkspacePreview::endOfPreviewRunsOnWithinItsContainer() {
     QFETCH(int, startState);
     QFETCH(int, nextRow);
     QFETCH(int, endState);
-    m_workspace->playMusic(row(playingRow));
-    m_workspace->setAppState(startState, row(playingRow));
-    QSignalSpy scrolled(m_workspace.get(), &SXWorkspace::scrollToRowRequested);
+    m_workspace->preview().playMusic(row(playingRow));
+    m_workspace->store().setAppState(startState, row(playingRow));
+    QSignalSpy scrolled(&m_workspace->preview(), &SXWorkspacePreview::scrollToRowRequested);
     m_player->played.clear();
     QVariantMap info{{SXPlayerNotify::kMusicInfo, QVariant::fromValue(row(playingRow))}};
     if (byUser.isValid())
@@ -134,14 +136,14 @@ void TestWorkspacePreview::endOfPreviewRunsOnWithinItsContainer() {
     m_player->setPlayingMusic(nullptr);
     Q_EMIT m_player->notificationPosted(SXPlayerNotify::PlayEnd, info);
 
-    QCOMPARE(m_workspace->enumAppState(), endState);
+    QCOMPARE(m_workspace->store().enumAppState(), endState);
     if (nextRow < 0) {
         QVERIFY(m_player->played.isEmpty());
         QVERIFY(scrolled.isEmpty());
         return;
     }
     QCOMPARE(m_player->played, SXMusicInfoList{row(nextRow)});
-    QCOMPARE(m_workspace->appStateItem(), row(nextRow));
+    QCOMPARE(m_workspace->store().appStateItem(), row(nextRow));
     QCOMPARE(scrolled.value(0).value(0).toInt(), nextRow);
     // The end a row posts carries nothing and never runs on.
     m_player->postEndByRow();
@@ -150,38 +152,38 @@ void TestWorkspacePreview::endOfPreviewRunsOnWithinItsContainer() {
 
 void TestWorkspacePreview::playButtonTogglesAndStopTwiceIsHarmless() {
     QSignalSpy notes(m_player.get(), &SXPreviewPlayer::notificationPosted);
-    m_workspace->togglePlay(row(1));
-    QVERIFY(m_workspace->isPlayingMusic(row(1)));
-    QCOMPARE(m_workspace->enumAppState(), int(AppStatePlaying));
-    QCOMPARE(m_workspace->appStateItem(), row(1));
+    m_workspace->preview().togglePlay(row(1));
+    QVERIFY(m_workspace->preview().isPlayingMusic(row(1)));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStatePlaying));
+    QCOMPARE(m_workspace->store().appStateItem(), row(1));
 
-    m_workspace->pauseOrResumePreview();
-    QVERIFY(m_workspace->isPreviewPaused());
-    m_workspace->pauseOrResumePreview();
-    QVERIFY(!m_workspace->isPreviewPaused() && m_player->isPlaying());
+    m_workspace->preview().pauseOrResumePreview();
+    QVERIFY(m_workspace->preview().isPreviewPaused());
+    m_workspace->preview().pauseOrResumePreview();
+    QVERIFY(!m_workspace->preview().isPreviewPaused() && m_player->isPlaying());
 
-    m_workspace->togglePlay(row(1)); // the same row again stops it
+    m_workspace->preview().togglePlay(row(1)); // the same row again stops it
     QVERIFY(!m_player->playingMusic());
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
     QCOMPARE(notes.last().value(0).toString(), SXPlayerNotify::PlayEnd);
     QVERIFY(notes.last().value(1).toMap().isEmpty());
 
-    m_workspace->stopPlayerWithRefreshUI();
-    m_workspace->stopPlayerWithRefreshUI();
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    m_workspace->preview().stopPlayerWithRefreshUI();
+    m_workspace->preview().stopPlayerWithRefreshUI();
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
 
     // Space plays the selected row; nothing plays during a run; a double-click plays.
-    m_workspace->setSelectedRows({2});
-    m_workspace->playSelected();
-    QVERIFY(m_workspace->isPlayingMusic(row(2)));
-    m_workspace->stopPlayerWithRefreshUI();
-    m_workspace->setAppState(AppStateConverting);
-    m_workspace->togglePlay(row(0));
-    m_workspace->playRow(0);
+    m_workspace->store().setSelectedRows({2});
+    m_workspace->preview().playSelected();
+    QVERIFY(m_workspace->preview().isPlayingMusic(row(2)));
+    m_workspace->preview().stopPlayerWithRefreshUI();
+    m_workspace->store().setAppState(AppStateConverting);
+    m_workspace->preview().togglePlay(row(0));
+    m_workspace->preview().playRow(0);
     QVERIFY(!m_player->playingMusic());
-    m_workspace->setAppState(AppStateIdle);
-    m_workspace->playRow(0);
-    QVERIFY(m_workspace->isPlayingMusic(row(0)));
+    m_workspace->store().setAppState(AppStateIdle);
+    m_workspace->preview().playRow(0);
+    QVERIFY(m_workspace->preview().isPlayingMusic(row(0)));
 }
 
 void TestWorkspacePreview::workspaceStopsThePreview_data() {
@@ -199,69 +201,69 @@ void TestWorkspacePreview::workspaceStopsThePreview_data() {
 void TestWorkspacePreview::workspaceStopsThePreview() {
     QFETCH(QString, action);
     QFETCH(bool, stops);
-    m_workspace->addContainerWithFormat(
+    m_workspace->tabs().addContainerWithFormat(
         SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
-    m_workspace->selectContainer(u"MP3"_s);
-    m_workspace->togglePlay(row(1));
+    m_workspace->tabs().selectContainer(u"MP3"_s);
+    m_workspace->preview().togglePlay(row(1));
     if (action.startsWith(u"delete")) {
-        m_workspace->setSelectedRows({action.back().digitValue()});
-        m_workspace->removeSelected();
+        m_workspace->store().setSelectedRows({action.back().digitValue()});
+        m_workspace->addRun().removeSelected();
     } else if (action == u"clear") {
-        m_workspace->clearContainer();
+        m_workspace->addRun().clearContainer();
     } else if (action == u"add") {
-        m_workspace->loadAndParseFiles({});
+        m_workspace->addRun().loadAndParseFiles({});
     } else if (action == u"start") {
-        m_workspace->doRealConverterTask(QDir::tempPath());
-        m_workspace->cancelAll();
+        m_workspace->scheduler().doRealConverterTask(QDir::tempPath());
+        m_workspace->scheduler().cancelAll();
     } else if (action == u"close FLAC") {
-        m_workspace->selectContainer(u"FLAC"_s);
-        QVERIFY(m_workspace->closeTab());
+        m_workspace->tabs().selectContainer(u"FLAC"_s);
+        QVERIFY(m_workspace->tabs().closeTab());
     } else {
         m_presenter.alertAnswer = 1; // "OK" to closing with items
         QVERIFY(closes(*m_workspace));
     }
     QCOMPARE(!m_player->playingMusic(), stops);
     if (stops)
-        QVERIFY(m_workspace->enumAppState() != AppStatePlaying);
+        QVERIFY(m_workspace->store().enumAppState() != AppStatePlaying);
 }
 
 void TestWorkspacePreview::movedItemKeepsPlaying() {
-    m_workspace->togglePlay(row(2));
+    m_workspace->preview().togglePlay(row(2));
     const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
-        SXMusicInfo::archiveItems({m_workspace->getDataForFormat(u"MP3"_s).at(2)}));
-    m_workspace->acceptDropOnTab(dragged, u"AAC"_s);
+        SXMusicInfo::archiveItems({m_workspace->store().getDataForFormat(u"MP3"_s).at(2)}));
+    m_workspace->moves().acceptDropOnTab(dragged, u"AAC"_s);
 
-    QCOMPARE(m_workspace->getDataForFormat(u"MP3"_s).size(), 2);
-    const SXMusicInfoPtr moved = m_workspace->getDataForFormat(u"AAC"_s).last();
-    QVERIFY(m_workspace->isPlayingMusic(moved));
+    QCOMPARE(m_workspace->store().getDataForFormat(u"MP3"_s).size(), 2);
+    const SXMusicInfoPtr moved = m_workspace->store().getDataForFormat(u"AAC"_s).last();
+    QVERIFY(m_workspace->preview().isPlayingMusic(moved));
     QCOMPARE(m_player->playingMusic()->getStrMusicType(), u"AAC"_s);
     // It now runs on in its new container, where it is the last row.
     m_player->runOut();
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
     QCOMPARE(m_player->played.size(), 1);
 }
 
 void TestWorkspacePreview::failureAndForeignStopReturnToIdle() {
-    m_workspace->playMusic(row(0));
+    m_workspace->preview().playMusic(row(0));
     Q_EMIT m_player->playFailed(row(0), u"No sound output device is available."_s);
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
     QCOMPARE(m_presenter.alerts.size(), 1);
     QCOMPARE(m_presenter.alerts.first().informativeText, u"No sound output device is available."_s);
 
     // Another window's Start stops the shared player: this window goes idle, without an alert.
-    m_workspace->playMusic(row(1));
+    m_workspace->preview().playMusic(row(1));
     SXWorkspace other;
-    other.setPreviewPlayer(m_player.get());
-    other.doRealConverterTask(QDir::tempPath());
-    QCOMPARE(m_workspace->enumAppState(), int(AppStateIdle));
+    other.preview().setPreviewPlayer(m_player.get());
+    other.scheduler().doRealConverterTask(QDir::tempPath());
+    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
     QCOMPARE(m_presenter.alerts.size(), 1);
 }
 
 void TestWorkspacePreview::sliderSeeksOnlyWhenTheDragPauses() {
-    m_workspace->sliderDown(50, 10.0); // not playing: ignored
-    m_workspace->playMusic(row(0));
+    m_workspace->preview().sliderDown(50, 10.0); // not playing: ignored
+    m_workspace->preview().playMusic(row(0));
     for (const double now : {20.0, 20.1, 20.25, 20.5, 20.65})
-        m_workspace->sliderDown(25, now);
+        m_workspace->preview().sliderDown(25, now);
     QCOMPARE(m_player->seeks, (QList<double>{50.0, 50.0}));
 }
 

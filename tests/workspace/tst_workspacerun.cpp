@@ -5,6 +5,7 @@
 #include "base/SXFileLocalManager.h"
 #include "base/SXSettings.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
@@ -22,10 +23,10 @@ namespace {
 constexpr int kRunTimeoutMs = 180000;
 
 bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths) {
-    if (!workspace.selectContainer(container))
+    if (!workspace.tabs().selectContainer(container))
         return false;
-    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
-    workspace.loadAndParseFiles(paths);
+    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
+    workspace.addRun().loadAndParseFiles(paths);
     return finished.count() > 0 || finished.wait(60000);
 }
 
@@ -39,10 +40,10 @@ class TestWorkspaceRun : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void startCopiesEachContainersChoicesIntoItsRecords();
+    void startGivesEachContainersChoicesAndFolderToItsFiles();
     void overrideAndUnorganisedFolderAndRequeue();
     void summaryOfSuccessesAndFailures();
-    void summaryAndChoiceTexts();
+    void summaryTexts();
     void emptyRunEndsAtTheFirstRefresh();
     void totalProgressWeights();
     void rightClickCancelsItsOwnRowThenStopEndsTheRun();
@@ -84,44 +85,50 @@ void TestWorkspaceRun::init() {
 }
 
 QList<QVariant> TestWorkspaceRun::runInto(SXWorkspace& workspace, const QString& folder) {
-    QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
-    workspace.doRealConverterTask(folder);
+    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+    workspace.scheduler().doRealConverterTask(folder);
     if (!finished.wait(kRunTimeoutMs))
         return {};
     return finished.first();
 }
 
-void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
+void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     m_presenter.formatAnswer = u"FLAC"_s;
-    workspace.addContainer();
+    workspace.tabs().addContainer();
 
-    auto mp3 = workspace.getFormatSettingForFormatName(u"MP3"_s);
+    auto mp3 = workspace.store().getFormatSettingForFormatName(u"MP3"_s);
     mp3->setBiteRate(u"128"_s);
     mp3->setSampleRate(u"22050"_s);
     mp3->setChannels(u"Mono"_s);
-    auto aac = workspace.getFormatSettingForFormatName(u"AAC"_s);
+    auto aac = workspace.store().getFormatSettingForFormatName(u"AAC"_s);
     aac->setBiteRate(u"Use Source"_s);
     aac->setSampleRate(u"Use Source"_s);
     aac->setChannels(u"Stereo"_s);
-    QCOMPARE(workspace.getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Use Source"_s);
+    QCOMPARE(workspace.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(),
+             u"Use Source"_s);
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
     QVERIFY(addFiles(workspace, u"AAC"_s, {source(u"m44.flac"_s)}));
     QVERIFY(addFiles(workspace, u"FLAC"_s, {source(u"s48.wav"_s)}));
+    // AAC has a folder of its own ("Output Folder…"): its run writes there, not below Start's.
+    const QString own = freshFolder(u"own AAC"_s);
+    QVERIFY(workspace.tabs().selectContainer(u"AAC"_s));
+    SXSettingPanelActions::setOutputFolder(workspace.store(), own);
+    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), own);
 
     const QString folder = freshFolder(u"start"_s);
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, true};
     LogCapture log;
-    QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
-    QSignalSpy totals(&workspace, &SXWorkspace::totalProgressChanged);
-    QSignalSpy redraws(&workspace, &SXWorkspace::rowsRedrawRequested);
-    QSignalSpy itemsDone(&workspace, &SXWorkspace::itemFinished);
-    workspace.toggleRun();
-    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
-    QCOMPARE(workspace.queueConvertTask()->maxConcurrentOperationCount(), 3);
-    QCOMPARE(workspace.totalConvertOps(), 3);
+    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+    QSignalSpy totals(&workspace.scheduler(), &SXWorkspaceScheduler::totalProgressChanged);
+    QSignalSpy redraws(&workspace.scheduler(), &SXWorkspaceScheduler::rowsRedrawRequested);
+    QSignalSpy itemsDone(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
+    workspace.scheduler().toggleRun();
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
+    QCOMPARE(workspace.scheduler().queueConvertTask()->maxConcurrentOperationCount(), 3);
+    QCOMPARE(workspace.scheduler().totalConvertOps(), 3);
     QVERIFY(finished.wait(kRunTimeoutMs));
 
     // The chooser started from the default folder with the default check boxes; the answer
@@ -140,101 +147,95 @@ void TestWorkspaceRun::startCopiesEachContainersChoicesIntoItsRecords() {
     QCOMPARE(alertTexts(m_presenter.alerts.last()),
              (QStringList{finished.first().at(0).toString(), QString(), u"OK"_s}));
     QCOMPARE(m_presenter.openedFolders, QStringList{folder});
-    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(totals.first().first().toDouble(), 0.0);
     QVERIFY(redraws.count() > 0);
-    QCOMPARE(workspace.getTotalConvertProgress(), 1.0);
+    QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 1.0);
 
-    // Numbers, "Use Source", "Stereo" and a non-numeric choice, as copied into the records.
-    const LSMediaPtr m1 = workspace.getDataForFormat(u"MP3"_s).first()->mediaInfo();
-    QCOMPARE(m1->dAOBitrate(), 128.0);
-    QCOMPARE(m1->dAOSamplerate(), 22050.0);
-    QCOMPARE(m1->iAOChannels(), 1);
-    QCOMPARE(m1->vOACodecName(), mp3->decodecName());
-    QCOMPARE(m1->strOutFileExt(), u"mp3"_s);
-    const LSMediaPtr m2 = workspace.getDataForFormat(u"AAC"_s).first()->mediaInfo();
-    QCOMPARE(m2->dAOBitrate(), m2->audioBitrate() / 1000);
-    QCOMPARE(m2->dAOSamplerate(), 44100.0);
-    QCOMPARE(m2->iAOChannels(), 2);
-    const SXMusicInfoPtr flacItem = workspace.getDataForFormat(u"FLAC"_s).first();
-    QCOMPARE(flacItem->mediaInfo()->iAOChannels(), 2);
-    QCOMPARE(flacItem->mediaInfo()->dAOBitrate(), 0.0); // "Lossless" carries no number
-    QVERIFY(!flacItem->bIsSendingToLibrary());
-    QCOMPARE(flacItem->strLibraryPlaylistName(),
-             SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName));
-    QCOMPARE(flacItem->dConvertProgress(), SXProgress::Done);
-
-    // Organised by format.
+    // Organised by format, except the container with a folder of its own.
     QCOMPARE(QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-             (QStringList{u"AAC"_s, u"FLAC"_s, u"MP3"_s}));
-    QCOMPARE(filesIn(folder + u"/AAC"_s), QStringList{u"m44.m4a"_s});
+             (QStringList{u"FLAC"_s, u"MP3"_s}));
+    QCOMPARE(filesIn(own), QStringList{u"m44.m4a"_s});
     // Each item announced its end once, with the file it wrote.
     QStringList outputs;
     for (const QList<QVariant>& done : std::as_const(itemsDone))
         outputs.append(QDir(folder).relativeFilePath(done.at(1).toString()));
     outputs.sort();
-    QCOMPARE(outputs, (QStringList{u"AAC/m44.m4a"_s, u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
+    QCOMPARE(outputs, (QStringList{u"../own AAC/m44.m4a"_s, u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
+
+    // Numbers, "Use Source", "Stereo" and "Lossless", as the files on disk have them (the
+    // mono 44.1 kHz source in AAC, the stereo 48 kHz one in MP3 and FLAC).
+    const ProbeReference m1 = ProbeReference::read(folder + u"/MP3/s48.mp3"_s);
+    QVERIFY(m1.ok && m1.sampleRate == 22050 && m1.channels == 1 && m1.bitRate == 128000);
+    QCOMPARE(m1.codecName, u"mp3"_s);
+    const ProbeReference m2 = ProbeReference::read(own + u"/m44.m4a"_s);
+    QVERIFY(m2.ok && m2.sampleRate == 44100 && m2.channels == 2);
+    const ProbeReference m3 = ProbeReference::read(folder + u"/FLAC/s48.flac"_s);
+    QVERIFY(m3.ok && m3.sampleRate == 48000 && m3.channels == 2 && m3.codecName == "flac"_L1);
+    QCOMPARE(workspace.store().getDataForFormat(u"FLAC"_s).first()->dConvertProgress(),
+             SXProgress::Done);
 
     // The open flag came from the chooser: off again, nothing is opened.
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, false};
     finished.clear();
-    workspace.toggleRun();
+    workspace.scheduler().toggleRun();
     QCOMPARE(m_presenter.folderRequests.last().startFolder, folder);
     QVERIFY(m_presenter.folderRequests.last().openWhenDone);
     QVERIFY(finished.wait(kRunTimeoutMs));
     QCOMPARE(m_presenter.openedFolders.size(), 1);
-    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
 
     // A cancelled chooser changes nothing.
     m_presenter.folderAnswer.reset();
-    workspace.toggleRun();
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    workspace.scheduler().toggleRun();
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
 }
 
 void TestWorkspaceRun::overrideAndUnorganisedFolderAndRequeue() {
     SXWorkspace workspace;
-    workspace.addDefaultTabs();
+    workspace.tabs().addDefaultTabs();
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"m44.flac"_s)}));
     // An item without a media record waits for ever and holds the total at half.
-    workspace.setData({makeWorkspaceItem(u"/nowhere/x.wav"_s, u"AAC"_s, false)}, u"AAC"_s);
+    workspace.store().setData({makeWorkspaceItem(u"/nowhere/x.wav"_s, u"AAC"_s, false)}, u"AAC"_s);
     SXSettings::setValue(SXSettingsKey::MaxTask, 4);
-    workspace.setMaxConcurrentOverride(1);
-    workspace.setOrganizeByFormat(false);
+    workspace.scheduler().setMaxConcurrentOverride(1);
+    workspace.scheduler().setOrganizeByFormat(false);
     const QString folder = freshFolder(u"flat"_s);
 
     for (int run = 0; run < 2; ++run) {
         const QList<QVariant> summary = runInto(workspace, folder);
         QVERIFY(!summary.isEmpty());
         QCOMPARE(summary.at(1).toInt(), 1);
-        QCOMPARE(workspace.queueConvertTask()->maxConcurrentOperationCount(), 1);
-        QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+        QCOMPARE(workspace.scheduler().queueConvertTask()->maxConcurrentOperationCount(), 1);
+        QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     }
     QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 4);
-    QCOMPARE(workspace.totalConvertOps(), 2);
+    QCOMPARE(workspace.scheduler().totalConvertOps(), 2);
     // Every Start queues every item again, straight into the folder.
     QCOMPARE(filesIn(folder), (QStringList{u"m44(1).mp3"_s, u"m44.mp3"_s}));
-    QCOMPARE(workspace.getDataForFormat(u"AAC"_s).first()->dConvertProgress(), SXProgress::Waiting);
-    QCOMPARE(workspace.getTotalConvertProgress(), 0.5);
+    QCOMPARE(workspace.store().getDataForFormat(u"AAC"_s).first()->dConvertProgress(),
+             SXProgress::Waiting);
+    QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 0.5);
 
-    workspace.setMaxConcurrentOverride(std::nullopt);
+    workspace.scheduler().setMaxConcurrentOverride(std::nullopt);
     runInto(workspace, folder);
-    QCOMPARE(workspace.queueConvertTask()->maxConcurrentOperationCount(), 4);
+    QCOMPARE(workspace.scheduler().queueConvertTask()->maxConcurrentOperationCount(), 4);
 }
 
 void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s), source(u"m44.flac"_s)}));
     QVERIFY(addFiles(workspace, u"AAC"_s, {source(u"s48.wav"_s)}));
-    auto broken = workspace.getFormatSettingForFormatName(u"AAC"_s)->copy();
+    auto broken = workspace.store().getFormatSettingForFormatName(u"AAC"_s)->copy();
     broken->setDecodecName(u"no_such_encoder"_s);
-    workspace.setFmtSetting(broken);
+    workspace.store().setFmtSetting(broken);
 
     const QList<QVariant> summary = runInto(workspace, freshFolder(u"mixed"_s));
     QVERIFY(!summary.isEmpty());
     // The failed item's reason follows its name, and the alert's details give its folder.
-    const SXMusicInfoPtr failed = workspace.getDataForFormat(u"AAC"_s).first();
+    const SXMusicInfoPtr failed = workspace.store().getDataForFormat(u"AAC"_s).first();
     const QString reason = SXFailureTexts::conversionReason(failed->mediaInfo().get());
     QVERIFY(!reason.isEmpty());
     const QString expected = u"2 files has been successfully converted."
@@ -245,40 +246,39 @@ void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
     QCOMPARE(summary.at(1).toInt(), 2);
     QCOMPARE(summary.at(2).toInt(), 1);
     QCOMPARE(m_presenter.alerts.last().messageText, expected);
-    QCOMPARE(workspace.getDataForFormat(u"AAC"_s).first()->dConvertProgress(), SXProgress::Failed);
+    QCOMPARE(workspace.store().getDataForFormat(u"AAC"_s).first()->dConvertProgress(),
+             SXProgress::Failed);
     // The failed item stays in its container.
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 3);
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 3);
 }
 
-void TestWorkspaceRun::summaryAndChoiceTexts() {
-    QCOMPARE(SXWorkspace::summaryMessage(0, {}), u"0 files has been successfully converted."_s);
+void TestWorkspaceRun::summaryTexts() {
+    QCOMPARE(SXWorkspaceScheduler::summaryMessage(0, {}),
+             u"0 files has been successfully converted."_s);
     SXPathFailureList failures;
     for (const QString& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
         failures.append({u"/music/"_s + name + u".flac"_s, u"reason "_s + name});
-    QCOMPARE(SXWorkspace::summaryMessage(4, failures.mid(0, 3)),
+    QCOMPARE(SXWorkspaceScheduler::summaryMessage(4, failures.mid(0, 3)),
              u"4 files has been successfully converted."
              "except 3 files failed,including: \na: reason a \nb: reason b \nc: reason c"_s);
     // The message stops after three; the alert's details hold them all.
-    QCOMPARE(SXWorkspace::summaryMessage(0, failures),
+    QCOMPARE(SXWorkspaceScheduler::summaryMessage(0, failures),
              u"0 files has been successfully converted."
              "except 5 files failed,including: \na: reason a \nb: reason b \nc: reason c..."_s);
-    QCOMPARE(SXWorkspace::choiceValue(u"192"_s), 192.0);
-    QCOMPARE(SXWorkspace::choiceValue(u"22.5k"_s), 22.5);
-    QCOMPARE(SXWorkspace::choiceValue(u"Lossless"_s), 0.0);
 }
 
 void TestWorkspaceRun::emptyRunEndsAtTheFirstRefresh() {
     SXWorkspace workspace;
-    workspace.addDefaultTabs();
-    QSignalSpy states(&workspace, &SXWorkspace::appStateChanged);
-    QSignalSpy totals(&workspace, &SXWorkspace::totalProgressChanged);
+    workspace.tabs().addDefaultTabs();
+    QSignalSpy states(&workspace.store(), &SXContainerStore::appStateChanged);
+    QSignalSpy totals(&workspace.scheduler(), &SXWorkspaceScheduler::totalProgressChanged);
     const QList<QVariant> summary = runInto(workspace, freshFolder(u"empty"_s));
     QVERIFY(!summary.isEmpty());
     QCOMPARE(summary.at(0).toString(), u"0 files has been successfully converted."_s);
-    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(states.size(), 2);
     // No items: no progress, and never NaN (the strip and the launcher make integers of it).
-    QCOMPARE(workspace.getTotalConvertProgress(), 0.0);
+    QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 0.0);
     QCOMPARE(totals.size(), 2);
     for (const QList<QVariant>& total : std::as_const(totals))
         QCOMPARE(total.first().toDouble(), 0.0);
@@ -287,33 +287,33 @@ void TestWorkspaceRun::emptyRunEndsAtTheFirstRefresh() {
     // from row to row stays AppStatePlaying.
     const SXMusicInfoPtr first = makeWorkspaceItem(u"/x/1.wav"_s, u"MP3"_s);
     const SXMusicInfoPtr second = makeWorkspaceItem(u"/x/2.wav"_s, u"MP3"_s);
-    workspace.setAppState(AppStatePlaying, first);
-    workspace.setAppState(AppStatePlaying, second);
+    workspace.store().setAppState(AppStatePlaying, first);
+    workspace.store().setAppState(AppStatePlaying, second);
     QCOMPARE(states.size(), 4);
     QCOMPARE(states.at(2).at(1).value<SXMusicInfoPtr>(), first);
     QCOMPARE(states.at(3).at(1).value<SXMusicInfoPtr>(), second);
-    QCOMPARE(workspace.appStateItem(), second);
+    QCOMPARE(workspace.store().appStateItem(), second);
 }
 
 void TestWorkspaceRun::totalProgressWeights() {
     SXWorkspace workspace;
-    workspace.addDefaultTabs();
+    workspace.tabs().addDefaultTabs();
     SXMusicInfoList items;
     for (double value : {-4.0, -3.0, 100.0, -2.0, -1.0, 50.0}) {
         items.append(makeWorkspaceItem(u"/x/%1.wav"_s.arg(items.size()), u"MP3"_s));
         items.last()->setDConvertProgress(value);
     }
-    workspace.setData(items.mid(0, 3), u"MP3"_s);
-    workspace.setData(items.mid(3), u"AAC"_s);
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 6);
+    workspace.store().setData(items.mid(0, 3), u"MP3"_s);
+    workspace.store().setData(items.mid(3), u"AAC"_s);
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 6);
     // Failed, cancelled and done count whole, sending counts 90, waiting nothing.
-    QCOMPARE(workspace.getTotalConvertProgress(), (100.0 * 3 + 90 + 0 + 50) / 600);
+    QCOMPARE(workspace.scheduler().getTotalConvertProgress(), (100.0 * 3 + 90 + 0 + 50) / 600);
 }
 
 void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     // Three rows of one long source, under three names (a path is added once per container).
     QStringList longSources;
     for (const QString& name : {u"long-a.flac"_s, u"long-b.flac"_s, u"long-c.flac"_s}) {
@@ -322,41 +322,41 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
                 QFile::link(source(u"long.flac"_s), longSources.last()));
     }
     QVERIFY(addFiles(workspace, u"MP3"_s, longSources));
-    const SXMusicInfoList items = workspace.getDataForFormat(u"MP3"_s);
+    const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
     const SXMusicInfoPtr outsider = makeWorkspaceItem(u"/nowhere/else.wav"_s, u"MP3"_s);
-    QVERIFY(!workspace.findOperationForMusicInfo(outsider));
-    workspace.setMaxConcurrentOverride(1);
-    QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
-    workspace.doRealConverterTask(freshFolder(u"cancelled"_s));
-    const QList<SXOperationPtr> queued = workspace.queueConvertTask()->operations();
+    QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider));
+    workspace.scheduler().setMaxConcurrentOverride(1);
+    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+    workspace.scheduler().doRealConverterTask(freshFolder(u"cancelled"_s));
+    const QList<SXOperationPtr> queued = workspace.scheduler().queueConvertTask()->operations();
     QCOMPARE(queued.size(), 3);
 
     // Each row finds its own operation, a copy (as a drag carries) its equal one, and an item
     // of no operation none.
-    QCOMPARE(workspace.findOperationForMusicInfo(items.at(2)), queued.at(2));
-    QCOMPARE(workspace.findOperationForMusicInfo(items.at(1)->copy()), queued.at(1));
-    QVERIFY(!workspace.findOperationForMusicInfo(outsider));
-    workspace.cancelOrEditTags(outsider);
-    QCOMPARE(workspace.queueConvertTask()->operationCount(), 3);
+    QCOMPARE(workspace.scheduler().findOperationForMusicInfo(items.at(2)), queued.at(2));
+    QCOMPARE(workspace.scheduler().findOperationForMusicInfo(items.at(1)->copy()), queued.at(1));
+    QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider));
+    workspace.scheduler().cancelOrEditTags(outsider);
+    QCOMPARE(workspace.scheduler().queueConvertTask()->operationCount(), 3);
 
     // The waiting last row is cancelled, and only it; a second click finds nothing to do.
-    workspace.cancelOrEditTags(items.at(2));
+    workspace.scheduler().cancelOrEditTags(items.at(2));
     QCOMPARE(items.at(2)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Canceled);
     QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateReady));
-    QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
-    workspace.cancelOrEditTags(items.at(2));
-    QCOMPARE(workspace.queueConvertTask()->operations(), queued.mid(0, 2));
+    QCOMPARE(workspace.scheduler().queueConvertTask()->operations(), queued.mid(0, 2));
+    workspace.scheduler().cancelOrEditTags(items.at(2));
+    QCOMPARE(workspace.scheduler().queueConvertTask()->operations(), queued.mid(0, 2));
 
     // Stop is the Start button during a run: the queued items are marked cancelled at once,
     // and the run ends later, through the refresh.
-    workspace.toggleRun();
+    workspace.scheduler().toggleRun();
     QVERIFY(m_presenter.folderRequests.isEmpty());
     QCOMPARE(items.at(0)->dConvertProgress(), SXProgress::Canceled);
     QCOMPARE(items.at(1)->dConvertProgress(), SXProgress::Canceled);
-    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
     QVERIFY(finished.wait(kRunTimeoutMs));
-    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(items.at(1)->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QCOMPARE(items.at(1)->dConvertProgress(), SXProgress::Canceled);
 }
@@ -385,12 +385,12 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
             QSKIP("mounting a tmpfs is not allowed here");
     }
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
-    QSignalSpy refused(&workspace, &SXWorkspace::runRefused);
+    QSignalSpy refused(&workspace.scheduler(), &SXWorkspaceScheduler::runRefused);
     LogCapture log;
-    const bool started = workspace.doRealConverterTask(folder);
+    const bool started = workspace.scheduler().doRealConverterTask(folder);
     if (kind == "readonly"_L1)
         ::umount2(QFile::encodeName(folder).constData(), MNT_DETACH);
 
@@ -399,9 +399,9 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
     const QString message = refused.first().first().toString();
     QVERIFY2(message.contains(folder + u"/MP3"_s) && message.contains(reason), qPrintable(message));
     QCOMPARE(m_presenter.alerts.last().informativeText, message);
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
     QVERIFY(log.lines().filter(u"args:"_s).isEmpty());
-    QCOMPARE(workspace.getDataForFormat(u"MP3"_s).first()->mediaInfo()->eumCvtState(),
+    QCOMPARE(workspace.store().getDataForFormat(u"MP3"_s).first()->mediaInfo()->eumCvtState(),
              int(CvtStateReady));
     QCOMPARE(SonoriaTest::readFile(dir.filePath(u"blocker"_s)), kind == "file"_L1 ? "mine" : "");
     QCOMPARE(QDir(dir.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
@@ -410,43 +410,43 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
 
 void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
     SXWorkspace workspace;
-    workspace.setPresenter(&m_presenter);
-    workspace.addDefaultTabs();
+    workspace.store().setPresenter(&m_presenter);
+    workspace.tabs().addDefaultTabs();
     QVERIFY(addFiles(workspace, u"MP3"_s,
                      {source(u"s48.wav"_s), source(u"mid.flac"_s), source(u"m44.flac"_s)}));
-    const SXMusicInfoList items = workspace.getDataForFormat(u"MP3"_s);
+    const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
     QCOMPARE(fileNames(items), (QStringList{u"s48.wav"_s, u"mid.flac"_s, u"m44.flac"_s}));
-    workspace.setSelectedRows({0, 1, 2});
-    workspace.setMaxConcurrentOverride(1);
+    workspace.store().setSelectedRows({0, 1, 2});
+    workspace.scheduler().setMaxConcurrentOverride(1);
     const QString folder = freshFolder(u"kept"_s);
-    QSignalSpy itemsDone(&workspace, &SXWorkspace::itemFinished);
-    QSignalSpy finished(&workspace, &SXWorkspace::runFinished);
-    workspace.doRealConverterTask(folder);
+    QSignalSpy itemsDone(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
+    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+    workspace.scheduler().doRealConverterTask(folder);
 
     // The first file has converted; the second converts, the third waits.
     QVERIFY(itemsDone.wait(60000));
     QCOMPARE(itemsDone.first().first().value<SXMusicInfoPtr>(), items.at(0));
     QCOMPARE(items.at(2)->dConvertProgress(), SXProgress::Waiting);
-    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
 
     // A right-click on the finished row cancels nothing (it once cancelled the last file).
-    QTRY_COMPARE(workspace.queueConvertTask()->operationCount(), 2);
-    workspace.cancelOrEditTags(items.at(0));
-    QCOMPARE(workspace.queueConvertTask()->operationCount(), 2);
+    QTRY_COMPARE(workspace.scheduler().queueConvertTask()->operationCount(), 2);
+    workspace.scheduler().cancelOrEditTags(items.at(0));
+    QCOMPARE(workspace.scheduler().queueConvertTask()->operationCount(), 2);
     // Every way out of the list is refused aloud; a move out of another window is refused
     // quietly.
     const int beeps = m_presenter.beeps;
-    workspace.removeSelected();
-    workspace.clearContainer();
-    QVERIFY(!workspace.acceptDrop({items.at(2)->copy()}, 0, SXWorkspace::DropAboveRow));
-    workspace.acceptDropOnTab({items.at(0)->copy()}, u"AAC"_s);
-    workspace.dragMusicInfos({items.at(1)->copy()}, u"MP3"_s, u"AAC"_s, -1);
-    QVERIFY(workspace.dragDataForRows({0, 1}).isEmpty());
+    workspace.addRun().removeSelected();
+    workspace.addRun().clearContainer();
+    QVERIFY(!workspace.moves().acceptDrop({items.at(2)->copy()}, 0, SXItemMoves::DropAboveRow));
+    workspace.moves().acceptDropOnTab({items.at(0)->copy()}, u"AAC"_s);
+    workspace.moves().dragMusicInfos({items.at(1)->copy()}, u"MP3"_s, u"AAC"_s, -1);
+    QVERIFY(workspace.moves().dragDataForRows({0, 1}).isEmpty());
     QCOMPARE(m_presenter.beeps, beeps + 6);
-    workspace.removeDragOutFiles(items, u"MP3"_s);
-    QCOMPARE(workspace.getDataForFormat(u"MP3"_s), items);
-    QVERIFY(workspace.getDataForFormat(u"AAC"_s).isEmpty());
-    QCOMPARE(workspace.selectedRows(), (QList<int>{0, 1, 2}));
+    workspace.moves().removeDragOutFiles(items, u"MP3"_s);
+    QCOMPARE(workspace.store().getDataForFormat(u"MP3"_s), items);
+    QVERIFY(workspace.store().getDataForFormat(u"AAC"_s).isEmpty());
+    QCOMPARE(workspace.store().selectedRows(), (QList<int>{0, 1, 2}));
 
     // Every child was reported and counted, and every output is whole on disk.
     QVERIFY(finished.wait(kRunTimeoutMs));
@@ -460,10 +460,10 @@ void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
     }
 
     // Once the run is over the list may be cleared; an empty list has no progress.
-    QTRY_COMPARE_WITH_TIMEOUT(workspace.enumAppState(), int(AppStateIdle), 10000);
-    workspace.clearContainer();
-    QCOMPARE(workspace.getTotalNeedConvertMusic(), 0);
-    QCOMPARE(workspace.getTotalConvertProgress(), 0.0);
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
+    workspace.addRun().clearContainer();
+    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 0);
+    QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 0.0);
 }
 
 SONORIA_TEST_MAIN(TestWorkspaceRun)

@@ -1,17 +1,18 @@
 #include "gui/application/SXDesktopApp.h"
 
-#include "online/HVConfigManager.h"
-#include "online/SXPreferences.h"
-#include "online/SXStartupReport.h"
+#include "base/SXLog.h"
+#include "base/SXSettings.h"
 #include "desktop/SXFileManager.h"
 #include "gui/application/SXMenuHandler.h"
 #include "gui/dialogs/SXPreferencesDialog.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "model/SXDataEngine.h"
-#include "base/SXLog.h"
-#include "base/SXSettings.h"
+#include "online/HVConfigManager.h"
+#include "online/SXPreferences.h"
+#include "online/SXStartupReport.h"
 #include "workspace/SXAboutText.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QApplication>
@@ -54,24 +55,25 @@ void SXDesktopApp::start(const QStringList& files, bool contactService) {
     SXSettings::setPreferenceValue();
     applicationDidFinishLaunching(contactService);
     if (!files.isEmpty())
-        m_coreWindow->workspace().loadAndParseFiles(files);
+        m_coreWindow->workspace().addRun().loadAndParseFiles(files);
 }
 
 void SXDesktopApp::newWindow() {
     m_coreWindow = new SXMainAppController;
     m_menus->installInto(*m_coreWindow);
-    connect(m_coreWindow, &SXMainAppController::applicationCommand, this, &SXDesktopApp::perform);
+    connect(m_coreWindow, &SXMainAppController::applicationCommandChosen, this,
+            &SXDesktopApp::perform);
     connect(m_coreWindow, &SXMainAppController::validationInputsChanged, this,
             [this] { validateMenus(); });
     connect(&m_coreWindow->workspace(), &SXWorkspace::lastWorkspaceClosing, this,
             [this] { configerMenuForState(false); });
     // Queued: the workspace finishes its own reaction to the state before another run starts.
-    connect(&m_coreWindow->workspace(), &SXWorkspace::appStateChanged, this,
+    connect(&m_coreWindow->workspace().store(), &SXContainerStore::appStateChanged, this,
             &SXDesktopApp::loadPendingFiles, Qt::QueuedConnection);
     m_coreWindow->show();
     // The primary window alone keeps its containers and their choices between starts.
-    m_coreWindow->workspace().setRemembersContainers(true);
-    m_coreWindow->workspace().addDefaultTabs();
+    m_coreWindow->workspace().tabs().setRemembersContainers(true);
+    m_coreWindow->workspace().tabs().addDefaultTabs();
     validateMenus();
 }
 
@@ -83,20 +85,16 @@ void SXDesktopApp::applicationDidFinishLaunching(bool contactService) {
 }
 
 SXMainAppController* SXDesktopApp::keyWindowController() const {
-    auto* key = dynamic_cast<SXWorkspace*>(SXDataEngine::shareInstance()->keyWindowRecord());
+    auto* key = dynamic_cast<SXWorkspace*>(SXWindowRegistry::instance().keyWindowRecord());
     return key ? qobject_cast<SXMainAppController*>(key->parent()) : nullptr;
-}
-
-bool SXDesktopApp::isCoreControllerIsKeyWindow() const {
-    return m_coreWindow && m_coreWindow->isActiveWindow();
 }
 
 void SXDesktopApp::stopEveryRun() {
     // A copy: a workspace may leave the registry while its run is being stopped.
-    const QList<SXWindowController*> windows = SXDataEngine::shareInstance()->registeredWindows();
+    const QList<SXWindowController*> windows = SXWindowRegistry::instance().registeredWindows();
     for (SXWindowController* window : windows) {
         if (auto* workspace = dynamic_cast<SXWorkspace*>(window))
-            workspace->abandonRun();
+            workspace->scheduler().abandonRun();
     }
 }
 
@@ -113,7 +111,6 @@ int SXDesktopApp::exitStatusForSignal(int signalNumber) {
 }
 
 void SXDesktopApp::perform(SXCommand command) {
-    SXMainAppController* key = keyWindowController();
     switch (command) {
     case SXCommand::NewContainer:
         clickNewWindow();
@@ -142,32 +139,15 @@ void SXDesktopApp::perform(SXCommand command) {
         QMessageBox::about(parent ? parent : m_coreWindow.data(), about.title, about.text);
         return;
     }
-    case SXCommand::NewFormat:
-        // Only the primary window adds containers.
-        if (!isCoreControllerIsKeyWindow()) {
-            QApplication::beep();
-            return;
-        }
-        break;
-    case SXCommand::CloseTab:
-        clickCloseTab(key);
-        return;
     default:
         break;
     }
-    if (key)
-        key->perform(command);
-}
-
-void SXDesktopApp::clickCloseTab(SXMainAppController* key) {
-    if (!key)
-        return;
-    const QString selected = key->workspace().getSelectedMusicFormat();
-    if (SXDataEngine::getCanNotRemoveFormatContainer().contains(selected)) {
-        key->presenter().beep();
+    if (sxCommandRefused(command, commandContext())) {
+        QApplication::beep();
         return;
     }
-    key->perform(SXCommand::CloseTab);
+    if (SXMainAppController* key = keyWindowController())
+        key->perform(command);
 }
 
 void SXDesktopApp::clickNewWindow() {
@@ -193,10 +173,10 @@ void SXDesktopApp::openFiles(const QStringList& paths) {
 
 void SXDesktopApp::loadPendingFiles() {
     SXWorkspace& core = m_coreWindow->workspace();
-    if (m_pendingFiles.isEmpty() || core.enumAppState() == AppStateLoading ||
-        core.enumAppState() == AppStateConverting)
+    const int state = core.store().enumAppState();
+    if (m_pendingFiles.isEmpty() || state == AppStateLoading || state == AppStateConverting)
         return;
-    core.loadAndParseFiles(std::exchange(m_pendingFiles, {}));
+    core.addRun().loadAndParseFiles(std::exchange(m_pendingFiles, {}));
 }
 
 void SXDesktopApp::clickPreference() {
@@ -212,9 +192,13 @@ void SXDesktopApp::configerMenuForState(bool open) {
     validateMenus();
 }
 
-void SXDesktopApp::validateMenus() {
+SXCommandContext SXDesktopApp::commandContext() const {
     SXWorkspace* primary = m_coreWindow ? &m_coreWindow->workspace() : nullptr;
     SXMainAppController* keyWindow = keyWindowController();
     SXWorkspace* key = keyWindow ? &keyWindow->workspace() : nullptr;
-    m_menus->validate(SXCommandContext::of(primary, key, m_primaryOpen));
+    return SXCommandContext::of(primary, key, m_primaryOpen);
+}
+
+void SXDesktopApp::validateMenus() {
+    m_menus->validate(commandContext());
 }

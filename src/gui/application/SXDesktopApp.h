@@ -50,18 +50,21 @@ public:
     // after Ctrl-C on a terminal, as a shell and sonoria-cli report an interrupted command.
     static int exitStatusForSignal(int signalNumber);
 
+    // The menus, their shortcuts and the toolbars' application buttons: the application's own
+    // commands (sxIsApplicationCommand) are answered here; a command SXCommandValidation
+    // refuses beeps; the rest go to the key window. Nothing comes back here from a window.
     void perform(SXCommand command);
     void clickNewWindow();
     void clickPreference();
     void configerMenuForState(bool open);
-    bool isCoreControllerIsKeyWindow() const;
     // Validates every menu item now; it never beeps.
     void validateMenus();
+    // What validation reads now: the primary window's workspace and the key window's.
+    SXCommandContext commandContext() const;
 
 private:
     void newWindow();
     void applicationDidFinishLaunching(bool contactService);
-    void clickCloseTab(SXMainAppController* key);
     void loadPendingFiles();
 
     SXMenuHandler* m_menus = nullptr;

@@ -1,16 +1,12 @@
 #include "gui/dialogs/SXAddFilesDialog.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
-#include "workspace/SXWorkspaceFileLists.h"
+#include "workspace/SXAddRun.h"
 
 #include <QAbstractItemView>
 #include <QFileInfo>
 
-SXAddFilesDialog::SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& window)
+SXAddFilesDialog::SXAddFilesDialog(SXAddRun& addRun, QWidget& window)
     : QFileDialog(&window, tr("Add Files")) {
     setObjectName(QStringLiteral("openFiles"));
     setOption(QFileDialog::DontUseNativeDialog);
@@ -27,12 +23,11 @@ SXAddFilesDialog::SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& win
         if (auto* view = findChild<QAbstractItemView*>(name))
             view->setSelectionMode(QAbstractItemView::ExtendedSelection);
     }
-    connect(this, &SXAddFilesDialog::locationsChosen, &workspace,
-            &SXWorkspaceFileLists::loadAndParseFiles);
+    connect(this, &SXAddFilesDialog::locationsChosen, &addRun, &SXAddRun::loadAndParseFiles);
 }
 
-SXAddFilesDialog* SXAddFilesDialog::openFor(SXWorkspaceFileLists& workspace, QWidget& window) {
-    auto* dialog = new SXAddFilesDialog(workspace, window);
+SXAddFilesDialog* SXAddFilesDialog::openFor(SXAddRun& addRun, QWidget& window) {
+    auto* dialog = new SXAddFilesDialog(addRun, window);
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->open();
     return dialog;

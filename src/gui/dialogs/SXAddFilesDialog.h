@@ -2,7 +2,7 @@
 
 #include <QFileDialog>
 
-class SXWorkspaceFileLists;
+class SXAddRun;
 
 // The open dialog of a workspace window: files and folders chosen together, files filtered by
 // the accepted extensions, window-modal. Its OK starts the add run with every chosen location
@@ -12,10 +12,10 @@ class SXWorkspaceFileLists;
 class SXAddFilesDialog final : public QFileDialog {
     Q_OBJECT
 public:
-    SXAddFilesDialog(SXWorkspaceFileLists& workspace, QWidget& window);
+    SXAddFilesDialog(SXAddRun& addRun, QWidget& window);
 
     // Opens a new dialog over `window`; it deletes itself when it closes.
-    static SXAddFilesDialog* openFor(SXWorkspaceFileLists& workspace, QWidget& window);
+    static SXAddFilesDialog* openFor(SXAddRun& addRun, QWidget& window);
 
 public Q_SLOTS:
     void accept() override;

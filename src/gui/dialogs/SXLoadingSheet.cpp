@@ -1,6 +1,6 @@
 #include "gui/dialogs/SXLoadingSheet.h"
 
-#include "workspace/SXWorkspaceFileLists.h"
+#include "workspace/SXAddRun.h"
 
 #include <QApplication>
 #include <QDialogButtonBox>
@@ -13,9 +13,9 @@ namespace {
 constexpr int kBarSteps = 1000;
 }
 
-SXLoadingSheet::SXLoadingSheet(SXWorkspaceFileLists& workspace, QWidget& window)
+SXLoadingSheet::SXLoadingSheet(SXAddRun& addRun, QWidget& window)
     : QDialog(&window)
-    , m_workspace(workspace) {
+    , m_addRun(addRun) {
     setObjectName(QStringLiteral("loadingSheet"));
     setWindowTitle(QApplication::applicationDisplayName());
     setWindowModality(Qt::WindowModal);
@@ -37,11 +37,11 @@ SXLoadingSheet::SXLoadingSheet(SXWorkspaceFileLists& workspace, QWidget& window)
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &SXLoadingSheet::reject);
 
-    connect(&workspace, &SXWorkspaceFileLists::loadStarted, this, &SXLoadingSheet::beginSheet);
-    connect(&workspace, &SXWorkspaceFileLists::loadProgressText, this, &SXLoadingSheet::showText);
-    connect(&workspace, &SXWorkspaceFileLists::loadProgressValue, this, &SXLoadingSheet::showValue);
-    connect(&workspace, &SXWorkspaceFileLists::loadCancelled, this, &SXLoadingSheet::endSheet);
-    connect(&workspace, &SXWorkspaceFileLists::loadFinished, this, &SXLoadingSheet::endSheet);
+    connect(&addRun, &SXAddRun::loadStarted, this, &SXLoadingSheet::beginSheet);
+    connect(&addRun, &SXAddRun::loadProgressText, this, &SXLoadingSheet::showText);
+    connect(&addRun, &SXAddRun::loadProgressValue, this, &SXLoadingSheet::showValue);
+    connect(&addRun, &SXAddRun::loadCancelled, this, &SXLoadingSheet::endSheet);
+    connect(&addRun, &SXAddRun::loadFinished, this, &SXLoadingSheet::endSheet);
 }
 
 QString SXLoadingSheet::progressText() const {
@@ -70,7 +70,7 @@ void SXLoadingSheet::showValue(double fraction) {
 
 void SXLoadingSheet::reject() {
     // The workspace cancels its loader and answers with loadCancelled, which ends the sheet.
-    m_workspace.cancelLoading();
+    m_addRun.cancelLoading();
 }
 
 void SXLoadingSheet::endSheet() {

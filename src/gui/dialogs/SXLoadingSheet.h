@@ -5,7 +5,7 @@
 class QLabel;
 class QProgressBar;
 class QPushButton;
-class SXWorkspaceFileLists;
+class SXAddRun;
 
 // The sheet over a workspace window while an add run probes its files: "Loading Media
 // Files...", then "Importing <name>..." per file, a determinate bar and Cancel. It is
@@ -14,7 +14,7 @@ class SXWorkspaceFileLists;
 class SXLoadingSheet final : public QDialog {
     Q_OBJECT
 public:
-    SXLoadingSheet(SXWorkspaceFileLists& workspace, QWidget& window);
+    SXLoadingSheet(SXAddRun& addRun, QWidget& window);
 
     QString progressText() const;
     double progressValue() const; // 0..1
@@ -28,7 +28,7 @@ private:
     void showValue(double fraction);
     void endSheet();
 
-    SXWorkspaceFileLists& m_workspace;
+    SXAddRun& m_addRun;
     QLabel* _tfProgressName = nullptr;
     QProgressBar* _piIndicator = nullptr;
     QPushButton* m_cancel = nullptr;

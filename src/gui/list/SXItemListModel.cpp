@@ -1,24 +1,28 @@
 #include "gui/list/SXItemListModel.h"
 
+#include "workspace/SXAddRun.h"
 #include "workspace/SXFailureTexts.h"
-#include "workspace/SXWorkspaceItemMoves.h"
+#include "workspace/SXItemMoves.h"
 
 #include <QFileInfo>
 #include <QMimeData>
 #include <QUrl>
 #include <algorithm>
 
-SXItemListModel::SXItemListModel(SXWorkspaceItemMoves& workspace, QObject* parent)
+SXItemListModel::SXItemListModel(SXContainerStore& store, SXItemMoves& moves, SXAddRun& addRun,
+                                 QObject* parent)
     : QAbstractListModel(parent)
-    , m_workspace(workspace) {
-    connect(&m_workspace, &SXWorkspaceData::listChanged, this, &SXItemListModel::reload);
-    connect(&m_workspace, &SXWorkspaceData::tabsChanged, this, &SXItemListModel::reload);
-    m_rows = m_workspace.getCurTableDatasource();
+    , m_store(store)
+    , m_moves(moves)
+    , m_addRun(addRun) {
+    connect(&m_store, &SXContainerStore::listChanged, this, &SXItemListModel::reload);
+    connect(&m_store, &SXContainerStore::tabsChanged, this, &SXItemListModel::reload);
+    m_rows = m_store.getCurTableDatasource();
 }
 
 void SXItemListModel::reload() {
     beginResetModel();
-    m_rows = m_workspace.getCurTableDatasource();
+    m_rows = m_store.getCurTableDatasource();
     endResetModel();
 }
 
@@ -72,7 +76,7 @@ QMimeData* SXItemListModel::mimeData(const QModelIndexList& indexes) const {
         rows.append(index.row());
     std::sort(rows.begin(), rows.end());
     rows.erase(std::unique(rows.begin(), rows.end()), rows.end());
-    const QByteArray archive = m_workspace.dragDataForRows(rows);
+    const QByteArray archive = m_moves.dragDataForRows(rows);
     if (archive.isEmpty())
         return nullptr; // refused: a run is going on
     auto* data = new QMimeData;
@@ -86,7 +90,7 @@ QMimeData* SXItemListModel::mimeData(const QModelIndexList& indexes) const {
 
 bool SXItemListModel::canDropMimeData(const QMimeData* data, Qt::DropAction, int, int,
                                       const QModelIndex&) const {
-    return data && SXListDrop::acceptsDrops(m_workspace) &&
+    return data && SXListDrop::acceptsDrops(m_store) &&
            (data->hasFormat(QString::fromLatin1(kSXItemsMimeType)) || data->hasUrls());
 }
 
@@ -96,7 +100,7 @@ bool SXItemListModel::dropMimeData(const QMimeData* data, Qt::DropAction action,
         return false;
     // Between rows the view names the row below; at the end of the list it names none.
     const int insertRow = row >= 0 && !parent.isValid() ? row : int(m_rows.size());
-    return SXListDrop::dropOnList(m_workspace, dropContent(data), insertRow);
+    return SXListDrop::dropOnList(m_moves, m_addRun, dropContent(data), insertRow);
 }
 
 SXDropContent SXItemListModel::dropContent(const QMimeData* data) {

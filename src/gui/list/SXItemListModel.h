@@ -5,7 +5,9 @@
 
 #include <QAbstractListModel>
 
-class SXWorkspaceItemMoves;
+class SXAddRun;
+class SXContainerStore;
+class SXItemMoves;
 
 // The rows of the selected container of one workspace. The workspace's list is the truth: the
 // model keeps a copy of it, taken again whenever the workspace says the list changed. Each row's
@@ -20,7 +22,8 @@ class SXItemListModel final : public QAbstractListModel {
 public:
     enum Role { ItemRole = Qt::UserRole + 1, ProgressRole };
 
-    explicit SXItemListModel(SXWorkspaceItemMoves& workspace, QObject* parent = nullptr);
+    SXItemListModel(SXContainerStore& store, SXItemMoves& moves, SXAddRun& addRun,
+                    QObject* parent = nullptr);
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -45,6 +48,8 @@ public:
 private:
     void reload();
 
-    SXWorkspaceItemMoves& m_workspace;
+    SXContainerStore& m_store;
+    SXItemMoves& m_moves;
+    SXAddRun& m_addRun;
     SXMusicInfoList m_rows;
 };

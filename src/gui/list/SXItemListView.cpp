@@ -3,6 +3,8 @@
 #include "gui/list/SXItemListModel.h"
 #include "gui/list/SXItemRowDelegate.h"
 #include "gui/list/SXRowContextMenu.h"
+#include "workspace/SXAddRun.h"
+#include "workspace/SXWorkspacePreview.h"
 #include "workspace/SXWorkspaceScheduler.h"
 
 #include <QContextMenuEvent>
@@ -11,9 +13,14 @@
 #include <QPainter>
 #include <QScopedValueRollback>
 
-SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
+SXItemListView::SXItemListView(SXContainerStore& store, SXWorkspacePreview& preview,
+                               SXAddRun& addRun, SXItemMoves& moves,
+                               SXWorkspaceScheduler& scheduler, QWidget* parent)
     : QListView(parent)
-    , m_workspace(workspace) {
+    , m_store(store)
+    , m_preview(preview)
+    , m_addRun(addRun)
+    , m_scheduler(scheduler) {
     setObjectName(QStringLiteral("itemList"));
     setAccessibleName(tr("Files"));
     setSelectionMode(QAbstractItemView::ExtendedSelection);
@@ -27,33 +34,33 @@ SXItemListView::SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent)
     setDropIndicatorShown(true);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
 
-    m_model = new SXItemListModel(workspace, this);
-    m_delegate = new SXItemRowDelegate(workspace, this);
+    m_model = new SXItemListModel(m_store, moves, m_addRun, this);
+    m_delegate = new SXItemRowDelegate(m_store, this);
     setModel(m_model);
     setItemDelegate(m_delegate);
-    m_rowMenu = new SXRowContextMenu(workspace, *this);
+    m_rowMenu = new SXRowContextMenu(m_preview, m_addRun, m_scheduler, *this);
 
     connect(selectionModel(), &QItemSelectionModel::selectionChanged, this,
             &SXItemListView::reportSelection);
     connect(m_model, &QAbstractItemModel::modelReset, this,
-            [this] { showSelection(m_workspace.selectedRows()); });
-    connect(&m_workspace, &SXWorkspaceData::selectionChanged, this, &SXItemListView::showSelection);
-    connect(&m_workspace, &SXWorkspaceScheduler::rowsRedrawRequested, m_model,
+            [this] { showSelection(m_store.selectedRows()); });
+    connect(&m_store, &SXContainerStore::selectionChanged, this, &SXItemListView::showSelection);
+    connect(&m_scheduler, &SXWorkspaceScheduler::rowsRedrawRequested, m_model,
             &SXItemListModel::redrawRows);
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, viewport(),
+    connect(&m_store, &SXContainerStore::appStateChanged, viewport(),
             qOverload<>(&QWidget::update));
-    connect(&m_workspace, &SXWorkspacePreview::previewChanged, viewport(),
+    connect(&m_preview, &SXWorkspacePreview::previewChanged, viewport(),
             qOverload<>(&QWidget::update));
     connect(this, &QAbstractItemView::doubleClicked, this,
-            [this](const QModelIndex& index) { m_workspace.playRow(index.row()); });
+            [this](const QModelIndex& index) { m_preview.playRow(index.row()); });
     connect(
         m_delegate, &SXItemRowDelegate::playButtonClicked, this,
-        [this](const QModelIndex& index) { m_workspace.togglePlay(m_model->itemAt(index.row())); });
+        [this](const QModelIndex& index) { m_preview.togglePlay(m_model->itemAt(index.row())); });
     connect(m_delegate, &SXItemRowDelegate::rightButtonClicked, this,
             [this](const QModelIndex& index) {
-                m_workspace.cancelOrEditTags(m_model->itemAt(index.row()));
+                m_scheduler.cancelOrEditTags(m_model->itemAt(index.row()));
             });
-    showSelection(m_workspace.selectedRows());
+    showSelection(m_store.selectedRows());
 }
 
 void SXItemListView::showSelection(const QList<int>& rows) {
@@ -88,12 +95,12 @@ void SXItemListView::reportSelection() {
     QList<int> rows;
     for (const QModelIndex& index : selectionModel()->selectedRows())
         rows.append(index.row());
-    m_workspace.setSelectedRows(rows);
+    m_store.setSelectedRows(rows);
 }
 
 void SXItemListView::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
-        m_workspace.removeSelected();
+        m_addRun.removeSelected();
         event->accept();
         return;
     }
@@ -205,7 +212,7 @@ void SXItemListView::setHoveredRow(int row) {
 }
 
 bool SXItemListView::refuseDrag(QDropEvent* event) {
-    if (SXListDrop::acceptsDrops(m_workspace))
+    if (SXListDrop::acceptsDrops(m_store))
         return false;
     event->ignore();
     return true;

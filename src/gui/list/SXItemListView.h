@@ -2,9 +2,13 @@
 
 #include <QListView>
 
+class SXAddRun;
+class SXContainerStore;
 class SXItemListModel;
+class SXItemMoves;
 class SXItemRowDelegate;
 class SXRowContextMenu;
+class SXWorkspacePreview;
 class SXWorkspaceScheduler;
 
 // The item list of the selected container: one view for every container of the window, rows
@@ -18,7 +22,10 @@ class SXWorkspaceScheduler;
 class SXItemListView final : public QListView {
     Q_OBJECT
 public:
-    explicit SXItemListView(SXWorkspaceScheduler& workspace, QWidget* parent = nullptr);
+    // The rows and the selection come from the store, drags and drops go to the moves and the
+    // add run, the play buttons to the preview, the right buttons to the scheduler.
+    SXItemListView(SXContainerStore& store, SXWorkspacePreview& preview, SXAddRun& addRun,
+                   SXItemMoves& moves, SXWorkspaceScheduler& scheduler, QWidget* parent = nullptr);
 
     SXItemListModel& itemModel() const { return *m_model; }
     SXItemRowDelegate& rowDelegate() const { return *m_delegate; }
@@ -48,7 +55,10 @@ private:
     void popupRowMenu(const QModelIndex& index, const QPoint& globalPos);
     void popupRowMenuFromKeyboard();
 
-    SXWorkspaceScheduler& m_workspace;
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
+    SXAddRun& m_addRun;
+    SXWorkspaceScheduler& m_scheduler;
     SXItemListModel* m_model = nullptr;
     SXItemRowDelegate* m_delegate = nullptr;
     SXRowContextMenu* m_rowMenu = nullptr;

@@ -47,9 +47,9 @@ SXItemRowGeometry SXItemRowGeometry::of(const QRect& row) {
     return g;
 }
 
-SXItemRowDelegate::SXItemRowDelegate(const SXWorkspaceData& workspace, QObject* parent)
+SXItemRowDelegate::SXItemRowDelegate(const SXContainerStore& store, QObject* parent)
     : QStyledItemDelegate(parent)
-    , m_workspace(workspace) {}
+    , m_store(store) {}
 
 QIcon SXItemRowDelegate::icon(const QString& name) const {
     auto found = m_icons.constFind(name);
@@ -76,7 +76,7 @@ void SXItemRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     paintLabels(painter, option, geometry, index);
 
     const SXItemRowLook look = SXItemRowLookRules::rowLook(
-        m_workspace, itemOf(index), index.row() == m_hoveredRow, m_draggingRows, isKey(option));
+        m_store, itemOf(index), index.row() == m_hoveredRow, m_draggingRows, isKey(option));
     // On the selection colour the grey and blue pictures would vanish: they sit on a disc of
     // the list's own background there.
     const bool selected = option.state & QStyle::State_Selected;
@@ -168,7 +168,7 @@ bool SXItemRowDelegate::isOnRightButton(const QStyleOptionViewItem& option,
                                         const QModelIndex& index, const QPoint& at) const {
     if (!SXItemRowGeometry::of(option.rect).right.contains(at))
         return false;
-    return !SXItemRowLookRules::rowLook(m_workspace, itemOf(index), index.row() == m_hoveredRow,
+    return !SXItemRowLookRules::rowLook(m_store, itemOf(index), index.row() == m_hoveredRow,
                                         m_draggingRows, isKey(option))
                 .rightImage.isEmpty();
 }

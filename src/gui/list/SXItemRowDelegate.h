@@ -4,7 +4,7 @@
 #include <QIcon>
 #include <QStyledItemDelegate>
 
-class SXWorkspaceData;
+class SXContainerStore;
 
 // Where the parts of one row sit: the play button on the left, the four labels, then the state
 // button and the right button.
@@ -27,7 +27,7 @@ public:
     // The state button's pie, red 246, green 144, blue 45.
     static QColor pieColor() { return QColor(246, 144, 45); }
 
-    SXItemRowDelegate(const SXWorkspaceData& workspace, QObject* parent = nullptr);
+    SXItemRowDelegate(const SXContainerStore& store, QObject* parent = nullptr);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option,
                const QModelIndex& index) const override;
@@ -58,7 +58,7 @@ private:
     static void paintDisc(QPainter* painter, const QRect& button, const QColor& colour);
     static void paintPie(QPainter* painter, const QRect& button, double fraction);
 
-    const SXWorkspaceData& m_workspace;
+    const SXContainerStore& m_store;
     mutable QHash<QString, QIcon> m_icons;
     int m_hoveredRow = -1;
     bool m_draggingRows = false;

@@ -1,7 +1,9 @@
 #include "gui/list/SXRowContextMenu.h"
 
 #include "desktop/SXFileManager.h"
+#include "workspace/SXAddRun.h"
 #include "workspace/SXCommandValidation.h"
+#include "workspace/SXWorkspacePreview.h"
 #include "workspace/SXWorkspaceScheduler.h"
 
 #include <QMenu>
@@ -30,9 +32,12 @@ QString entryText(SXRowCommand command) {
 }
 } // namespace
 
-SXRowContextMenu::SXRowContextMenu(SXWorkspaceScheduler& workspace, QWidget& owner)
+SXRowContextMenu::SXRowContextMenu(SXWorkspacePreview& preview, SXAddRun& addRun,
+                                   SXWorkspaceScheduler& scheduler, QWidget& owner)
     : QObject(&owner)
-    , m_workspace(workspace)
+    , m_preview(preview)
+    , m_addRun(addRun)
+    , m_scheduler(scheduler)
     , m_menu(new QMenu(&owner)) {
     m_menu->setObjectName(QStringLiteral("rowMenu"));
     m_menu->setAccessibleName(tr("File actions"));
@@ -40,7 +45,7 @@ SXRowContextMenu::SXRowContextMenu(SXWorkspaceScheduler& workspace, QWidget& own
 
 void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos) {
     m_menu->clear();
-    for (const SXRowMenuEntry& entry : sxRowMenu(SXRowFacts::of(m_workspace, item))) {
+    for (const SXRowMenuEntry& entry : sxRowMenu(SXRowFacts::of(m_preview, item))) {
         if (entry.command == SXRowCommand::Remove || entry.command == SXRowCommand::EditTags)
             m_menu->addSeparator();
         QAction* action = m_menu->addAction(entryText(entry.command));
@@ -49,16 +54,16 @@ void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos
         connect(action, &QAction::triggered, this, [this, command, item] {
             switch (command) {
             case SXRowCommand::Play:
-                m_workspace.togglePlay(item);
+                m_preview.togglePlay(item);
                 break;
             case SXRowCommand::Pause:
             case SXRowCommand::Resume:
-                m_workspace.pauseOrResumePreview();
+                m_preview.pauseOrResumePreview();
                 break;
             case SXRowCommand::EditTags:
             case SXRowCommand::CancelConversion:
                 // The same rule as the row's right button: tags when idle, cancel in a run.
-                m_workspace.cancelOrEditTags(item);
+                m_scheduler.cancelOrEditTags(item);
                 break;
             case SXRowCommand::FileInfo:
                 Q_EMIT fileInfoRequested();
@@ -67,7 +72,7 @@ void SXRowContextMenu::popup(const SXMusicInfoPtr& item, const QPoint& globalPos
                 SXFileManager::revealItem(item->strFilePath());
                 break;
             case SXRowCommand::Remove:
-                m_workspace.removeSelected();
+                m_addRun.removeSelected();
                 break;
             }
         });

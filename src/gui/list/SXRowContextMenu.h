@@ -7,6 +7,8 @@
 class QMenu;
 class QPoint;
 class QWidget;
+class SXAddRun;
+class SXWorkspacePreview;
 class SXWorkspaceScheduler;
 
 // The context menu of a list row. Its entries and which of them are enabled come from
@@ -15,7 +17,8 @@ class SXWorkspaceScheduler;
 class SXRowContextMenu final : public QObject {
     Q_OBJECT
 public:
-    SXRowContextMenu(SXWorkspaceScheduler& workspace, QWidget& owner);
+    SXRowContextMenu(SXWorkspacePreview& preview, SXAddRun& addRun, SXWorkspaceScheduler& scheduler,
+                     QWidget& owner);
 
     // Shows the entries for `item` at `globalPos`; the menu stays open until the user chooses.
     void popup(const SXMusicInfoPtr& item, const QPoint& globalPos);
@@ -25,6 +28,8 @@ Q_SIGNALS:
     void fileInfoRequested();
 
 private:
-    SXWorkspaceScheduler& m_workspace;
+    SXWorkspacePreview& m_preview;
+    SXAddRun& m_addRun;
+    SXWorkspaceScheduler& m_scheduler;
     QMenu* m_menu = nullptr;
 };

@@ -1,17 +1,19 @@
 #include "gui/list/SXWindowDrops.h"
 
 #include "gui/list/SXItemListModel.h"
-#include "workspace/SXWorkspaceItemMoves.h"
+#include "workspace/SXAddRun.h"
+#include "workspace/SXItemMoves.h"
 
 #include <QDropEvent>
 #include <QMimeData>
 #include <QTabBar>
 
-SXWindowDrops::SXWindowDrops(QWidget& window, QTabBar& tabBar, SXWorkspaceItemMoves& workspace)
+SXWindowDrops::SXWindowDrops(QWidget& window, QTabBar& tabBar, SXAddRun& addRun, SXItemMoves& moves)
     : QObject(&window)
     , m_window(window)
     , m_tabBar(tabBar)
-    , m_workspace(workspace) {
+    , m_addRun(addRun)
+    , m_moves(moves) {
     m_window.setAcceptDrops(true);
     m_tabBar.setAcceptDrops(true);
     m_window.installEventFilter(this);
@@ -33,13 +35,13 @@ bool SXWindowDrops::windowEvent(QEvent* event) {
     auto* drop = static_cast<QDropEvent*>(event);
     const SXDropContent content = SXItemListModel::dropContent(drop->mimeData());
     // Rows are taken by the list and the tabs only; elsewhere only files and folders.
-    if (!SXListDrop::acceptsDrops(m_workspace) || content.urls.isEmpty() ||
+    if (!SXListDrop::acceptsDrops(m_addRun.store()) || content.urls.isEmpty() ||
         !content.itemArchive.isEmpty()) {
         drop->ignore();
         return true;
     }
     drop->setDropAction(Qt::CopyAction);
-    if (event->type() != QEvent::Drop || SXListDrop::dropOnWindow(m_workspace, content))
+    if (event->type() != QEvent::Drop || SXListDrop::dropOnWindow(m_addRun, content))
         drop->accept();
     else
         drop->ignore();
@@ -51,7 +53,7 @@ bool SXWindowDrops::tabBarEvent(QEvent* event) {
     const SXDropContent content = SXItemListModel::dropContent(drop->mimeData());
     if (content.itemArchive.isEmpty())
         return windowEvent(event); // files dropped on the tabs go to the shown container
-    if (!SXListDrop::acceptsDropOnTab(m_workspace, content)) {
+    if (!SXListDrop::acceptsDropOnTab(m_moves.store(), content)) {
         drop->ignore();
         return true;
     }
@@ -61,7 +63,7 @@ bool SXWindowDrops::tabBarEvent(QEvent* event) {
     const bool taken =
         event->type() == QEvent::DragEnter ||
         (tab >= 0 && (event->type() == QEvent::DragMove ||
-                      SXListDrop::dropOnTab(m_workspace, content, m_tabBar.tabText(tab))));
+                      SXListDrop::dropOnTab(m_moves, content, m_tabBar.tabText(tab))));
     drop->setAccepted(taken);
     return true;
 }

@@ -4,7 +4,8 @@
 
 class QTabBar;
 class QWidget;
-class SXWorkspaceItemMoves;
+class SXAddRun;
+class SXItemMoves;
 
 // Drops on a workspace window outside its list: files and folders from a file manager anywhere
 // in the window start an add run; rows dragged onto a container's tab move there. It watches
@@ -12,7 +13,7 @@ class SXWorkspaceItemMoves;
 class SXWindowDrops final : public QObject {
     Q_OBJECT
 public:
-    SXWindowDrops(QWidget& window, QTabBar& tabBar, SXWorkspaceItemMoves& workspace);
+    SXWindowDrops(QWidget& window, QTabBar& tabBar, SXAddRun& addRun, SXItemMoves& moves);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -23,5 +24,6 @@ private:
 
     QWidget& m_window;
     QTabBar& m_tabBar;
-    SXWorkspaceItemMoves& m_workspace;
+    SXAddRun& m_addRun;
+    SXItemMoves& m_moves;
 };

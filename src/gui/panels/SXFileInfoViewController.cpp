@@ -2,9 +2,9 @@
 
 #include "desktop/SXFileManager.h"
 #include "workspace/SXCommandValidation.h"
+#include "workspace/SXContainerStore.h"
 #include "workspace/SXFileInfoText.h"
 #include "workspace/SXMetadataEditing.h"
-#include "workspace/SXWorkspaceScheduler.h"
 
 #include <QFormLayout>
 #include <QLabel>
@@ -16,10 +16,9 @@ namespace {
 constexpr int kArtworkSide = 160;
 }
 
-SXFileInfoViewController::SXFileInfoViewController(QMainWindow& window,
-                                                   SXWorkspaceScheduler& workspace)
+SXFileInfoViewController::SXFileInfoViewController(QMainWindow& window, SXContainerStore& store)
     : QDockWidget(tr("File Information"), &window)
-    , m_workspace(workspace) {
+    , m_store(store) {
     setObjectName(QStringLiteral("SXFileInfoViewController"));
     setFeatures(QDockWidget::DockWidgetClosable);
     setAllowedAreas(Qt::RightDockWidgetArea);
@@ -62,19 +61,19 @@ void SXFileInfoViewController::followWorkspace() {
     const auto follow = [this] {
         if (!isVisible())
             return;
-        const bool enabled = sxValidateToolbarCommand(
-            SXCommand::FileInfo, m_workspace.enumAppState(), m_workspace.getTotalNeedConvertMusic(),
-            m_workspace.isSelectedMusic());
+        const bool enabled =
+            sxValidateToolbarCommand(SXCommand::FileInfo, m_store.enumAppState(),
+                                     m_store.getTotalNeedConvertMusic(), m_store.isSelectedMusic());
         if (!enabled) {
             hide();
             return;
         }
-        setMusicInfo(m_workspace.selectedItems().value(0));
+        setMusicInfo(m_store.selectedItems().value(0));
         update();
     };
-    connect(&m_workspace, &SXWorkspaceData::selectionChanged, this, follow);
-    connect(&m_workspace, &SXWorkspaceData::listChanged, this, follow);
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, this, follow);
+    connect(&m_store, &SXContainerStore::selectionChanged, this, follow);
+    connect(&m_store, &SXContainerStore::listChanged, this, follow);
+    connect(&m_store, &SXContainerStore::appStateChanged, this, follow);
 }
 
 void SXFileInfoViewController::clickInfo() {
@@ -82,12 +81,12 @@ void SXFileInfoViewController::clickInfo() {
         hide();
         return;
     }
-    const QList<int> rows = m_workspace.selectedRows();
+    const QList<int> rows = m_store.selectedRows();
     if (rows.isEmpty())
         return;
     if (rows.size() > 1)
-        m_workspace.setSelectedRows({rows.first()});
-    setMusicInfo(m_workspace.selectedItems().value(0));
+        m_store.setSelectedRows({rows.first()});
+    setMusicInfo(m_store.selectedItems().value(0));
     update();
     show();
 }

@@ -9,7 +9,7 @@ class QFormLayout;
 class QLabel;
 class QMainWindow;
 class QPushButton;
-class SXWorkspaceScheduler;
+class SXContainerStore;
 
 // The file information panel: a 360 x 560 panel on the right of a workspace window showing,
 // read-only, what is known about the first selected item (SXFileInfoText gives every text and
@@ -19,7 +19,7 @@ class SXFileInfoViewController final : public QDockWidget {
     Q_OBJECT
 public:
     // Docks itself on the right of `window`, hidden.
-    SXFileInfoViewController(QMainWindow& window, SXWorkspaceScheduler& workspace);
+    SXFileInfoViewController(QMainWindow& window, SXContainerStore& store);
 
     void setMusicInfo(const SXMusicInfoPtr& item);
     SXMusicInfoPtr musicInfo() const { return m_musicInfo; }
@@ -33,7 +33,7 @@ public:
 private:
     void followWorkspace();
 
-    SXWorkspaceScheduler& m_workspace;
+    SXContainerStore& m_store;
     SXMusicInfoPtr m_musicInfo;
     QMap<QString, QLabel*> m_labels;
     QFormLayout* m_form = nullptr;

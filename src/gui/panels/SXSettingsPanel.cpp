@@ -2,8 +2,8 @@
 
 #include "gui/panels/SXIcons.h"
 #include "gui/panels/SXPopUps.h"
+#include "workspace/SXContainerStore.h"
 #include "workspace/SXSettingPanelActions.h"
-#include "workspace/SXWorkspaceData.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -13,9 +13,9 @@
 #include <QLabel>
 #include <QPushButton>
 
-SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
+SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     : QWidget(parent)
-    , m_workspace(workspace) {
+    , m_store(store) {
     setObjectName(QStringLiteral("settingsPanel"));
     auto* grid = new QGridLayout(this);
     grid->setContentsMargins(0, 0, 0, 0);
@@ -24,22 +24,18 @@ SXSettingsPanel::SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent)
     _popChannel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChannel"));
     buildButtons();
 
-    connect(_popBitRate, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::setBitRate(m_workspace, title);
-    });
-    connect(_popSmpRate, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::setSampleRate(m_workspace, title);
-    });
-    connect(_popChannel, &QComboBox::textActivated, this, [this](const QString& title) {
-        SXSettingPanelActions::setChannels(m_workspace, title);
-    });
+    connect(_popBitRate, &QComboBox::textActivated, this,
+            [this](const QString& title) { SXSettingPanelActions::setBitRate(m_store, title); });
+    connect(_popSmpRate, &QComboBox::textActivated, this,
+            [this](const QString& title) { SXSettingPanelActions::setSampleRate(m_store, title); });
+    connect(_popChannel, &QComboBox::textActivated, this,
+            [this](const QString& title) { SXSettingPanelActions::setChannels(m_store, title); });
     connect(_btnAddToLibrary, &QCheckBox::clicked, this,
-            [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_workspace, on); });
+            [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_store, on); });
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
     connect(_btnReveal, &QPushButton::clicked, this,
-            [this] { SXSettingPanelActions::revealOutputFolder(m_workspace); });
-    connect(&m_workspace, &SXWorkspaceData::formatSettingShown, this,
-            &SXSettingsPanel::showSetting);
+            [this] { SXSettingPanelActions::revealOutputFolder(m_store); });
+    connect(&m_store, &SXContainerStore::formatSettingShown, this, &SXSettingsPanel::showSetting);
 }
 
 QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) {
@@ -83,7 +79,8 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
     _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
-    _btnSavePath->setToolTip(QDir::toNativeSeparators(setting->outputPath()));
+    _btnSavePath->setToolTip(
+        QDir::toNativeSeparators(SXSettingPanelActions::containerOutputFolder(m_store)));
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
@@ -100,8 +97,8 @@ void SXSettingsPanel::clickSavePath() {
     picker->setOption(QFileDialog::ShowDirsOnly);
     picker->setWindowModality(Qt::WindowModal);
     connect(picker, &QFileDialog::fileSelected, this, [this](const QString& folder) {
-        SXSettingPanelActions::setOutputFolder(m_workspace, folder);
-        showSetting(m_workspace.getSelectedTabFormatSetting());
+        SXSettingPanelActions::setOutputFolder(m_store, folder);
+        showSetting(m_store.getSelectedTabFormatSetting());
     });
     picker->open();
 }

@@ -7,7 +7,7 @@
 class QCheckBox;
 class QComboBox;
 class QPushButton;
-class SXWorkspaceData;
+class SXContainerStore;
 
 // The settings of the selected container under the list: bit rate, sample rate and channels,
 // the music-library box (hidden for a format without the option), the container's output
@@ -16,7 +16,7 @@ class SXWorkspaceData;
 class SXSettingsPanel final : public QWidget {
     Q_OBJECT
 public:
-    explicit SXSettingsPanel(SXWorkspaceData& workspace, QWidget* parent = nullptr);
+    explicit SXSettingsPanel(SXContainerStore& store, QWidget* parent = nullptr);
 
     void showSetting(const SXFormatSettingPtr& setting);
     void setSettingPanelEnable(bool enabled);
@@ -26,7 +26,7 @@ private:
     void buildButtons();
     void clickSavePath();
 
-    SXWorkspaceData& m_workspace;
+    SXContainerStore& m_store;
     int m_columns = 0; // pop-ups placed so far, one column each
     QComboBox* _popBitRate = nullptr;
     QComboBox* _popSmpRate = nullptr;

@@ -2,15 +2,16 @@
 
 #include "gui/panels/SXIcons.h"
 #include "gui/window/SXCountBadge.h"
-#include "workspace/SXWorkspaceContainers.h"
+#include "workspace/SXCommandValidation.h"
+#include "workspace/SXContainerTabs.h"
 #include "workspace/SXWorkspaceTexts.h"
 
 #include <QSignalBlocker>
 #include <QToolButton>
 
-SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* parent)
+SXContainerTabBar::SXContainerTabBar(SXContainerTabs& tabs, QWidget* parent)
     : QTabBar(parent)
-    , m_workspace(workspace) {
+    , m_tabs(tabs) {
     setObjectName(QStringLiteral("containerTabs"));
     setAccessibleName(tr("Containers"));
     setMovable(false);
@@ -28,16 +29,17 @@ SXContainerTabBar::SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* 
     m_addButton->setAutoRaise(true);
 
     connect(this, &QTabBar::currentChanged, this, [this](int index) {
-        if (index >= 0 && index != m_workspace.selectedTabIndex())
-            m_workspace.selectTab(index);
+        if (index >= 0 && index != m_tabs.store().selectedTabIndex())
+            m_tabs.selectTab(index);
     });
     connect(this, &QTabBar::tabCloseRequested, this, &SXContainerTabBar::closeRequested);
-    connect(m_addButton, &QToolButton::clicked, &m_workspace, &SXWorkspaceContainers::addContainer);
-    connect(&m_workspace, &SXWorkspaceData::tabsChanged, this, &SXContainerTabBar::showTabs);
-    connect(&m_workspace, &SXWorkspaceData::tabCountsChanged, this, &SXContainerTabBar::showCounts);
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, this,
+    connect(m_addButton, &QToolButton::clicked, &m_tabs, &SXContainerTabs::addContainer);
+    connect(&m_tabs.store(), &SXContainerStore::tabsChanged, this, &SXContainerTabBar::showTabs);
+    connect(&m_tabs.store(), &SXContainerStore::tabCountsChanged, this,
+            &SXContainerTabBar::showCounts);
+    connect(&m_tabs.store(), &SXContainerStore::appStateChanged, this,
             &SXContainerTabBar::refreshCloseButtons);
-    showTabs(m_workspace.tabLabels(), m_workspace.selectedTabIndex());
+    showTabs(m_tabs.store().tabLabels(), m_tabs.store().selectedTabIndex());
 }
 
 void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
@@ -49,16 +51,16 @@ void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
             addTab(labels.at(i));
         setTabText(i, labels.at(i));
         setTabToolTip(i, SXWorkspaceTexts::tabToolTip(
-                             m_workspace.getFormatSettingForFormatName(labels.at(i))));
+                             m_tabs.store().getFormatSettingForFormatName(labels.at(i))));
         if (!qobject_cast<SXCountBadge*>(tabButton(i, QTabBar::LeftSide)))
             setTabButton(i, QTabBar::LeftSide, new SXCountBadge(this));
     }
     if (selectedIndex >= 0 && selectedIndex < count())
         setCurrentIndex(selectedIndex);
-    m_addButton->setVisible(m_workspace.showAddBtn() &&
-                            m_workspace.enumAppState() != AppStateConverting);
+    m_addButton->setVisible(
+        sxAddContainerButtonShown(m_tabs.store().enumAppState(), m_tabs.showAddBtn()));
     refreshCloseButtons();
-    m_workspace.refreshTabCount();
+    m_tabs.store().refreshTabCount();
 }
 
 void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& counts) {
@@ -75,16 +77,15 @@ void SXContainerTabBar::showCounts(const QStringList& labels, const QList<int>& 
 }
 
 void SXContainerTabBar::refreshCloseButtons() {
-    const bool running = m_workspace.enumAppState() == AppStateConverting;
-    m_addButton->setVisible(m_workspace.showAddBtn() && !running);
+    const int state = m_tabs.store().enumAppState();
+    m_addButton->setVisible(sxAddContainerButtonShown(state, m_tabs.showAddBtn()));
     for (int i = 0; i < count(); ++i) {
         QWidget* close = tabButton(i, QTabBar::RightSide);
         if (close)
-            close->setVisible(!running && !m_workspace.disableTabClose(tabText(i)));
+            close->setVisible(sxTabCloseButtonShown(state, !m_tabs.disableTabClose(tabText(i))));
     }
 }
 
 void SXContainerTabBar::closeRequested(int index) {
-    m_workspace.selectTab(index);
-    m_workspace.closeTab();
+    m_tabs.closeContainer(tabText(index));
 }

@@ -3,7 +3,7 @@
 #include <QTabBar>
 
 class QToolButton;
-class SXWorkspaceContainers;
+class SXContainerTabs;
 
 // The row of container tabs over one workspace: a tab per container labelled with its format
 // name, a count badge, a close button only where the workspace allows closing, the format's
@@ -12,7 +12,7 @@ class SXWorkspaceContainers;
 class SXContainerTabBar final : public QTabBar {
     Q_OBJECT
 public:
-    explicit SXContainerTabBar(SXWorkspaceContainers& workspace, QWidget* parent = nullptr);
+    explicit SXContainerTabBar(SXContainerTabs& tabs, QWidget* parent = nullptr);
 
     // The add button, to be placed after the tabs by the window.
     QToolButton* addButton() const { return m_addButton; }
@@ -24,7 +24,7 @@ private:
     void showCounts(const QStringList& labels, const QList<int>& counts);
     void closeRequested(int index);
 
-    SXWorkspaceContainers& m_workspace;
+    SXContainerTabs& m_tabs;
     QToolButton* m_addButton = nullptr;
     QList<int> m_counts;
 };

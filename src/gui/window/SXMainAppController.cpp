@@ -1,10 +1,5 @@
 #include "gui/window/SXMainAppController.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
-#include "base/SXFolderScan.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
@@ -40,31 +35,31 @@ SXMainAppController::SXMainAppController(QWidget* parent)
     setWindowIcon(SXIcons::icon(QStringLiteral("sonoria")));
     m_workspace = new SXWorkspace(this);
     m_presenter = new SXWindowPresenter(*this);
-    m_workspace->setPresenter(m_presenter);
+    m_workspace->store().setPresenter(m_presenter);
     m_workspace->setKeyWindowTest([this] { return isActiveWindow(); });
-    m_toolbar = new SXWindowToolbar(*this, *m_workspace);
+    m_toolbar = new SXWindowToolbar(*this, m_workspace->store(), m_workspace->scheduler());
     setCentralWidget(buildCentral());
-    new SXRunFeedback(*this, *m_workspace);
-    m_workspace->setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
-    new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), *m_workspace);
+    new SXRunFeedback(*this, m_workspace->store(), m_workspace->scheduler());
+    m_workspace->preview().setPreviewPlayer(SXAudioPlayer::shareAudioPlayer());
+    new SXPreviewWiring(*this, *_listView, *m_toolbar->stateView(), m_workspace->preview());
     connect(_listView, &SXItemListView::startRequested, this, &SXMainAppController::startFromList);
-    m_fileInfo = new SXFileInfoViewController(*this, *m_workspace);
+    m_fileInfo = new SXFileInfoViewController(*this, m_workspace->store());
     connect(&_listView->rowMenu(), &SXRowContextMenu::fileInfoRequested, this, [this] {
         if (!m_fileInfo->isVisible()) // the panel's command toggles; the row's entry only shows
             m_fileInfo->clickInfo();
     });
-    connect(m_workspace, &SXWorkspace::metadataEditorRequested, this,
+    connect(&m_workspace->scheduler(), &SXWorkspaceScheduler::metadataEditorRequested, this,
             [this](const SXMusicInfoPtr& item) {
                 auto* editor = findChild<SXMetadataEditDialog*>(); // one per window, reused
                 if (!editor) {
                     editor = new SXMetadataEditDialog(this);
-                    editor->setListener(m_workspace);
+                    editor->setListener(&m_workspace->addRun());
                 }
                 editor->setMusicInfo(item);
                 editor->open();
             });
-    new SXLoadingSheet(*m_workspace, *this);
-    new SXWindowDrops(*this, *_tabBar, *m_workspace);
+    new SXLoadingSheet(m_workspace->addRun(), *this);
+    new SXWindowDrops(*this, *_tabBar, m_workspace->addRun(), m_workspace->moves());
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))
         resize(980, 640);
@@ -72,7 +67,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
 
 SXMainAppController::~SXMainAppController() {
     // The workspace goes first: its queue may still report to a window that must be whole.
-    m_workspace->setPresenter(nullptr);
+    m_workspace->store().setPresenter(nullptr);
     delete m_workspace;
 }
 
@@ -80,19 +75,21 @@ QWidget* SXMainAppController::buildCentral() {
     auto* central = new QWidget(this);
     auto* layout = new QVBoxLayout(central);
     auto* tabRow = new QHBoxLayout;
-    _tabBar = new SXContainerTabBar(*m_workspace, central);
+    _tabBar = new SXContainerTabBar(m_workspace->tabs(), central);
     tabRow->addWidget(_tabBar);
     tabRow->addWidget(_tabBar->addButton());
     tabRow->addStretch(1);
     layout->addLayout(tabRow);
-    _listView = new SXItemListView(*m_workspace, central);
+    SXWorkspace& ws = *m_workspace;
+    _listView = new SXItemListView(ws.store(), ws.preview(), ws.addRun(), ws.moves(),
+                                   ws.scheduler(), central);
     layout->addWidget(_listView, 1);
     _viewHelpBar = new SXHelpView(central);
     layout->addWidget(_viewHelpBar);
     auto* bottom = new QHBoxLayout;
     bottom->addWidget(buildFileButtons());
     bottom->addSpacing(16);
-    m_settingsPanel = new SXSettingsPanel(*m_workspace, central);
+    m_settingsPanel = new SXSettingsPanel(m_workspace->store(), central);
     bottom->addWidget(m_settingsPanel, 1);
     layout->addLayout(bottom);
     return central;
@@ -117,35 +114,41 @@ QWidget* SXMainAppController::buildFileButtons() {
     _btnClear = button(tr("Cl&ear"), QStringLiteral("btnClear"), QStringLiteral("clearFiles"),
                        QStringLiteral("edit-clear-all"));
     connect(_btnAddFile, &QPushButton::clicked, this, &SXMainAppController::clickAddFiles);
-    connect(_btnDelete, &QPushButton::clicked, m_workspace, &SXWorkspace::removeSelected);
-    connect(_btnClear, &QPushButton::clicked, m_workspace, &SXWorkspace::clearContainer);
+    connect(_btnDelete, &QPushButton::clicked, &m_workspace->addRun(), &SXAddRun::removeSelected);
+    connect(_btnClear, &QPushButton::clicked, &m_workspace->addRun(), &SXAddRun::clearContainer);
     return box;
 }
 
 void SXMainAppController::connectWorkspace() {
-    SXWorkspace* ws = m_workspace;
-    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::refreshListView);
-    connect(ws, &SXWorkspace::tabCountsChanged, this, &SXMainAppController::refreshListView);
-    connect(ws, &SXWorkspace::appStateChanged, this, [this](int state) {
+    SXContainerStore* store = &m_workspace->store();
+    connect(store, &SXContainerStore::listChanged, this, &SXMainAppController::refreshListView);
+    connect(store, &SXContainerStore::tabCountsChanged, this,
+            &SXMainAppController::refreshListView);
+    connect(store, &SXContainerStore::appStateChanged, this, [this](int state) {
         setSettingPanelEnable(sxSettingPanelEnabled(state));
         refreshListView();
     });
-    connect(m_toolbar, &SXWindowToolbar::commandTriggered, this, &SXMainAppController::perform);
-    connect(ws, &SXWorkspace::appStateChanged, this, &SXMainAppController::validationInputsChanged);
-    connect(ws, &SXWorkspace::listChanged, this, &SXMainAppController::validationInputsChanged);
-    connect(ws, &SXWorkspace::selectionChanged, this,
+    connect(m_toolbar, &SXWindowToolbar::commandTriggered, this,
+            &SXMainAppController::toolbarCommand);
+    connect(store, &SXContainerStore::appStateChanged, this,
             &SXMainAppController::validationInputsChanged);
-    connect(ws, &SXWorkspace::tabsChanged, this, &SXMainAppController::validationInputsChanged);
-    connect(ws, &SXWorkspace::tabCountsChanged, this,
+    connect(store, &SXContainerStore::listChanged, this,
+            &SXMainAppController::validationInputsChanged);
+    connect(store, &SXContainerStore::selectionChanged, this,
+            &SXMainAppController::validationInputsChanged);
+    connect(store, &SXContainerStore::tabsChanged, this,
+            &SXMainAppController::validationInputsChanged);
+    connect(store, &SXContainerStore::tabCountsChanged, this,
             &SXMainAppController::validationInputsChanged);
 }
 
 void SXMainAppController::refreshListView() {
+    const SXContainerStore& store = m_workspace->store();
     const bool removable =
-        sxRemoveButtonsEnabled(m_workspace->enumAppState(), m_workspace->currentTabItemCount());
+        sxRemoveButtonsEnabled(store.enumAppState(), store.currentTabItemCount());
     _btnDelete->setEnabled(removable);
     _btnClear->setEnabled(removable);
-    _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(*m_workspace));
+    _viewHelpBar->setTipsStr(SXWorkspaceTexts::helpBarText(store));
 }
 
 void SXMainAppController::setSettingPanelEnable(bool enabled) {
@@ -160,36 +163,36 @@ void SXMainAppController::perform(SXCommand command) {
         clickAddFiles();
         break;
     case SXCommand::NewFormat:
-        ws.addContainer();
+        ws.tabs().addContainer();
         break;
     case SXCommand::CloseTab:
-        ws.closeTab(); // beeps for a fixed container
+        ws.tabs().closeTab(); // beeps for a fixed container
         break;
     case SXCommand::Delete:
-        ws.removeSelected();
+        ws.addRun().removeSelected();
         break;
     case SXCommand::Clear:
-        ws.clearContainer();
+        ws.addRun().clearContainer();
         break;
     case SXCommand::NextRow:
-        ws.moveSelectedTo(-1);
+        ws.store().selectNextRow();
         break;
     case SXCommand::PreviousRow:
-        ws.moveSelectedTo(1);
+        ws.store().selectPreviousRow();
         break;
     case SXCommand::NextContainer:
-        ws.moveTabSelectedTo(-1);
+        ws.tabs().selectNextContainer();
         break;
     case SXCommand::PreviousContainer:
-        ws.moveTabSelectedTo(1);
+        ws.tabs().selectPreviousContainer();
         break;
     case SXCommand::Start:
     case SXCommand::Stop:
-        ws.toggleRun(); // one toggle: Stop during a run
+        ws.scheduler().toggleRun(); // one toggle: Stop during a run
         break;
     case SXCommand::TagEditor:
-        if (const SXMusicInfoList items = ws.selectedItems(); !items.isEmpty())
-            ws.cancelOrEditTags(items.first());
+        if (const SXMusicInfoList items = ws.store().selectedItems(); !items.isEmpty())
+            ws.scheduler().cancelOrEditTags(items.first());
         break;
     case SXCommand::FileInfo:
         m_fileInfo->clickInfo();
@@ -201,9 +204,15 @@ void SXMainAppController::perform(SXCommand command) {
     case SXCommand::Feedback:
     case SXCommand::Website:
     case SXCommand::About:
-        Q_EMIT applicationCommand(command);
-        break;
+        break; // the application's own: SXDesktopApp::perform answers them
     }
+}
+
+void SXMainAppController::toolbarCommand(SXCommand command) {
+    if (sxIsApplicationCommand(command))
+        Q_EMIT applicationCommandChosen(command);
+    else
+        perform(command);
 }
 
 void SXMainAppController::startFromList() {
@@ -216,7 +225,7 @@ void SXMainAppController::startFromList() {
 }
 
 void SXMainAppController::clickAddFiles() {
-    SXAddFilesDialog::openFor(*m_workspace, *this);
+    SXAddFilesDialog::openFor(m_workspace->addRun(), *this);
 }
 
 void SXMainAppController::closeEvent(QCloseEvent* event) {

@@ -29,15 +29,17 @@ public:
     SXWindowToolbar& toolbar() const { return *m_toolbar; }
     SXContainerTabBar& tabBar() const { return *_tabBar; }
 
-    // A command of the menus or the toolbar meant for this window.
+    // A command meant for this window (sxIsApplicationCommand is false for it): from the
+    // application's dispatcher for the menus, or from this window's toolbar. One call into the
+    // workspace part concerned.
     void perform(SXCommand command);
     void clickAddFiles();
     // Enter on the list: Start when it is allowed, otherwise the beep.
     void startFromList();
 
 Q_SIGNALS:
-    // Commands that belong to the application rather than to one window (preferences, help).
-    void applicationCommand(SXCommand command);
+    // A toolbar button for one of the application's own commands (preferences, help).
+    void applicationCommandChosen(SXCommand command);
     // Something validation reads has changed in this window.
     void validationInputsChanged();
 
@@ -51,6 +53,7 @@ private:
     void refreshListView();
     void setSettingPanelEnable(bool enabled);
     void connectWorkspace();
+    void toolbarCommand(SXCommand command);
 
     SXWorkspace* m_workspace = nullptr;
     SXWindowPresenter* m_presenter = nullptr;

@@ -1,7 +1,7 @@
 #include "gui/window/SXPreviewWiring.h"
 
 #include "gui/panels/SXItemStateView.h"
-#include "workspace/SXWorkspace.h"
+#include "workspace/SXWorkspacePreview.h"
 
 #include <QAbstractItemView>
 #include <QElapsedTimer>
@@ -18,22 +18,23 @@ double steadySeconds() {
 } // namespace
 
 SXPreviewWiring::SXPreviewWiring(QWidget& window, QAbstractItemView& list, SXItemStateView& strip,
-                                 SXWorkspace& workspace)
+                                 SXWorkspacePreview& preview)
     : QObject(&window) {
-    SXWorkspace* ws = &workspace;
+    SXWorkspacePreview* ws = &preview;
     auto* space = new QShortcut(QKeySequence(Qt::Key_Space), &list);
     space->setContext(Qt::WidgetWithChildrenShortcut);
-    connect(space, &QShortcut::activated, ws, &SXWorkspace::playSelected);
+    connect(space, &QShortcut::activated, ws, &SXWorkspacePreview::playSelected);
     auto* pause = new QShortcut(QKeySequence(Qt::SHIFT | Qt::Key_Space), &window);
-    connect(pause, &QShortcut::activated, ws, &SXWorkspace::pauseOrResumePreview);
+    connect(pause, &QShortcut::activated, ws, &SXWorkspacePreview::pauseOrResumePreview);
 
     connect(&strip, &SXItemStateView::sliderMoved, ws,
             [ws](double percent) { ws->sliderDown(percent, steadySeconds()); });
-    connect(&strip, &SXItemStateView::pauseClicked, ws, &SXWorkspace::pauseOrResumePreview);
-    connect(ws, &SXWorkspace::previewProgress, &strip, &SXItemStateView::musicPlayingProgress);
-    connect(ws, &SXWorkspace::previewChanged, &strip,
+    connect(&strip, &SXItemStateView::pauseClicked, ws, &SXWorkspacePreview::pauseOrResumePreview);
+    connect(ws, &SXWorkspacePreview::previewProgress, &strip,
+            &SXItemStateView::musicPlayingProgress);
+    connect(ws, &SXWorkspacePreview::previewChanged, &strip,
             [&strip, ws] { strip.setPaused(ws->isPreviewPaused()); });
-    connect(ws, &SXWorkspace::scrollToRowRequested, &list, [&list](int row) {
+    connect(ws, &SXWorkspacePreview::scrollToRowRequested, &list, [&list](int row) {
         if (list.model())
             list.scrollTo(list.model()->index(row, 0));
     });

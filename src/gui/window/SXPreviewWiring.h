@@ -5,7 +5,7 @@
 class QAbstractItemView;
 class QWidget;
 class SXItemStateView;
-class SXWorkspace;
+class SXWorkspacePreview;
 
 // Connects a window's list and state strip to the preview gestures of its workspace: a
 // double-click plays a row, Space plays or stops the selected row, Shift+Space pauses and
@@ -15,5 +15,5 @@ class SXPreviewWiring final : public QObject {
     Q_OBJECT
 public:
     SXPreviewWiring(QWidget& window, QAbstractItemView& list, SXItemStateView& strip,
-                    SXWorkspace& workspace);
+                    SXWorkspacePreview& preview);
 };

@@ -8,19 +8,20 @@
 #include <QApplication>
 #include <QWidget>
 
-SXRunFeedback::SXRunFeedback(QWidget& window, SXWorkspaceScheduler& workspace)
+SXRunFeedback::SXRunFeedback(QWidget& window, const SXContainerStore& store,
+                             SXWorkspaceScheduler& scheduler)
     : QObject(&window)
     , m_window(window)
-    , m_workspace(workspace) {
-    connect(&workspace, &SXWorkspaceScheduler::totalProgressChanged, this,
+    , m_store(store) {
+    connect(&scheduler, &SXWorkspaceScheduler::totalProgressChanged, this,
             &SXRunFeedback::showProgress);
-    connect(&workspace, &SXWorkspaceData::appStateChanged, this, &SXRunFeedback::stateChanged);
-    connect(&workspace, &SXWorkspaceScheduler::runFinished, this,
+    connect(&store, &SXContainerStore::appStateChanged, this, &SXRunFeedback::stateChanged);
+    connect(&scheduler, &SXWorkspaceScheduler::runFinished, this,
             [this](const QString&, int succeeded, int failed) { runFinished(succeeded, failed); });
 }
 
 void SXRunFeedback::showProgress(double percent) {
-    const int state = m_workspace.enumAppState();
+    const int state = m_store.enumAppState();
     m_window.setWindowTitle(
         SXWorkspaceTexts::windowTitle(QApplication::applicationDisplayName(), state, percent));
     if (state == AppStateConverting)

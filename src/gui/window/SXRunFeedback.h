@@ -5,6 +5,7 @@
 #include <QObject>
 
 class QWidget;
+class SXContainerStore;
 class SXWorkspaceScheduler;
 
 // What a run shows outside the window's own controls: the total in the window title, the bar on
@@ -13,7 +14,7 @@ class SXWorkspaceScheduler;
 class SXRunFeedback final : public QObject {
     Q_OBJECT
 public:
-    SXRunFeedback(QWidget& window, SXWorkspaceScheduler& workspace);
+    SXRunFeedback(QWidget& window, const SXContainerStore& store, SXWorkspaceScheduler& scheduler);
 
 private:
     void showProgress(double percent);
@@ -21,6 +22,6 @@ private:
     void runFinished(int succeeded, int failed);
 
     QWidget& m_window;
-    SXWorkspaceScheduler& m_workspace;
+    const SXContainerStore& m_store;
     SXLauncherProgress m_launcher;
 };

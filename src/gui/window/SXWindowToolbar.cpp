@@ -8,9 +8,10 @@
 #include <QMainWindow>
 #include <QToolBar>
 
-SXWindowToolbar::SXWindowToolbar(QMainWindow& window, SXWorkspaceScheduler& workspace)
+SXWindowToolbar::SXWindowToolbar(QMainWindow& window, const SXContainerStore& store,
+                                 SXWorkspaceScheduler& scheduler)
     : QObject(&window)
-    , m_workspace(workspace) {
+    , m_store(store) {
     m_toolBar = window.addToolBar(tr("Toolbar"));
     m_toolBar->setObjectName(QStringLiteral("toolbar"));
     m_toolBar->setMovable(false);
@@ -36,17 +37,16 @@ SXWindowToolbar::SXWindowToolbar(QMainWindow& window, SXWorkspaceScheduler& work
         QStringLiteral("preferences-system"));
     add(SXCommand::Help, tr("Help"), QStringLiteral("help"), QStringLiteral("help-contents"));
 
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, this,
+    connect(&m_store, &SXContainerStore::appStateChanged, this,
             &SXWindowToolbar::validateToolbarItems);
-    connect(&m_workspace, &SXWorkspaceData::listChanged, this,
+    connect(&m_store, &SXContainerStore::listChanged, this, &SXWindowToolbar::validateToolbarItems);
+    connect(&m_store, &SXContainerStore::selectionChanged, this,
             &SXWindowToolbar::validateToolbarItems);
-    connect(&m_workspace, &SXWorkspaceData::selectionChanged, this,
+    connect(&m_store, &SXContainerStore::tabCountsChanged, this,
             &SXWindowToolbar::validateToolbarItems);
-    connect(&m_workspace, &SXWorkspaceData::tabCountsChanged, this,
-            &SXWindowToolbar::validateToolbarItems);
-    connect(&m_workspace, &SXWorkspaceData::appStateChanged, m_stateView,
+    connect(&m_store, &SXContainerStore::appStateChanged, m_stateView,
             &SXItemStateView::updateForAppState);
-    connect(&m_workspace, &SXWorkspaceScheduler::totalProgressChanged, m_stateView,
+    connect(&scheduler, &SXWorkspaceScheduler::totalProgressChanged, m_stateView,
             &SXItemStateView::updateConverterProgress);
     validateToolbarItems();
 }
@@ -62,9 +62,9 @@ QAction* SXWindowToolbar::add(SXCommand command, const QString& text, const QStr
 }
 
 void SXWindowToolbar::validateToolbarItems() {
-    const int state = m_workspace.enumAppState();
-    const int total = m_workspace.getTotalNeedConvertMusic();
-    const bool selected = m_workspace.isSelectedMusic();
+    const int state = m_store.enumAppState();
+    const int total = m_store.getTotalNeedConvertMusic();
+    const bool selected = m_store.isSelectedMusic();
     for (auto it = m_actions.cbegin(); it != m_actions.cend(); ++it)
         it.value()->setEnabled(sxValidateToolbarCommand(it.key(), state, total, selected));
     const SXToolbarLook look = sxStartToolbarLook(state);

@@ -9,6 +9,7 @@ class QAction;
 class QMainWindow;
 class QToolBar;
 class SXItemStateView;
+class SXContainerStore;
 class SXWorkspaceScheduler;
 
 // The toolbar of a workspace window: Start/Stop, tag editor, file information, preferences,
@@ -17,7 +18,8 @@ class SXWorkspaceScheduler;
 class SXWindowToolbar final : public QObject {
     Q_OBJECT
 public:
-    SXWindowToolbar(QMainWindow& window, SXWorkspaceScheduler& workspace);
+    SXWindowToolbar(QMainWindow& window, const SXContainerStore& store,
+                    SXWorkspaceScheduler& scheduler);
 
     QToolBar* toolBar() const { return m_toolBar; }
     SXItemStateView* stateView() const { return m_stateView; }
@@ -31,7 +33,7 @@ private:
     QAction* add(SXCommand command, const QString& text, const QString& image,
                  const QString& themeIcon);
 
-    SXWorkspaceScheduler& m_workspace;
+    const SXContainerStore& m_store;
     QToolBar* m_toolBar = nullptr;
     SXItemStateView* m_stateView = nullptr;
     QHash<SXCommand, QAction*> m_actions;

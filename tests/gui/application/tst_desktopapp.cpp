@@ -1,5 +1,6 @@
-#include "online/SXPreferences.h"
+#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXSettings.h"
 #include "gui/application/SXDesktopApp.h"
 #include "gui/application/SXMenuHandler.h"
 #include "gui/dialogs/SXFormatChooserDialog.h"
@@ -9,13 +10,12 @@
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
-#include "model/SXDataEngine.h"
-#include "base/SXBundle.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
+#include "online/SXPreferences.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryHome.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWindowRegistry.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -75,19 +75,19 @@ void TestDesktopApp::init() {
 
 void TestDesktopApp::cleanup() {
     m_app.reset();
-    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
 }
 
 void TestDesktopApp::addTone(const QString& name) {
     const QString path = m_media.filePath(name);
     QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
     SXWorkspace& ws = window().workspace();
-    const int before = ws.currentTabItemCount();
-    ws.loadAndParseFiles({path});
-    QCOMPARE(ws.enumAppState(), int(AppStateLoading));
+    const int before = ws.store().currentTabItemCount();
+    ws.addRun().loadAndParseFiles({path});
+    QCOMPARE(ws.store().enumAppState(), int(AppStateLoading));
     // The count grows on the loader's thread; the window hears of it when the run is over.
-    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
-    QCOMPARE(ws.currentTabItemCount(), before + 1);
+    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+    QCOMPARE(ws.store().currentTabItemCount(), before + 1);
 }
 
 void TestDesktopApp::startUpFillsTheDefaultsAndCreatesNoFolder() {
@@ -101,7 +101,7 @@ void TestDesktopApp::startUpFillsTheDefaultsAndCreatesNoFolder() {
     QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
     QVERIFY(!QFileInfo::exists(SXFileLocalManager::getDefaultUpperOutputDir()));
     QVERIFY(window().workspace().isRegistered());
-    QVERIFY(window().workspace().tabLabels().size() >= 1);
+    QVERIFY(window().workspace().store().tabLabels().size() >= 1);
 
     // A stored choice survives the next start-up: defaults only fill what is missing.
     SXSettings::setValue(SXSettingsKey::MaxTask, 2);
@@ -127,7 +127,7 @@ void TestDesktopApp::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
     QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
     QTRY_VERIFY(!question->isVisible());
     QVERIFY(window().isVisible());
-    QCOMPARE(window().workspace().currentTabItemCount(), 1);
+    QCOMPARE(window().workspace().store().currentTabItemCount(), 1);
     QCOMPARE(closing.count(), 0);
 
     window().close();
@@ -136,7 +136,7 @@ void TestDesktopApp::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
     QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
     QTRY_VERIFY(!window().isVisible());
     QCOMPARE(closing.count(), 1);
-    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
+    QCOMPARE(window().workspace().store().getTotalNeedConvertMusic(), 0);
     QVERIFY(!window().workspace().isRegistered());
 }
 
@@ -153,8 +153,8 @@ void TestDesktopApp::newContainerRevivesThePrimaryWindowEmpty() {
     QCOMPARE(&window(), before); // the same window, never a second primary one
     QVERIFY(window().isVisible());
     QVERIFY(window().workspace().isRegistered());
-    QCOMPARE(window().workspace().getTotalNeedConvertMusic(), 0);
-    QVERIFY(!window().workspace().tabLabels().isEmpty());
+    QCOMPARE(window().workspace().store().getTotalNeedConvertMusic(), 0);
+    QVERIFY(!window().workspace().store().tabLabels().isEmpty());
     QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
     QVERIFY(action(SXCommand::Open)->isEnabled());
 
@@ -165,27 +165,29 @@ void TestDesktopApp::newContainerRevivesThePrimaryWindowEmpty() {
 void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
     SXWorkspace& ws = window().workspace();
     QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
-
-    // Empty fixed container: nothing to delete or start, the close item refused.
-    QVERIFY(!action(SXCommand::Delete)->isEnabled());
-    QVERIFY(!action(SXCommand::Start)->isEnabled());
-    QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
-    QCOMPARE(beeps.count(), 0);
-
+    // Which command a state enables is the command table's (tst_windowdecisions); here the
+    // application reads the state off its window and every action, and so its shortcut, obeys.
+    const auto menusFollow = [this](int state, int count) {
+        const SXCommandContext context = m_app->commandContext();
+        QCOMPARE(context.state, state);
+        QCOMPARE(context.count, count);
+        QVERIFY(context.primaryOpen && context.primaryIsKey && context.hasKeyWorkspace);
+        for (int i = 0; i <= int(SXCommand::About); ++i) {
+            const auto command = SXCommand(i);
+            if (QAction* item = action(command))
+                QVERIFY2(item->isEnabled() == sxValidateMenuCommand(command, context).enabled,
+                         qPrintable(item->text()));
+        }
+    };
+    menusFollow(AppStateIdle, 0);
     addTone(QStringLiteral("menu.wav"));
-    QVERIFY(action(SXCommand::Delete)->isEnabled());
-    QVERIFY(action(SXCommand::Start)->isEnabled());
-
-    // A run leaves only Stop among the window's items; shortcuts obey the same rule.
-    ws.setAppState(AppStateConverting);
-    for (SXCommand command : {SXCommand::Open, SXCommand::Delete, SXCommand::Start,
-                              SXCommand::NewFormat, SXCommand::Preferences})
-        QVERIFY2(!action(command)->isEnabled(), qPrintable(action(command)->text()));
-    QVERIFY(action(SXCommand::Stop)->isEnabled());
-    QVERIFY(action(SXCommand::Quit)->isEnabled());
-    ws.setAppState(AppStateIdle);
-    QVERIFY(action(SXCommand::Open)->isEnabled());
+    menusFollow(AppStateIdle, 1);
+    ws.store().setAppState(AppStateConverting);
+    menusFollow(AppStateConverting, 1);
+    ws.store().setAppState(AppStateIdle);
+    menusFollow(AppStateIdle, 1);
     QCOMPARE(beeps.count(), 0);
+    ws.tabs().selectTab(0); // a fixed container, whose close item is off
 
     // Opening a menu validates again, silently, though the fixed container's close item is off.
     QMenu* fileMenu = window().menuBar()->actions().first()->menu();
@@ -200,11 +202,11 @@ void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
 
 void TestDesktopApp::menuCommandsReachTheKeyWindow() {
     SXWorkspace& ws = window().workspace();
-    const int tabs = ws.tabLabels().size();
-    ws.moveTabSelectedTo(-1);
-    const int selected = ws.selectedTabIndex();
+    const int tabs = ws.store().tabLabels().size();
+    ws.tabs().selectNextContainer();
+    const int selected = ws.store().selectedTabIndex();
     action(SXCommand::PreviousContainer)->trigger();
-    QCOMPARE(ws.selectedTabIndex(), (selected - 1 + tabs) % tabs);
+    QCOMPARE(ws.store().selectedTabIndex(), (selected - 1 + tabs) % tabs);
 
     // Help opens the page staged with the resources (installed alike), made from the README.
     {
@@ -274,24 +276,24 @@ void TestDesktopApp::containerKeysCycleTheTabs() {
     QFETCH(int, modifiers);
     QFETCH(int, step);
     SXWorkspace& ws = window().workspace();
-    const int tabs = ws.tabLabels().size();
+    const int tabs = ws.store().tabLabels().size();
     QVERIFY(tabs > 2);
     // From the list, which has the focus in normal use and takes Tab and Page keys itself.
     auto* list = window().findChild<QListView*>(QStringLiteral("itemList"));
     list->setFocus();
     int expected = step > 0 ? 0 : tabs - 1;
-    ws.selectTab(expected);
+    ws.tabs().selectTab(expected);
     QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
     for (int i = 1; i < tabs; ++i) { // from one end to the other
         QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
         expected += step;
-        QCOMPARE(ws.selectedTabIndex(), expected);
+        QCOMPARE(ws.store().selectedTabIndex(), expected);
         QCOMPARE(window().tabBar().currentIndex(), expected);
     }
     QCOMPARE(beeps.count(), 0);
     // Past the end the command is refused, aloud.
     QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(ws.selectedTabIndex(), expected);
+    QCOMPARE(ws.store().selectedTabIndex(), expected);
     QCOMPARE(beeps.count(), 1);
 }
 
@@ -303,7 +305,7 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     };
     addTone(QStringLiteral("keys.wav"));
     SXWorkspace& ws = window().workspace();
-    ws.setSelectedRows({0});
+    ws.store().setSelectedRows({0});
     // The window with its information panel open, then each dialog it opens by key.
     QTest::keyClick(&window(), Qt::Key_I, Qt::ControlModifier);
     noClash(&window());
@@ -323,7 +325,7 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
     QVERIFY(folder);
     noClash(folder);
     folder->reject();
-    QTRY_COMPARE(ws.enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
 
     // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.
     const auto openPreferences = [this] {
@@ -352,4 +354,4 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
 }
 
 SONORIA_GUI_TEST_MAIN(TestDesktopApp)
-#include "tst_appdelegate.moc"
+#include "tst_desktopapp.moc"

@@ -1,11 +1,11 @@
+#include "base/SXSettings.h"
 #include "desktop/SXSingleInstance.h"
 #include "gui/application/SXDesktopApp.h"
 #include "gui/window/SXMainAppController.h"
 #include "model/SXMusicInfo.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -23,7 +23,7 @@ namespace {
 // Paths of the items in the window's selected container, in order.
 QStringList listedPaths(SXWorkspace& workspace) {
     QStringList paths;
-    for (const SXMusicInfoPtr& item : workspace.getCurTableDatasource())
+    for (const SXMusicInfoPtr& item : workspace.store().getCurTableDatasource())
         paths.append(item->strFilePath());
     return paths;
 }
@@ -123,7 +123,7 @@ void TestSingleInstance::secondStartHandsItsFilesToTheFirst() {
 
     QCOMPARE(runProgram({name}, m_media.path()), 0);
     QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), QStringList{m_media.filePath(name)}, 20000);
-    QTRY_COMPARE(workspace().enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
 }
 
 void TestSingleInstance::filesHandedOverDuringALoadFollowIt() {
@@ -134,11 +134,11 @@ void TestSingleInstance::filesHandedOverDuringALoadFollowIt() {
     const QStringList before = listedPaths(workspace());
 
     m_app->openFiles({first});
-    QCOMPARE(workspace().enumAppState(), int(AppStateLoading));
+    QCOMPARE(workspace().store().enumAppState(), int(AppStateLoading));
     m_app->openFiles({second}); // arrives while the first batch is being probed
     const QStringList expected = before + QStringList{first, second};
     QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
-    QTRY_COMPARE(workspace().enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
 }
 
 void TestSingleInstance::openFromTheDesktopTakesLocalFilesOnly() {
@@ -160,7 +160,7 @@ void TestSingleInstance::openFromTheDesktopTakesLocalFilesOnly() {
 
     const QStringList expected = before + QStringList{local};
     QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
-    QTRY_COMPARE(workspace().enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
 }
 
 void TestSingleInstance::secondStartRunsAloneWhenNobodyAnswers_data() {

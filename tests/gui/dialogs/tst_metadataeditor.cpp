@@ -93,13 +93,13 @@ void TestMetadataEditor::initTestCase() {
 void TestMetadataEditor::init() {
     m_presenter = WorkspaceTestPresenter();
     m_workspace = std::make_unique<SXWorkspace>();
-    m_workspace->setPresenter(&m_presenter);
-    m_workspace->addDefaultTabs();
+    m_workspace->store().setPresenter(&m_presenter);
+    m_workspace->tabs().addDefaultTabs();
     m_window = std::make_unique<QWidget>();
     m_window->resize(700, 500);
     m_window->show();
     m_editor = new SXMetadataEditDialog(m_window.get());
-    m_editor->setListener(m_workspace.get());
+    m_editor->setListener(&m_workspace->addRun());
 }
 
 void TestMetadataEditor::cleanup() {
@@ -108,17 +108,17 @@ void TestMetadataEditor::cleanup() {
 }
 
 SXMusicInfoList TestMetadataEditor::addFiles(const QString& container, const QStringList& names) {
-    if (!m_workspace->selectContainer(container))
-        m_workspace->addContainerWithFormat(
+    if (!m_workspace->tabs().selectContainer(container))
+        m_workspace->tabs().addContainerWithFormat(
             SXDataEngine::shareInstance()->getFormatWithName(container));
-    QSignalSpy loaded(m_workspace.get(), &SXWorkspace::loadFinished);
+    QSignalSpy loaded(&m_workspace->addRun(), &SXAddRun::loadFinished);
     QStringList paths;
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
-    m_workspace->loadAndParseFiles(paths);
+    m_workspace->addRun().loadAndParseFiles(paths);
     if (loaded.isEmpty())
         loaded.wait(30000);
-    return m_workspace->getDataForFormat(container);
+    return m_workspace->store().getDataForFormat(container);
 }
 
 void TestMetadataEditor::grab(const QString& name) {
@@ -189,10 +189,10 @@ void TestMetadataEditor::stepsThroughTheShownList() {
     QPushButton* next = m_editor->findChild<QPushButton*>(u"btnNext"_s);
     m_editor->setMusicInfo(rows.at(2));
     QVERIFY(previous->isEnabled() && !next->isEnabled());
-    QCOMPARE(m_workspace->metadataEditorAsksForItem(rows.at(2), 1), nullptr);
+    QCOMPARE(m_workspace->addRun().metadataEditorAsksForItem(rows.at(2), 1), nullptr);
     previous->click();
     QCOMPARE(m_editor->musicInfo(), rows.at(1));
-    QCOMPARE(m_workspace->selectedRows(), QList<int>{1});
+    QCOMPARE(m_workspace->store().selectedRows(), QList<int>{1});
     QCOMPARE(line("tfTitle")->text(), u"Old b.mp3"_s);
     previous->click();
     QVERIFY(!previous->isEnabled() && next->isEnabled());
@@ -313,9 +313,9 @@ void TestMetadataEditor::editsReachTheConvertedFileOnce() {
     m_editor->findChild<QPushButton*>(u"btnOk"_s)->click();
 
     QTemporaryDir out;
-    QSignalSpy finished(m_workspace.get(), &SXWorkspace::itemFinished);
-    QSignalSpy run(m_workspace.get(), &SXWorkspace::runFinished);
-    m_workspace->doRealConverterTask(out.path());
+    QSignalSpy finished(&m_workspace->scheduler(), &SXWorkspaceScheduler::itemFinished);
+    QSignalSpy run(&m_workspace->scheduler(), &SXWorkspaceScheduler::runFinished);
+    m_workspace->scheduler().doRealConverterTask(out.path());
     QVERIFY(run.wait(60000));
     const QString output = finished.value(0).value(1).toString();
     const auto written = MTEAudioFileMgr::createAudioFileWithPath(output, true);

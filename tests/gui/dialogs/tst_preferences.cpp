@@ -1,6 +1,6 @@
-#include "online/SXServiceRequest.h"
-#include "gui/dialogs/SXPreferencesDialog.h"
 #include "base/SXSettings.h"
+#include "gui/dialogs/SXPreferencesDialog.h"
+#include "online/SXServiceRequest.h"
 #include "support/gui/GuiTestSupport.h"
 
 #include <QCheckBox>

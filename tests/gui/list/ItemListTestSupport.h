@@ -23,7 +23,7 @@ inline SXItemListView* listOf(SXMainAppController* window) {
 // A shown, active window with the fixed containers.
 inline std::unique_ptr<SXMainAppController> openWindow() {
     auto window = std::make_unique<SXMainAppController>();
-    window->workspace().addDefaultTabs();
+    window->workspace().tabs().addDefaultTabs();
     window->resize(900, 560);
     window->show();
     window->activateWindow();
@@ -80,7 +80,7 @@ inline bool dragAndDrop(QWidget* target, const QPoint& pos, const QMimeData* dat
 // Drops files and folders on the list's free space and waits for the add run to end.
 inline bool dropFilesOnList(SXMainAppController* window, const QStringList& paths) {
     SXItemListView* view = listOf(window);
-    QSignalSpy finished(&window->workspace(), &SXWorkspace::loadFinished);
+    QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
     const std::unique_ptr<QMimeData> data(uriList(localUrls(paths)));
     const QPoint free(10, view->viewport()->height() - 2);
     if (!dragAndDrop(view->viewport(), free, data.get()) ||

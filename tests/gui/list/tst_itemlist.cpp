@@ -1,11 +1,11 @@
 #include "ItemListTestSupport.h"
 
+#include "base/SXSettings.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/panels/SXHelpView.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXWindowPresenter.h"
-#include "base/SXSettings.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -67,7 +67,7 @@ void TestItemList::init() {
 }
 
 int TestItemList::tabCount(SXMainAppController* window, const QString& label) {
-    const QStringList labels = window->workspace().tabLabels();
+    const QStringList labels = window->workspace().store().tabLabels();
     const QString name = window->tabBar().accessibleTabName(int(labels.indexOf(label)));
     return name.section(u", "_s, 1).section(u' ', 0, 0).toInt();
 }
@@ -81,7 +81,7 @@ void TestItemList::droppedFilesAndFoldersBecomeRows() {
 
     // A file, a folder (scanned for accepted extensions, "vob" included), a "vob" file named on
     // its own (ignored while the preference is off) and a remote address (refused aloud).
-    QSignalSpy finished(&window->workspace(), &SXWorkspace::loadFinished);
+    QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
     const std::unique_ptr<QMimeData> data(
         uriList(localUrls({path(u"a.mp3"_s), path(u"folder"_s), path(u"f.VOB"_s)}) +
                 QList<QUrl>{QUrl(u"https://example.org/x.mp3"_s)}));
@@ -103,7 +103,7 @@ void TestItemList::droppedFilesAndFoldersBecomeRows() {
     for (int i = 0; i < list->childCount(); ++i)
         spoken.append(list->child(i)->text(QAccessible::Name));
     QCOMPARE(spoken, rowNames(view));
-    QCOMPARE(window->workspace().selectedRows(), QList<int>{0});
+    QCOMPARE(window->workspace().store().selectedRows(), QList<int>{0});
     QCOMPARE(tabCount(window.get(), u"MP3"_s), 3);
     auto* help = window->findChild<SXHelpView*>();
     QVERIFY(help->tipsStr().startsWith(u"3 files"_s));
@@ -146,13 +146,13 @@ void TestItemList::failedFilesAreNamedInOneAlert() {
     QCOMPARE(alert->informativeText(), expected.join(u'\n') + u"\n..."_s);
     QVERIFY(SonoriaGuiTest::clickMessageButton(alert, u"OK"_s));
     QCOMPARE(rowNames(listOf(window.get())), QStringList{u"c.flac"_s});
-    QCOMPARE(window->workspace().enumAppState(), int(AppStateIdle));
+    QCOMPARE(window->workspace().store().enumAppState(), int(AppStateIdle));
 }
 
 void TestItemList::addDialogTakesFilesAndFoldersTogether() {
     const auto window = openWindow();
     QVERIFY(window);
-    QSignalSpy finished(&window->workspace(), &SXWorkspace::loadFinished);
+    QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
     QTest::mouseClick(window->findChild<QPushButton*>(u"btnAddFile"_s), Qt::LeftButton);
     auto* dialog = SonoriaGuiTest::openDialog<SXAddFilesDialog>(window.get());
     QVERIFY(dialog);
@@ -172,18 +172,18 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
     const auto window = openWindow();
     QVERIFY(window);
     SXWorkspace& workspace = window->workspace();
-    QSignalSpy finished(&workspace, &SXWorkspace::loadFinished);
+    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
     QStringList seen;
     SXLoadingSheet* sheet = window->findChild<SXLoadingSheet*>();
     int stateWhileShown = -1;
     QStringList sheetProblems;
-    connect(&workspace, &SXWorkspace::loadStarted, this,
+    connect(&workspace.addRun(), &SXAddRun::loadStarted, this,
             [&] { seen.append(sheet->progressText()); });
     QMetaObject::Connection clickCancel;
-    clickCancel = connect(&workspace, &SXWorkspace::loadProgressText, this, [&] {
+    clickCancel = connect(&workspace.addRun(), &SXAddRun::loadProgressText, this, [&] {
         disconnect(clickCancel);
         seen.append(sheet->progressText());
-        stateWhileShown = sheet->isVisible() ? workspace.enumAppState() : -1;
+        stateWhileShown = sheet->isVisible() ? workspace.store().enumAppState() : -1;
         sheetProblems = SonoriaGuiTest::accessibilityProblems(sheet);
         SonoriaGuiTest::grab(sheet, u"loading-sheet"_s);
         QTest::mouseClick(sheet->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
@@ -198,8 +198,8 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
     QCOMPARE(stateWhileShown, int(AppStateLoading));
     QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
     QCOMPARE(sheet->windowModality(), Qt::WindowModal);
-    QCOMPARE(workspace.currentTabItemCount(), 0);
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
+    QCOMPARE(workspace.store().currentTabItemCount(), 0);
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
     QVERIFY(!SonoriaGuiTest::openDialog<QMessageBox>(window.get()));
 }
 
@@ -221,16 +221,16 @@ void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
     QCOMPARE(view->model()->supportedDragActions(), Qt::CopyAction);
     QVERIFY(dragAndDrop(view->viewport(), pointBeforeRow(view, 3), rows.get()));
     QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"a.mp3"_s, u"b.wav"_s}));
-    QCOMPARE(first->workspace().selectedRows(), (QList<int>{1, 2}));
+    QCOMPARE(first->workspace().store().selectedRows(), (QList<int>{1, 2}));
 
     // Onto another container's tab: appended there, waiting, and gone from the source
     // container of every window.
     rows = dragRows(view, {1});
     const QRect aac =
-        first->tabBar().tabRect(int(first->workspace().tabLabels().indexOf(u"AAC"_s)));
+        first->tabBar().tabRect(int(first->workspace().store().tabLabels().indexOf(u"AAC"_s)));
     QVERIFY(dragAndDrop(&first->tabBar(), aac.center(), rows.get()));
     QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"b.wav"_s}));
-    const SXMusicInfoList moved = first->workspace().getDataForFormat(u"AAC"_s);
+    const SXMusicInfoList moved = first->workspace().store().getDataForFormat(u"AAC"_s);
     QCOMPARE(moved.size(), 1);
     QCOMPARE(moved.first()->getStrMusicType(), u"AAC"_s);
     QCOMPARE(moved.first()->dConvertProgress(), SXProgress::Waiting);
@@ -239,15 +239,16 @@ void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
     QCOMPARE(tabCount(first.get(), u"AAC"_s), 1);
 
     // Into the list of another window showing another container.
-    QTest::mouseClick(
-        &second->tabBar(), Qt::LeftButton, {},
-        second->tabBar().tabRect(int(second->workspace().tabLabels().indexOf(u"AAC"_s))).center());
-    QCOMPARE(second->workspace().getSelectedMusicFormat(), u"AAC"_s);
+    QTest::mouseClick(&second->tabBar(), Qt::LeftButton, {},
+                      second->tabBar()
+                          .tabRect(int(second->workspace().store().tabLabels().indexOf(u"AAC"_s)))
+                          .center());
+    QCOMPARE(second->workspace().store().getSelectedMusicFormat(), u"AAC"_s);
     rows = dragRows(view, {1});
     QVERIFY(dragAndDrop(other->viewport(), pointBeforeRow(other, 0), rows.get()));
     QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
     QCOMPARE(rowNames(view), QStringList{u"c.flac"_s});
-    QVERIFY(second->workspace().getDataForFormat(u"MP3"_s).isEmpty());
+    QVERIFY(second->workspace().store().getDataForFormat(u"MP3"_s).isEmpty());
     QCOMPARE(tabCount(second.get(), u"AAC"_s), 1);
     QCOMPARE(tabCount(second.get(), u"MP3"_s), 0);
     QVERIFY(first->findChild<SXHelpView*>()->tipsStr().startsWith(u"2 files"_s));
@@ -260,7 +261,7 @@ void TestItemList::dropsAreRefusedDuringARun() {
     SXItemListView* view = listOf(window.get());
     const std::unique_ptr<QMimeData> rows = dragRows(view, {0});
     const std::unique_ptr<QMimeData> files(uriList(localUrls({path(u"c.flac"_s)})));
-    window->workspace().setAppState(AppStateConverting);
+    window->workspace().store().setAppState(AppStateConverting);
 
     QVERIFY(!dragRows(view, {1}));
     QVERIFY(!dragAndDrop(view->viewport(), pointBeforeRow(view, 2), rows.get()));
@@ -270,13 +271,16 @@ void TestItemList::dropsAreRefusedDuringARun() {
     QVERIFY(!dragAndDrop(&window->tabBar(), aac.center(), rows.get()));
     // The list's own keys remove nothing either.
     QSignalSpy beeps(&window->presenter(), &SXWindowPresenter::beeped);
-    window->workspace().setSelectedRows({0, 1});
+    window->workspace().store().setSelectedRows({0, 1});
     view->setFocus();
     QTest::keyClick(view, Qt::Key_Delete);
     QTest::keyClick(view, Qt::Key_Backspace);
     QCOMPARE(beeps.count(), 2);
     QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
-    QVERIFY(window->workspace().getDataForFormat(window->workspace().tabLabels().at(1)).isEmpty());
+    QVERIFY(window->workspace()
+                .store()
+                .getDataForFormat(window->workspace().store().tabLabels().at(1))
+                .isEmpty());
 
     // A move in another window takes the file out of every container of its name, but not out
     // of a window whose items are converting.
@@ -285,12 +289,12 @@ void TestItemList::dropsAreRefusedDuringARun() {
     QVERIFY(dropFilesOnList(other.get(), {path(u"a.mp3"_s)}));
     const std::unique_ptr<QMimeData> moved = dragRows(listOf(other.get()), {0});
     const QRect otherAac =
-        other->tabBar().tabRect(int(other->workspace().tabLabels().indexOf(u"AAC"_s)));
+        other->tabBar().tabRect(int(other->workspace().store().tabLabels().indexOf(u"AAC"_s)));
     QVERIFY(dragAndDrop(&other->tabBar(), otherAac.center(), moved.get()));
-    QCOMPARE(other->workspace().getDataForFormat(u"AAC"_s).size(), 1);
-    QVERIFY(other->workspace().getDataForFormat(u"MP3"_s).isEmpty());
+    QCOMPARE(other->workspace().store().getDataForFormat(u"AAC"_s).size(), 1);
+    QVERIFY(other->workspace().store().getDataForFormat(u"MP3"_s).isEmpty());
     QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
-    window->workspace().setAppState(AppStateIdle);
+    window->workspace().store().setAppState(AppStateIdle);
 }
 
 SONORIA_GUI_TEST_MAIN(TestItemList)

@@ -60,26 +60,26 @@ void TestPreviewWindow::initTestCase() {
 
 void TestPreviewWindow::init() {
     m_window = std::make_unique<SXMainAppController>();
-    m_window->workspace().setPresenter(&m_presenter);
-    m_window->workspace().addDefaultTabs();
+    m_window->workspace().store().setPresenter(&m_presenter);
+    m_window->workspace().tabs().addDefaultTabs();
     m_window->show();
 }
 
 void TestPreviewWindow::cleanup() {
-    m_window->workspace().stopPlayerWithRefreshUI();
+    m_window->workspace().preview().stopPlayerWithRefreshUI();
     m_window.reset();
 }
 
 SXMusicInfoList TestPreviewWindow::addFiles(const QStringList& names) {
     SXWorkspace& workspace = m_window->workspace();
-    QSignalSpy loaded(&workspace, &SXWorkspace::loadFinished);
+    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
     QStringList paths;
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
-    workspace.loadAndParseFiles(paths);
+    workspace.addRun().loadAndParseFiles(paths);
     if (loaded.isEmpty())
         loaded.wait(30000);
-    return workspace.getCurTableDatasource();
+    return workspace.store().getCurTableDatasource();
 }
 
 void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
@@ -96,10 +96,10 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
 
     SXWorkspace& workspace = m_window->workspace();
     auto* panel = m_window->findChild<SXFileInfoViewController*>();
-    workspace.setSelectedRows({0, 1});
+    workspace.store().setSelectedRows({0, 1});
     m_window->perform(SXCommand::FileInfo);
     QVERIFY(panel->isVisible());
-    QCOMPARE(workspace.selectedRows(), QList<int>{0}); // only the first row stays selected
+    QCOMPARE(workspace.store().selectedRows(), QList<int>{0}); // only the first row stays selected
     QCOMPARE(panel->labelText(u"tfInfoTitle"_s), u"Morning"_s);
     QCOMPARE(panel->labelText(u"tfInfoArtist"_s), u"Ann"_s);
     QVERIFY(!panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
@@ -111,7 +111,7 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
 
-    workspace.setSelectedRows({1}); // it follows the selection
+    workspace.store().setSelectedRows({1}); // it follows the selection
     const QList<QPair<QString, QString>> fallbacks{
         {u"tfInfoAlbum"_s, u"Unknow"_s},        {u"tfInfoArtist"_s, u"Unknow"_s},
         {u"tfInfoChannels"_s, u"5.1"_s},        {u"tfInfoChannelsMod"_s, u"6"_s},
@@ -121,9 +121,9 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
         QCOMPARE(panel->labelText(label), text);
     QVERIFY(panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
 
-    workspace.setAppState(AppStateConverting); // its toolbar item is disabled: it closes
+    workspace.store().setAppState(AppStateConverting); // its toolbar item is disabled: it closes
     QVERIFY(!panel->isVisible());
-    workspace.setAppState(AppStateIdle);
+    workspace.store().setAppState(AppStateIdle);
     m_window->perform(SXCommand::FileInfo);
     m_window->perform(SXCommand::FileInfo); // a second click closes it
     QVERIFY(!panel->isVisible());
@@ -134,12 +134,12 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
         QSKIP(qPrintable(m_noSound));
     addFiles({u"tagged.mp3"_s});
     SXWorkspace& workspace = m_window->workspace();
-    workspace.setSelectedRows({0});
-    QSignalSpy progress(&workspace, &SXWorkspace::previewProgress);
+    workspace.store().setSelectedRows({0});
+    QSignalSpy progress(&workspace.preview(), &SXWorkspacePreview::previewProgress);
     auto* list = m_window->findChild<SXItemListView*>();
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Space);
-    QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStatePlaying));
     QVERIFY(progress.wait(5000) && progress.wait(5000));
 
     SXItemStateView* strip = m_window->toolbar().stateView();
@@ -157,12 +157,12 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     QVERIFY2(at > 70 && at < 80, qPrintable(QString::number(at)));
 
     strip->findChild<QToolButton*>(u"btnPause"_s)->click();
-    QVERIFY(workspace.isPreviewPaused());
+    QVERIFY(workspace.preview().isPreviewPaused());
     QTest::keyClick(m_window.get(), Qt::Key_Space, Qt::ShiftModifier);
-    QVERIFY(!workspace.isPreviewPaused());
+    QVERIFY(!workspace.preview().isPreviewPaused());
     QTest::keyClick(list, Qt::Key_Space); // Space again stops it
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
-    QVERIFY(!workspace.isPlayingMusic(workspace.getCurTableDatasource().first()));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
+    QVERIFY(!workspace.preview().isPlayingMusic(workspace.store().getCurTableDatasource().first()));
 }
 
 void TestPreviewWindow::rowGesturesPlayAndStopButNeverDuringARun() {
@@ -185,23 +185,24 @@ void TestPreviewWindow::rowGesturesPlayAndStopButNeverDuringARun() {
     };
 
     doubleClick(centre(1));
-    QCOMPARE(workspace.enumAppState(), int(AppStatePlaying));
-    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStatePlaying));
+    QVERIFY(workspace.preview().isPlayingMusic(rows.at(1)));
     doubleClick(centre(1)); // a double-click never stops the row it plays
-    QVERIFY(workspace.isPlayingMusic(rows.at(1)));
+    QVERIFY(workspace.preview().isPlayingMusic(rows.at(1)));
     QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(1)); // its button does
-    QCOMPARE(workspace.enumAppState(), int(AppStateIdle));
-    QVERIFY(!workspace.isPlayingMusic(rows.at(1)));
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
+    QVERIFY(!workspace.preview().isPlayingMusic(rows.at(1)));
     QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
-    QVERIFY(workspace.isPlayingMusic(rows.at(0)));
+    QVERIFY(workspace.preview().isPlayingMusic(rows.at(0)));
 
-    workspace.stopPlayerWithRefreshUI();
-    workspace.setAppState(AppStateConverting);
+    workspace.preview().stopPlayerWithRefreshUI();
+    workspace.store().setAppState(AppStateConverting);
     doubleClick(centre(1));
     QTest::mouseClick(viewport, Qt::LeftButton, {}, playButton(0));
-    QCOMPARE(workspace.enumAppState(), int(AppStateConverting));
-    QVERIFY(!workspace.isPlayingMusic(rows.at(0)) && !workspace.isPlayingMusic(rows.at(1)));
-    workspace.setAppState(AppStateIdle);
+    QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
+    QVERIFY(!workspace.preview().isPlayingMusic(rows.at(0)) &&
+            !workspace.preview().isPlayingMusic(rows.at(1)));
+    workspace.store().setAppState(AppStateIdle);
 }
 
 SONORIA_GUI_TEST_MAIN(TestPreviewWindow)

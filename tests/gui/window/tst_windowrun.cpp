@@ -1,14 +1,14 @@
+#include "base/SXSettings.h"
 #include "gui/dialogs/SXOutputFolderDialog.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "gui/window/SXWindowToolbar.h"
-#include "model/SXDataEngine.h"
-#include "base/SXSettings.h"
-#include "workspace/SXWorkspace.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWindowRegistry.h"
+#include "workspace/SXWorkspace.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -104,14 +104,14 @@ void TestWindowRun::init() {
     SXSettings::setValue(SXSettingsKey::MaxTask, 2);
     m_window = std::make_unique<SXMainAppController>();
     m_window->show();
-    m_window->workspace().addDefaultTabs();
+    m_window->workspace().tabs().addDefaultTabs();
     m_window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
 }
 
 void TestWindowRun::cleanup() {
     m_window.reset();
-    QVERIFY(SXDataEngine::shareInstance()->registeredWindows().isEmpty());
+    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
 }
 
 void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
@@ -121,9 +121,9 @@ void TestWindowRun::addSources(const QStringList& names, double seconds, const Q
         QVERIFY(SonoriaTest::makeTone(paths.last(), seconds, extra));
     }
     SXWorkspace& ws = m_window->workspace();
-    ws.loadAndParseFiles(paths);
-    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 20000);
-    QCOMPARE(ws.currentTabItemCount(), names.size());
+    ws.addRun().loadAndParseFiles(paths);
+    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 20000);
+    QCOMPARE(ws.store().currentTabItemCount(), names.size());
 }
 
 QAction* TestWindowRun::startAction() const {
@@ -154,7 +154,7 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     auto* organise = sheet->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
     QVERIFY(organise->isChecked()); // on unless the user turned it off
     sheet->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateConverting));
+    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
 }
 
 QStringList TestWindowRun::filesUnder(const QString& folder) {
@@ -199,7 +199,7 @@ void TestWindowRun::runFromStartToTheSummary() {
     grab(m_window.get(), QStringLiteral("run-summary-window"));
     grab(summary, QStringLiteral("run-summary"));
     QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
     QCOMPARE(startAction()->text(), QStringLiteral("Start"));
     QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
 
@@ -246,16 +246,16 @@ void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
     QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
     QTest::keyClick(m_window->findChild<SXItemListView*>(), Qt::Key_Enter);
     QCOMPARE(beeps.count(), 1);
-    QCOMPARE(m_window->workspace().enumAppState(), int(AppStateConverting));
+    QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
     startAction()->trigger(); // it reads Stop now
-    for (const SXMusicInfoPtr& item : m_window->workspace().getCurTableDatasource())
+    for (const SXMusicInfoPtr& item : m_window->workspace().store().getCurTableDatasource())
         QCOMPARE(item->dConvertProgress(), -3.0);
 
     QMessageBox* summary = nullptr;
     QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
     QCOMPARE(summary->text(), QStringLiteral("0 files has been successfully converted."));
     QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
     QCOMPARE(filesUnder(m_output->path()), QStringList());
     QVERIFY(m_window->tabBar().addButton()->isVisible());
 }
@@ -267,7 +267,7 @@ void TestWindowRun::nothingLeavesTheListDuringARun() {
     auto* list = m_window->findChild<SXItemListView*>();
     auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
     auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
-    ws.setSelectedRows({0, 1});
+    ws.store().setSelectedRows({0, 1});
     startInto(m_output->path());
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
 
@@ -280,18 +280,18 @@ void TestWindowRun::nothingLeavesTheListDuringARun() {
     QTest::mouseClick(remove, Qt::LeftButton);
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(list->model()->rowCount(), 2);
-    QCOMPARE(ws.currentTabItemCount(), 2);
-    QCOMPARE(ws.queueConvertTask()->operationCount(), 2);
+    QCOMPARE(ws.store().currentTabItemCount(), 2);
+    QCOMPARE(ws.scheduler().queueConvertTask()->operationCount(), 2);
 
     // Stop still reaches both children, and the summary comes with both rows in place.
     startAction()->trigger();
     QMessageBox* summary = nullptr;
     QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
     QCOMPARE(list->model()->rowCount(), 2);
-    for (const SXMusicInfoPtr& item : ws.getCurTableDatasource())
+    for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
         QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(ws.enumAppState(), int(AppStateIdle));
+    QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
     QCOMPARE(filesUnder(m_output->path()), QStringList());
     QVERIFY(remove->isEnabled() && clear->isEnabled());
     QTest::mouseClick(clear, Qt::LeftButton);
@@ -311,7 +311,7 @@ void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
     QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
     QTRY_VERIFY(!m_window->isVisible());
     // The children were waited for: nothing half-written is left, and no summary follows.
-    QCOMPARE(m_window->workspace().enumAppState(), int(AppStateIdle));
+    QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
     QCOMPARE(filesUnder(m_output->path()), QStringList());
     QTest::qWait(600);
     QVERIFY(!m_window->findChild<QMessageBox*>());

@@ -1,12 +1,12 @@
-#include "online/SXPreferences.h"
 #include "gui/dialogs/SXFormatChooserDialog.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "model/SXDataEngine.h"
+#include "online/SXPreferences.h"
+#include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
-#include "support/gui/GuiTestSupport.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -56,7 +56,7 @@ private:
 void TestWorkspaceWindow::init() {
     m_window = std::make_unique<SXMainAppController>();
     m_window->show();
-    m_window->workspace().addDefaultTabs();
+    m_window->workspace().tabs().addDefaultTabs();
     QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
 
@@ -82,7 +82,7 @@ SXFormatChooserDialog* TestWorkspaceWindow::openChooser() {
 
 void TestWorkspaceWindow::tabsShowContainersAndCloseOnlyWhereAllowed() {
     SXContainerTabBar& tabs = m_window->tabBar();
-    QCOMPARE(tabs.count(), m_window->workspace().tabLabels().size());
+    QCOMPARE(tabs.count(), m_window->workspace().store().tabLabels().size());
     const int mp3 = tabIndex(QStringLiteral("MP3"));
     QVERIFY(mp3 >= 0);
     QCOMPARE(tabs.tabToolTip(mp3),
@@ -94,7 +94,7 @@ void TestWorkspaceWindow::tabsShowContainersAndCloseOnlyWhereAllowed() {
     }
 
     // A container added by the user closes by its button; the tab next to it takes over.
-    m_window->workspace().addContainerWithFormat(
+    m_window->workspace().tabs().addContainerWithFormat(
         SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("FLAC")));
     const int flac = tabIndex(QStringLiteral("FLAC"));
     QVERIFY(flac >= 0);
@@ -103,13 +103,13 @@ void TestWorkspaceWindow::tabsShowContainersAndCloseOnlyWhereAllowed() {
     QVERIFY(close && close->isVisible());
     close->click();
     QCOMPARE(tabIndex(QStringLiteral("FLAC")), -1);
-    QVERIFY(!m_window->workspace().tabLabels().contains(QStringLiteral("FLAC")));
-    QCOMPARE(tabs.currentIndex(), m_window->workspace().selectedTabIndex());
+    QVERIFY(!m_window->workspace().store().tabLabels().contains(QStringLiteral("FLAC")));
+    QCOMPARE(tabs.currentIndex(), m_window->workspace().store().selectedTabIndex());
 
     // Keyboard: Ctrl+W on a fixed container leaves it alone and beeps.
     QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
     tabs.setCurrentIndex(mp3);
-    QVERIFY(!m_window->workspace().closeTab());
+    QVERIFY(!m_window->workspace().tabs().closeTab());
     QCOMPARE(beeps.count(), 1);
     QCOMPARE(tabs.tabText(mp3), QStringLiteral("MP3"));
 }
@@ -156,9 +156,9 @@ void TestWorkspaceWindow::chooserAddsTheChosenContainerAndCancelAddsNothing() {
 
 void TestWorkspaceWindow::chooserIsReplacedByAnAlertWhenEveryFormatIsOpen() {
     SXWorkspace& ws = m_window->workspace();
-    for (const SXFormatSettingPtr& setting : ws.formatsWithoutContainer())
-        ws.addContainerWithFormat(setting);
-    QVERIFY(ws.formatsWithoutContainer().isEmpty());
+    for (const SXFormatSettingPtr& setting : ws.tabs().formatsWithoutContainer())
+        ws.tabs().addContainerWithFormat(setting);
+    QVERIFY(ws.tabs().formatsWithoutContainer().isEmpty());
     QTest::mouseClick(m_window->tabBar().addButton(), Qt::LeftButton);
     QMessageBox* alert = openDialog<QMessageBox>(m_window.get());
     QVERIFY(alert);
@@ -178,7 +178,7 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     auto* library = child<QCheckBox>("btnAddToLibrary");
 
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
-    const SXFormatSettingPtr mp3 = ws.getSelectedTabFormatSetting();
+    const SXFormatSettingPtr mp3 = ws.store().getSelectedTabFormatSetting();
     QCOMPARE(bitRate->currentText(), mp3->bitRate());
     QVERIFY(library->isVisible());
 
@@ -192,7 +192,7 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
 
     // A format without a library option hides the box; going back shows the edited values.
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("Ringtone")));
-    QCOMPARE(ws.getSelectedTabFormatSetting()->enumAddToLibrary(), -1);
+    QCOMPARE(ws.store().getSelectedTabFormatSetting()->enumAddToLibrary(), -1);
     QVERIFY(!library->isVisible());
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     QVERIFY(library->isVisible());
@@ -223,11 +223,11 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
 
     const QString path = m_media.filePath(QStringLiteral("tone.wav"));
     QVERIFY(SonoriaTest::makeTone(path));
-    ws.loadAndParseFiles({path});
-    QTRY_COMPARE_WITH_TIMEOUT(ws.enumAppState(), int(AppStateIdle), 10000);
-    QCOMPARE(ws.currentTabItemCount(), 1);
+    ws.addRun().loadAndParseFiles({path});
+    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+    QCOMPARE(ws.store().currentTabItemCount(), 1);
     QVERIFY(remove->isEnabled() && clear->isEnabled());
-    const QString text = SXWorkspaceTexts::helpBarText(ws);
+    const QString text = SXWorkspaceTexts::helpBarText(ws.store());
     QVERIFY(text.startsWith(QStringLiteral("1 file")));
     QCOMPARE(help->text(), text);
     const int selected = m_window->tabBar().currentIndex();
@@ -236,7 +236,7 @@ void TestWorkspaceWindow::helpBarBadgesAndFileButtonsFollowTheItems() {
     QVERIFY(!inked(list->viewport()->grab().toImage())); // one row, no hint
 
     QTest::mouseClick(clear, Qt::LeftButton);
-    QCOMPARE(ws.currentTabItemCount(), 0);
+    QCOMPARE(ws.store().currentTabItemCount(), 0);
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
     QVERIFY(!m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
 }
@@ -251,9 +251,9 @@ void TestWorkspaceWindow::tabBadgesMakeRoomForTheirCounts() {
     QFETCH(int, count);
     SXWorkspace& ws = m_window->workspace();
     SXContainerTabBar& tabs = m_window->tabBar();
-    const QStringList labels = ws.tabLabels();
+    const QStringList labels = ws.store().tabLabels();
     // The counts as the workspace reports them: from one digit to four, the tab grows.
-    Q_EMIT ws.tabCountsChanged(labels, QList<int>(labels.size(), count));
+    Q_EMIT ws.store().tabCountsChanged(labels, QList<int>(labels.size(), count));
     grab(&tabs, QStringLiteral("tabs-%1").arg(count));
     for (int i = 0; i < tabs.count(); ++i) {
         QWidget* badge = tabs.tabButton(i, QTabBar::LeftSide);
@@ -282,19 +282,19 @@ void TestWorkspaceWindow::tabBadgesMakeRoomForTheirCounts() {
 
 void TestWorkspaceWindow::runLocksTabsAndPanel() {
     SXWorkspace& ws = m_window->workspace();
-    ws.addContainerWithFormat(
+    ws.tabs().addContainerWithFormat(
         SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("Opus")));
     const int opus = tabIndex(QStringLiteral("Opus"));
-    ws.setAppState(AppStateConverting);
+    ws.store().setAppState(AppStateConverting);
     QVERIFY(!m_window->tabBar().addButton()->isVisible());
     QVERIFY(!m_window->tabBar().tabButton(opus, QTabBar::RightSide)->isVisible());
     QVERIFY(!child<QComboBox>("popBitRate")->isEnabled());
     QVERIFY(!child<QPushButton>("btnAddFile")->isEnabled());
-    QVERIFY(!ws.closeTab());
+    QVERIFY(!ws.tabs().closeTab());
     QVERIFY(tabIndex(QStringLiteral("Opus")) >= 0);
     grab(m_window.get(), QStringLiteral("window-converting"));
 
-    ws.setAppState(AppStateIdle);
+    ws.store().setAppState(AppStateIdle);
     QVERIFY(m_window->tabBar().addButton()->isVisible());
     QVERIFY(m_window->tabBar().tabButton(opus, QTabBar::RightSide)->isVisible());
     QVERIFY(child<QComboBox>("popBitRate")->isEnabled());

@@ -21,7 +21,10 @@ namespace SonoriaGuiTest {
 void prepareGuiEnvironment() {
     SonoriaTest::prepareEnvironment();
     qputenv("SONORIA_NO_DESKTOP_OPEN", "1");
-    qputenv("QT_QPA_PLATFORM", "offscreen");
+    // Headless by default; SONORIA_TEST_PLATFORM=xcb (under Xvfb) sends the same key and mouse
+    // events through a real X server.
+    qputenv("QT_QPA_PLATFORM",
+            qEnvironmentVariable("SONORIA_TEST_PLATFORM", QStringLiteral("offscreen")).toUtf8());
 }
 
 QStringList messageTexts(QMessageBox* box) {

@@ -1,6 +1,8 @@
 #include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 
+#include "engine/ConvertCommandLine.h"
+#include "engine/ConvertJob.h"
 #include "model/SXDataEngine.h"
 
 #include <QFileInfo>
@@ -20,27 +22,23 @@ struct Conversion {
     double expectedRate = 0;
 };
 
-// The conversion's command line (as ConvertCommandLine::arguments writes it), derived from a
-// container's choices and a probed source by the scheduling rules: "Use Source" keeps the
-// source's value, "Stereo" is 2 channels and any other channel text 1, any other text is read as
-// a number, and above 192 kbit/s the channel count is forced to 2.
+// The conversion's own command line for a container's choices and a probed source; the output
+// must have the channels and the rate it asks for.
 Conversion conversionCommand(const SXFormatSetting& format, const QString& source,
                              const ProbeReference& src, const QString& outFile) {
-    const double kbps =
-        format.bitRate() == kUseSource ? src.bitRate / 1000 : format.bitRate().toDouble();
-    const double rate =
-        format.sampleRate() == kUseSource ? src.sampleRate : format.sampleRate().toDouble();
-    int channels = format.channels() == kUseSource                ? src.channels
-                   : format.channels() == QLatin1String("Stereo") ? 2
-                                                                  : 1;
-    if (kbps > 192.0)
-        channels = 2;
-    const QStringList arguments{"ffmpeg", "-i", source, "-vn", "-acodec", format.decodecName()};
-    return {QString(),
-            arguments + QStringList{"-ar", QString::asprintf("%0.2f", rate), "-b:a",
-                                    QString::asprintf("%0.2fk", kbps), "-ac",
-                                    QString::number(channels), "-y", outFile},
-            channels, rate};
+    ConvertJob job;
+    job.sourcePath = source;
+    job.sourceBitRate = src.bitRate;
+    job.sourceSampleRate = src.sampleRate;
+    job.sourceChannels = src.channels;
+    job.choices = format.choices();
+    job.encoder = format.decodecName();
+    const QStringList arguments =
+        ConvertCommandLine::arguments(QStringLiteral("ffmpeg"), job, outFile);
+    auto asked = [&arguments](const char* option) {
+        return arguments.value(arguments.indexOf(QLatin1String(option)) + 1).toDouble();
+    };
+    return {QString(), arguments, int(asked("-ac")), asked("-ar")};
 }
 
 // One container setting per offered choice: the defaults, then each list varied on its own.

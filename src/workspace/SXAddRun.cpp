@@ -1,19 +1,15 @@
-#include "workspace/SXWorkspaceFileLists.h"
+#include "workspace/SXAddRun.h"
 
-#include "base/FileHelper.h"
-#include "base/SXAppIdentity.h"
 #include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
-#include "base/SXSystemInfo.h"
-#include "base/SXTimeText.h"
 #include "workspace/SXFailureTexts.h"
+#include "workspace/SXWorkspacePreview.h"
 #include "workspace/SXWorkspaceTexts.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
-#include <QMutexLocker>
 #include <cerrno>
 #include <cstdio>
 #include <sys/stat.h>
@@ -35,14 +31,15 @@ QString describeItems(const SXMusicInfoList& items) {
 // bytes replaced (U+FFFD), so it names no file: saying that is more use than "No such file".
 QString missingPathReason(const QString& path, int error) {
     if (error == ENOENT && path.contains(QChar::ReplacementCharacter))
-        return QCoreApplication::translate("SXWorkspaceFileLists",
-                                           "The file name is not valid UTF-8");
+        return QCoreApplication::translate("SXAddRun", "The file name is not valid UTF-8");
     return QString::fromStdString(std::generic_category().message(error));
 }
 } // namespace
 
-SXWorkspaceFileLists::SXWorkspaceFileLists(QObject* parent)
-    : SXWorkspaceContainers(parent)
+SXAddRun::SXAddRun(SXContainerStore& store, SXWorkspacePreview& preview, QObject* parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_preview(preview)
     , m_loadProgress(
           *this, [this](const std::optional<QString>& text, const std::optional<double>& value) {
               if (text)
@@ -51,7 +48,7 @@ SXWorkspaceFileLists::SXWorkspaceFileLists(QObject* parent)
                   Q_EMIT loadProgressValue(*value);
           }) {}
 
-SXWorkspaceFileLists::~SXWorkspaceFileLists() {
+SXAddRun::~SXAddRun() {
     // A worker that still runs must not report to a workspace that is gone.
     if (m_mediaLoader) {
         m_mediaLoader->setListener(nullptr);
@@ -62,12 +59,12 @@ SXWorkspaceFileLists::~SXWorkspaceFileLists() {
 
 // --- Adding ---
 
-void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
-    stopPlayerWithRefreshUI();
+void SXAddRun::loadAndParseFiles(const QStringList& paths) {
+    m_preview.stopPlayerWithRefreshUI();
     m_loadProgress.clear();
     Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
     Q_EMIT loadProgressValue(0.0);
-    setAppState(AppStateLoading);
+    m_store.setAppState(AppStateLoading);
 
     if (m_mediaLoader)
         m_mediaLoader->setListener(nullptr);
@@ -77,8 +74,8 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     // Scanning folders and making the items of a large drop takes a while: the batch is made
     // on a thread of its own from what the container holds now, then handed to the loader.
     // The thread keeps only the loader and the values it was given.
-    const QString container = getSelectedMusicFormat();
-    const SXMusicInfoList current = getCurTableDatasource();
+    const QString container = m_store.getSelectedMusicFormat();
+    const SXMusicInfoList current = m_store.getCurTableDatasource();
     const LSMediaLoaderPtr loader = m_mediaLoader;
     try {
         std::thread([loader, paths, container, current] {
@@ -89,8 +86,8 @@ void SXWorkspaceFileLists::loadAndParseFiles(const QStringList& paths) {
     }
 }
 
-SXMusicInfoList SXWorkspaceFileLists::makeBatch(const QStringList& paths, const QString& container,
-                                                const SXMusicInfoList& current) {
+SXMusicInfoList SXAddRun::makeBatch(const QStringList& paths, const QString& container,
+                                    const SXMusicInfoList& current) {
     SXPathFailureList failures;
     const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths, &failures), current);
     SXMusicInfoList batch;
@@ -105,8 +102,7 @@ SXMusicInfoList SXWorkspaceFileLists::makeBatch(const QStringList& paths, const 
     return batch;
 }
 
-QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths,
-                                              SXPathFailureList* failures) {
+QStringList SXAddRun::expandPaths(const QStringList& paths, SXPathFailureList* failures) {
     const bool acceptVob = SXSettings::boolForKey(SXSettingsKey::AppSupportVob, false);
     QStringList candidates;
     for (const QString& path : paths) {
@@ -132,8 +128,7 @@ QStringList SXWorkspaceFileLists::expandPaths(const QStringList& paths,
     return candidates;
 }
 
-QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
-                                                     const SXMusicInfoList& current) {
+QStringList SXAddRun::dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current) {
     // A path already in the container, or named twice in one add (a folder and a file in it),
     // is added once: adding a folder again adds only what is new in it.
     QSet<QString> present;
@@ -148,19 +143,19 @@ QStringList SXWorkspaceFileLists::dropPathsAlreadyIn(QStringList candidates,
     return candidates;
 }
 
-void SXWorkspaceFileLists::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
+void SXAddRun::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
     const QString name = item ? QFileInfo(item->strFilePath()).fileName() : QString();
     const QString text = name.isEmpty() ? QString() : QStringLiteral("Importing %1...").arg(name);
     m_loadProgress.reportText(text);
 }
 
-void SXWorkspaceFileLists::mediaLoaderDidReceiveProgress(LSMediaLoader*, double progress) {
+void SXAddRun::mediaLoaderDidReceiveProgress(LSMediaLoader*, double progress) {
     m_loadProgress.reportValue(progress);
 }
 
-void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
-    LSMediaLoader*, const std::optional<SXMusicInfoList>& medias,
-    const std::optional<QSet<int>>& failedIndex) {
+void SXAddRun::mediaLoaderDidCompleteLoadMedias(LSMediaLoader*,
+                                                const std::optional<SXMusicInfoList>& medias,
+                                                const std::optional<QSet<int>>& failedIndex) {
     SXLog::line(QStringLiteral("finish complete load media....."));
     SXMusicInfoList loaded = medias.value_or(SXMusicInfoList());
     SXMusicInfoList failed;
@@ -173,34 +168,29 @@ void SXWorkspaceFileLists::mediaLoaderDidCompleteLoadMedias(
             loaded.removeOne(item);
     }
     SXLog::line(QStringLiteral("failed array : %1").arg(describeItems(failed)));
-    {
-        // The container selected now, which need not be the one selected when the run began.
-        QMutexLocker locker(&m_dataLock);
-        const QString container = getSelectedMusicFormat();
-        if (!container.isEmpty())
-            _dicfmtFiles[container].append(loaded);
-    }
+    // The container selected now, which need not be the one selected when the run began.
+    m_store.appendToSelectedContainer(loaded);
     QMetaObject::invokeMethod(
         this, [this, failed] { mainSelCompleteLoad(failed); }, Qt::QueuedConnection);
 }
 
-void SXWorkspaceFileLists::mainSelCompleteLoad(const SXMusicInfoList& failed) {
+void SXAddRun::mainSelCompleteLoad(const SXMusicInfoList& failed) {
     m_loadProgress.flush();
-    refreshListView();
-    if (selectedRows().isEmpty() && currentTabItemCount() > 0)
-        setSelectedRows({0});
-    refreshTabCount();
+    m_store.refreshListView();
+    if (m_store.selectedRows().isEmpty() && m_store.currentTabItemCount() > 0)
+        m_store.setSelectedRows({0});
+    m_store.refreshTabCount();
     // Nothing waits for the alert's answer: the run ends while it shows.
     if (!failed.isEmpty())
-        runAlert({QStringLiteral("Following file(s) load failed!"),
-                  loadFailureText(failed),
-                  {QStringLiteral("OK")},
-                  loadFailureDetails(failed)});
+        m_store.runAlert({QStringLiteral("Following file(s) load failed!"),
+                          loadFailureText(failed),
+                          {QStringLiteral("OK")},
+                          loadFailureDetails(failed)});
     Q_EMIT loadFinished(failed);
-    setAppState(AppStateIdle);
+    m_store.setAppState(AppStateIdle);
 }
 
-QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
+QString SXAddRun::loadFailureText(const SXMusicInfoList& failed) {
     QStringList names;
     for (const SXMusicInfoPtr& item : failed) {
         const LSMediaPtr media = item->mediaInfo();
@@ -209,7 +199,7 @@ QString SXWorkspaceFileLists::loadFailureText(const SXMusicInfoList& failed) {
     return SXWorkspaceTexts::cappedNameLines(names);
 }
 
-QString SXWorkspaceFileLists::loadFailureDetails(const SXMusicInfoList& failed) {
+QString SXAddRun::loadFailureDetails(const SXMusicInfoList& failed) {
     SXPathFailureList failures;
     for (const SXMusicInfoPtr& item : failed) {
         const LSMediaPtr media = item->mediaInfo();
@@ -218,103 +208,56 @@ QString SXWorkspaceFileLists::loadFailureDetails(const SXMusicInfoList& failed) 
     return SXFailureTexts::detailLines(failures);
 }
 
-void SXWorkspaceFileLists::cancelLoading() {
-    if (enumAppState() == AppStateLoading && m_mediaLoader)
+void SXAddRun::cancelLoading() {
+    if (m_store.enumAppState() == AppStateLoading && m_mediaLoader)
         m_mediaLoader->cancel();
     Q_EMIT loadCancelled();
 }
 
-// --- Removing and finding ---
+// --- Removing ---
 
-bool SXWorkspaceFileLists::refusedDuringRun() const {
-    if (enumAppState() != AppStateConverting)
-        return false;
-    beep();
-    return true;
-}
-
-void SXWorkspaceFileLists::removeFile(const SXMusicInfoList& items, const QString& fromFiles) {
-    // Silent: the gestures that end here beep themselves, and a move out of another window
-    // is no gesture of this one.
-    if (enumAppState() == AppStateConverting)
+void SXAddRun::removeSelected() {
+    if (m_store.refusedDuringRun())
         return;
-    {
-        QMutexLocker locker(&m_dataLock);
-        auto list = _dicfmtFiles.find(fromFiles);
-        if (items.isEmpty() || list == _dicfmtFiles.end() || list->isEmpty())
-            return;
-        removeEqualItems(items, *list);
-    }
-    refreshTabCount();
-}
-
-void SXWorkspaceFileLists::removeSelected() {
-    if (refusedDuringRun())
-        return;
-    const SXMusicInfoList items = selectedItems();
+    const SXMusicInfoList items = m_store.selectedItems();
     if (items.isEmpty()) {
-        beep();
+        m_store.beep();
         return;
     }
-    stopPreviewAmong(items);
+    m_preview.stopPreviewAmong(items);
     // The row that moves into the place of the first removed one is selected next.
-    const int first = selectedRows().first();
-    removeFile(items, getSelectedMusicFormat());
-    setSelectedRows({first});
-    refreshListView();
+    const int first = m_store.selectedRows().first();
+    m_store.removeFile(items, m_store.getSelectedMusicFormat());
+    m_store.setSelectedRows({first});
+    m_store.refreshListView();
 }
 
-void SXWorkspaceFileLists::clearContainer() {
-    if (refusedDuringRun())
+void SXAddRun::clearContainer() {
+    if (m_store.refusedDuringRun())
         return;
-    const SXMusicInfoList items = getCurTableDatasource();
+    const SXMusicInfoList items = m_store.getCurTableDatasource();
     if (items.isEmpty()) {
-        beep();
+        m_store.beep();
         return;
     }
-    stopPreviewAmong(items);
-    removeFile(items, getSelectedMusicFormat());
-    refreshListView();
-}
-
-int SXWorkspaceFileLists::indexMusicItem(const SXMusicInfoPtr& item,
-                                         const SXMusicInfoList& inArray) {
-    if (!item || inArray.isEmpty())
-        return -1;
-    const QString path = item->strFilePath();
-    for (int i = 0; i < inArray.size(); ++i) {
-        if (inArray.at(i)->strFilePath() == path)
-            return i;
-    }
-    return -1;
-}
-
-SXMusicInfoList
-SXWorkspaceFileLists::getDuplicateFiles(const SXMusicInfoList& items,
-                                        const SXMusicInfoList& inSelectedTableView) {
-    SXMusicInfoList duplicates;
-    for (const SXMusicInfoPtr& item : items) {
-        if (indexMusicItem(item, inSelectedTableView) >= 0)
-            duplicates.append(item);
-    }
-    return duplicates;
+    m_preview.stopPreviewAmong(items);
+    m_store.removeFile(items, m_store.getSelectedMusicFormat());
+    m_store.refreshListView();
 }
 
 // --- The tag editor's neighbours ---
 
-bool SXWorkspaceFileLists::canMetadataEditorPerform(const SXMusicInfoPtr& editing,
-                                                    int function) const {
-    const SXMusicInfoList list = getCurTableDatasource();
-    const int index = indexMusicItem(editing, list);
+bool SXAddRun::canMetadataEditorPerform(const SXMusicInfoPtr& editing, int function) const {
+    const SXMusicInfoList list = m_store.getCurTableDatasource();
+    const int index = SXContainerStore::indexMusicItem(editing, list);
     return function == 0 ? index > 0 : index >= 0 && index < list.size() - 1;
 }
 
-SXMusicInfoPtr SXWorkspaceFileLists::metadataEditorAsksForItem(const SXMusicInfoPtr& editing,
-                                                               int function) {
-    const SXMusicInfoList list = getCurTableDatasource();
-    const int index = indexMusicItem(editing, list) + (function == 0 ? -1 : 1);
-    if (indexMusicItem(editing, list) < 0 || index < 0 || index >= list.size())
+SXMusicInfoPtr SXAddRun::metadataEditorAsksForItem(const SXMusicInfoPtr& editing, int function) {
+    const SXMusicInfoList list = m_store.getCurTableDatasource();
+    const int index = SXContainerStore::indexMusicItem(editing, list) + (function == 0 ? -1 : 1);
+    if (SXContainerStore::indexMusicItem(editing, list) < 0 || index < 0 || index >= list.size())
         return nullptr;
-    setSelectedRows({index});
+    m_store.setSelectedRows({index});
     return list.at(index);
 }

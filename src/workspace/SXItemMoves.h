@@ -1,23 +1,28 @@
 #pragma once
 
-#include "workspace/SXWorkspaceFileLists.h"
+#include "workspace/SXContainerStore.h"
 
 #include <QByteArray>
+#include <QObject>
+
+class SXWorkspacePreview;
 
 // Moving items: row moves in the shown list, reordering inside a container by a drop, and
 // moving items into another container, also into a container of another workspace. The source
 // side of such a move is told through SXWorkspaceNotifier, so every workspace with a container
-// of the source name gives the items up.
-class SXWorkspaceItemMoves : public SXWorkspaceFileLists {
+// of the source name gives the items up. A part of SXWorkspace: the items live in its store; a
+// moved item that plays stays the preview's item.
+class SXItemMoves final : public QObject {
     Q_OBJECT
 public:
     // Drop positions of a list widget, by value.
     enum DropHighlight { DropOnRow = 0, DropBelowRow = 1, DropAboveRow = 2, DropBelowLastRow = 3 };
 
-    explicit SXWorkspaceItemMoves(QObject* parent = nullptr);
-    ~SXWorkspaceItemMoves() override;
+    SXItemMoves(SXContainerStore& store, SXWorkspacePreview& preview, QObject* parent = nullptr);
+    ~SXItemMoves() override;
 
-    void moveSelectedTo(int direction); // -1: next row, +1: previous row
+    SXContainerStore& store() const { return m_store; }
+
     // Every move is refused during a run, with a beep, and no item leaves a converting window's
     // containers, not even for a move out of another window.
     // The drag source: an archive of the items of `rows` (SXMusicInfo::unarchiveItems reads it);
@@ -35,10 +40,14 @@ public:
     // Selects the rows of the shown list that hold the moved items.
     void refrushTabelAfterDragMusicInfos(const SXMusicInfoList& items, int toRow);
 
-protected:
-    // Listens to moves out of other workspaces (again after a closed window is revived).
+    // Listens to moves out of other workspaces (again after a closed window is revived), or no
+    // longer (a closed window).
     void connectNotifier();
+    void disconnectNotifier();
 
 private:
     void reorderWithinContainer(const SXMusicInfoList& items, int insertAt);
+
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
 };

@@ -2,6 +2,7 @@
 
 #include "model/SXFormatSetting.h"
 #include "model/SXMusicInfo.h"
+#include "workspace/SXPreviewPlayer.h" // declares SXMusicInfoPtr to the meta-type system
 #include "workspace/SXWorkspacePresenter.h"
 
 #include <QHash>
@@ -22,18 +23,20 @@ enum AppState : int {
 
 // What one workspace holds: the tab labels in order (each a format name), the selected tab, the
 // list of items and the format setting of every container, the selected rows of the shown list
-// and the application state. The tab operations build on it (SXWorkspaceContainers).
+// and the application state, with the signals that announce their changes. Every other part of
+// a workspace (SXContainerTabs, SXAddRun, SXItemMoves, SXWorkspacePreview, SXWorkspaceScheduler)
+// reads and changes them only through this interface; the lock never leaves this class.
 //
 // Threads: everything runs on the main thread, except that a loader's completion appends items
 // from its worker thread. The tabs, the selection and both maps are therefore guarded by one
 // lock, which is never held while a signal is emitted or the presenter is asked. Every signal of
 // a workspace is emitted on the main thread (debug builds assert it), so a window may connect to
 // them directly.
-class SXWorkspaceData : public QObject {
+class SXContainerStore final : public QObject {
     Q_OBJECT
 public:
-    explicit SXWorkspaceData(QObject* parent = nullptr);
-    ~SXWorkspaceData() override;
+    explicit SXContainerStore(QObject* parent = nullptr);
+    ~SXContainerStore() override;
 
     // Not owned; may be null (nothing is then asked and refusals are silent).
     void setPresenter(SXWorkspacePresenter* presenter) { m_presenter = presenter; }
@@ -69,6 +72,52 @@ public:
     bool isSelectedMusic() const { return !selectedRows().isEmpty(); }
     SXMusicInfoList selectedItems() const;
     void refreshListView();
+    // The row after (before) the first selected one of the shown list; a beep at either end.
+    void selectNextRow();
+    void selectPreviousRow();
+    // Items in every container.
+    int getTotalNeedConvertMusic() const;
+
+    // --- Changes made by the other parts ---
+    // The tabs `labels` are appended, each with its setting (a null one is skipped), and every
+    // tab starts with an empty list, replacing whatever its name held before.
+    void appendContainers(const QStringList& labels, const QList<SXFormatSettingPtr>& settings);
+    // Every tab with its list and setting goes; nothing is selected. Announces the tabs.
+    void removeAllContainers();
+    int appendTab(const QString& label); // its index
+    void setTabLabel(int index, const QString& label);
+    // Keeps `setting` for its container without showing it (setFmtSetting shows it).
+    void storeFormatSetting(const SXFormatSettingPtr& setting);
+    // Selects tab `index` with no rows; false, changing nothing, when there is no such tab.
+    bool setSelectedTab(int index);
+    // Removes the selected tab with its list and setting; the tab to select next, or -1.
+    int removeSelectedTab();
+    // The items the loader probed join the container selected now.
+    void appendToSelectedContainer(const SXMusicInfoList& items);
+    // `edit` changes the list of `name` (made when missing) under the lock; it must not call
+    // back into the store.
+    void editContainer(const QString& name, const std::function<void(SXMusicInfoList&)>& edit);
+    // Removes from the container named `fromFiles` the first item equal to each of `items`.
+    // Nothing is removed during a run (silently: the gestures that end here beep themselves).
+    void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
+    void emitTabs();
+    void showFormatSetting(const SXFormatSettingPtr& setting) {
+        Q_EMIT formatSettingShown(setting);
+    }
+
+    // --- Answers for every part ---
+    void beep() const;
+    // Asks the presenter; without one the first button counts as chosen.
+    void runAlert(const SXAlert& alert, std::function<void(int)> answered = {}) const;
+    // Nothing leaves a container while a run converts the window's items: the operation of a
+    // removed item would go on converting it where nobody can stop it, and the summary would
+    // not count it. True, after a beep, when the state refuses the gesture.
+    bool refusedDuringRun() const;
+    // Removes every element of `list` that equals one of `items`.
+    static void removeEqualItems(const SXMusicInfoList& items, SXMusicInfoList& list);
+    static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
+    static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
+                                             const SXMusicInfoList& inSelectedTableView);
 
 Q_SIGNALS:
     // `item` is the item the state is about (the one that plays), or null.
@@ -82,14 +131,10 @@ Q_SIGNALS:
     void listChanged();
     void selectionChanged(const QList<int>& rows);
 
-protected:
-    void beep() const;
-    // Asks the presenter; without one the first button counts as chosen.
-    void runAlert(const SXAlert& alert, std::function<void(int)> answered = {}) const;
-    // Removes every element of `list` that equals one of `items`; the caller holds the lock.
-    static void removeEqualItems(const SXMusicInfoList& items, SXMusicInfoList& list);
-    void emitTabs();
+private:
+    void clampSelection(const QList<int>& previous);
     void dropContainer(const QString& label); // the caller holds the lock
+    void moveSelectedRow(int step);
 
     mutable QRecursiveMutex m_dataLock;
     QStringList m_tabLabels;
@@ -97,9 +142,6 @@ protected:
     QHash<QString, SXMusicInfoList> _dicfmtFiles;
     QHash<QString, SXFormatSettingPtr> _fmtSettingInfos;
     QList<int> m_selectedRows;
-
-private:
-    void clampSelection(const QList<int>& previous);
 
     SXWorkspacePresenter* m_presenter = nullptr;
     std::atomic<int> m_progressType{AppStateIdle};

@@ -1,22 +1,26 @@
 #pragma once
 
-#include "engine/LSMediaLoader.h"
 #include "base/SXPathFailure.h"
+#include "engine/LSMediaLoader.h"
+#include "workspace/SXContainerStore.h"
 #include "workspace/SXLoadProgressRelay.h"
 #include "workspace/SXMetadataEditing.h"
-#include "workspace/SXWorkspaceContainers.h"
 
 #include <QByteArray>
 
+class SXWorkspacePreview;
+
 // The file lists of a workspace: adding files (an add run probes them on a loader's worker
-// thread), removing and finding items.
-class SXWorkspaceFileLists : public SXWorkspaceContainers,
-                             public LSMediaLoaderListener,
-                             public SXMetadataEditListener {
+// thread), removing items, and the tag editor's steps through the shown list. A part of
+// SXWorkspace: the items go into its store; an add run and a removal stop the preview where
+// they must.
+class SXAddRun final : public QObject, public LSMediaLoaderListener, public SXMetadataEditListener {
     Q_OBJECT
 public:
-    explicit SXWorkspaceFileLists(QObject* parent = nullptr);
-    ~SXWorkspaceFileLists() override;
+    SXAddRun(SXContainerStore& store, SXWorkspacePreview& preview, QObject* parent = nullptr);
+    ~SXAddRun() override;
+
+    SXContainerStore& store() const { return m_store; }
 
     // --- Adding ---
     // The add run for the selected container: expands folders, filters, drops paths already in
@@ -53,17 +57,11 @@ public:
                                           const std::optional<SXMusicInfoList>& medias,
                                           const std::optional<QSet<int>>& failedIndex) override;
 
-    // --- Removing and finding ---
-    // Removes from the container named `fromFiles` the first item equal to each of `items`.
-    // Nothing is removed during a run (see refusedDuringRun).
-    void removeFile(const SXMusicInfoList& items, const QString& fromFiles);
+    // --- Removing ---
     // Delete and Clear, from the buttons, the menu and the list's keys: refused with a beep
     // during a run.
     void removeSelected();
     void clearContainer();
-    static int indexMusicItem(const SXMusicInfoPtr& item, const SXMusicInfoList& inArray);
-    static SXMusicInfoList getDuplicateFiles(const SXMusicInfoList& items,
-                                             const SXMusicInfoList& inSelectedTableView);
 
     // SXMetadataEditListener: the tag editor steps through the shown list.
     bool canMetadataEditorPerform(const SXMusicInfoPtr& editing, int function) const override;
@@ -80,13 +78,9 @@ Q_SIGNALS:
     void loadCancelled();
     void loadFinished(const SXMusicInfoList& failed);
 
-protected:
-    // Nothing leaves a container while a run converts the window's items: the operation of a
-    // removed item would go on converting it where nobody can stop it, and the summary would
-    // not count it. True, after a beep, when the state refuses the gesture.
-    bool refusedDuringRun() const;
-
 private:
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
     LSMediaLoaderPtr m_mediaLoader;
     SXLoadProgressRelay m_loadProgress;
 };

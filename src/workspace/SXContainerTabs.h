@@ -1,15 +1,23 @@
 #pragma once
 
-#include "workspace/SXWorkspacePreview.h"
+#include "workspace/SXContainerStore.h"
+
+#include <QObject>
+
+class SXWorkspacePreview;
 
 // The containers of one workspace as tabs: the fixed ones, those added through the format
 // chooser, selecting, neighbour moves and the rules for closing. A front end shows this; it
-// decides nothing.
-class SXWorkspaceContainers : public SXWorkspacePreview {
+// decides nothing. A part of SXWorkspace: the tabs themselves live in its store; closing a
+// container stops its preview.
+class SXContainerTabs final : public QObject {
     Q_OBJECT
 public:
-    explicit SXWorkspaceContainers(QObject* parent = nullptr);
-    ~SXWorkspaceContainers() override;
+    SXContainerTabs(SXContainerStore& store, SXWorkspacePreview& preview,
+                    QObject* parent = nullptr);
+    ~SXContainerTabs() override;
+
+    SXContainerStore& store() const { return m_store; }
 
     // The fixed containers; for a workspace that remembers its containers, then the stored ones
     // in their order, each with its stored choices.
@@ -23,9 +31,13 @@ public:
     int addNewTabWithName(const QString& name); // index of the tab that now carries the name
     void selectTab(int index);
     bool selectContainer(const QString& name);
-    void moveTabSelectedTo(int direction); // -1: next tab, +1: previous tab
+    // The tab after (before) the selected one; a beep at either end.
+    void selectNextContainer();
+    void selectPreviousContainer();
     // Closes the selected container unless a rule forbids it; true when it was closed.
     bool closeTab();
+    // The close button of the tab `label`: selects it, then closes it as closeTab does.
+    bool closeContainer(const QString& label);
     // The answers a tab bar needs before it offers or performs a close.
     bool disableTabClose(const QString& label) const;
     bool shouldCloseTab(const QString& label);
@@ -39,10 +51,13 @@ public:
     bool showAddBtn() const { return m_showAddBtn; }
 
 private:
+    void moveSelectedTab(int step);
     // For a remembering workspace: `setting` gets its stored choices. The caller holds no lock.
     void recallChoices(const SXFormatSettingPtr& setting) const;
     void rememberContainers() const;
 
+    SXContainerStore& m_store;
+    SXWorkspacePreview& m_preview;
     bool m_showAddBtn = true;
     bool m_remembersContainers = false;
 };

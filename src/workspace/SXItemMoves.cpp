@@ -1,40 +1,35 @@
-#include "workspace/SXWorkspaceItemMoves.h"
+#include "workspace/SXItemMoves.h"
 
 #include "base/SXLog.h"
 #include "workspace/SXWorkspaceNotifier.h"
+#include "workspace/SXWorkspacePreview.h"
 
-#include <QMutexLocker>
 #include <algorithm>
 
-SXWorkspaceItemMoves::SXWorkspaceItemMoves(QObject* parent)
-    : SXWorkspaceFileLists(parent) {
+SXItemMoves::SXItemMoves(SXContainerStore& store, SXWorkspacePreview& preview, QObject* parent)
+    : QObject(parent)
+    , m_store(store)
+    , m_preview(preview) {
     connectNotifier();
 }
 
-void SXWorkspaceItemMoves::connectNotifier() {
+void SXItemMoves::connectNotifier() {
     connect(SXWorkspaceNotifier::defaultCenter(), &SXWorkspaceNotifier::tableViewAcceptDragIn, this,
             [this](QObject*, const SXMusicInfoList& items, const QString& format) {
                 removeDragOutFiles(items, format);
             });
 }
 
-SXWorkspaceItemMoves::~SXWorkspaceItemMoves() = default;
-
-void SXWorkspaceItemMoves::moveSelectedTo(int direction) {
-    const QList<int> rows = selectedRows();
-    const int count = currentTabItemCount();
-    const int row = rows.isEmpty() ? -1 : rows.first();
-    if (count == 0 || (row == 0 && direction >= 1) || (row == count - 1 && direction < 0)) {
-        beep();
-        return;
-    }
-    setSelectedRows({direction < 1 ? row + 1 : row - 1});
+void SXItemMoves::disconnectNotifier() {
+    disconnect(SXWorkspaceNotifier::defaultCenter(), nullptr, this, nullptr);
 }
 
-QByteArray SXWorkspaceItemMoves::dragDataForRows(const QList<int>& rows) const {
-    if (refusedDuringRun())
+SXItemMoves::~SXItemMoves() = default;
+
+QByteArray SXItemMoves::dragDataForRows(const QList<int>& rows) const {
+    if (m_store.refusedDuringRun())
         return {};
-    const SXMusicInfoList list = getCurTableDatasource();
+    const SXMusicInfoList list = m_store.getCurTableDatasource();
     SXMusicInfoList items;
     for (int row : rows) {
         if (row >= 0 && row < list.size())
@@ -50,13 +45,13 @@ QByteArray SXWorkspaceItemMoves::dragDataForRows(const QList<int>& rows) const {
     return archive;
 }
 
-bool SXWorkspaceItemMoves::acceptDrop(const SXMusicInfoList& items, int row, int dropHighlight) {
-    if (refusedDuringRun())
+bool SXItemMoves::acceptDrop(const SXMusicInfoList& items, int row, int dropHighlight) {
+    if (m_store.refusedDuringRun())
         return false;
     if (items.isEmpty())
         return true;
     const QString source = items.first()->getStrMusicType();
-    const QString selected = getSelectedMusicFormat();
+    const QString selected = m_store.getSelectedMusicFormat();
     if (source == selected) {
         const bool after = dropHighlight == DropBelowRow || dropHighlight == DropBelowLastRow;
         reorderWithinContainer(items, after ? row + 1 : row);
@@ -67,13 +62,11 @@ bool SXWorkspaceItemMoves::acceptDrop(const SXMusicInfoList& items, int row, int
     return true;
 }
 
-void SXWorkspaceItemMoves::reorderWithinContainer(const SXMusicInfoList& items, int insertAt) {
-    {
-        QMutexLocker locker(&m_dataLock);
-        SXMusicInfoList& list = _dicfmtFiles[getSelectedMusicFormat()];
+void SXItemMoves::reorderWithinContainer(const SXMusicInfoList& items, int insertAt) {
+    m_store.editContainer(m_store.getSelectedMusicFormat(), [&](SXMusicInfoList& list) {
         SXMusicInfoList previous;
         for (auto it = items.crbegin(); it != items.crend(); ++it) {
-            const int index = indexMusicItem(*it, list);
+            const int index = SXContainerStore::indexMusicItem(*it, list);
             if (index >= 0)
                 previous.append(list.at(index));
         }
@@ -87,14 +80,14 @@ void SXWorkspaceItemMoves::reorderWithinContainer(const SXMusicInfoList& items, 
             list.insert(insertAt + i, block.at(i));
         for (const SXMusicInfoPtr& old : std::as_const(previous))
             list.removeOne(old);
-    }
-    refreshListView();
+    });
+    m_store.refreshListView();
 }
 
-void SXWorkspaceItemMoves::acceptDropOnTab(const SXMusicInfoList& items, const QString& tabLabel) {
+void SXItemMoves::acceptDropOnTab(const SXMusicInfoList& items, const QString& tabLabel) {
     SXLog::line(QStringLiteral("acceptedDraggingInfo: %1 onTabViewItem: %2")
                     .arg(QString::number(items.size()), tabLabel));
-    if (items.isEmpty() || refusedDuringRun())
+    if (items.isEmpty() || m_store.refusedDuringRun())
         return;
     const QString source = items.first()->getStrMusicType();
     if (source == tabLabel)
@@ -103,13 +96,11 @@ void SXWorkspaceItemMoves::acceptDropOnTab(const SXMusicInfoList& items, const Q
     refrushTabelAfterDragMusicInfos(items, -1);
 }
 
-void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QString& fromFormat,
-                                          const QString& toFileContainer, int noRow) {
-    if (items.isEmpty() || refusedDuringRun())
+void SXItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QString& fromFormat,
+                                 const QString& toFileContainer, int noRow) {
+    if (items.isEmpty() || m_store.refusedDuringRun())
         return;
-    {
-        QMutexLocker locker(&m_dataLock);
-        SXMusicInfoList& target = _dicfmtFiles[toFileContainer];
+    m_store.editContainer(toFileContainer, [&](SXMusicInfoList& target) {
         SXMusicInfoList copies;
         for (const SXMusicInfoPtr& item : items) {
             SXMusicInfoPtr copy = item->copy();
@@ -117,14 +108,15 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
             copy->setDConvertProgress(SXProgress::Waiting);
             copies.append(copy);
         }
-        removeEqualItems(getDuplicateFiles(copies, target), copies);
+        SXContainerStore::removeEqualItems(SXContainerStore::getDuplicateFiles(copies, target),
+                                           copies);
         const int at = noRow == -1 ? int(target.size()) : std::clamp(noRow, 0, int(target.size()));
         for (int i = 0; i < copies.size(); ++i)
             target.insert(at + i, copies.at(i));
-    }
-    refreshListView();
+    });
+    m_store.refreshListView();
     // The source may be in another window, whose removal counts only its own containers.
-    refreshTabCount();
+    m_store.refreshTabCount();
     SXWorkspaceNotifier::defaultCenter()->postTableViewAcceptDragIn(this, items, fromFormat);
     // Only now: the source still compared the items by their old container when it let go.
     // A duplicate left no copy behind, but its source item is gone all the same.
@@ -132,31 +124,29 @@ void SXWorkspaceItemMoves::dragMusicInfos(const SXMusicInfoList& items, const QS
         auto moved = std::make_shared<SXMusicInfo>();
         moved->setStrFilePath(item->strFilePath());
         moved->setStrMusicType(toFileContainer);
-        checkAndChangePlayingMusicTypeInfo(moved);
+        m_preview.checkAndChangePlayingMusicTypeInfo(moved);
     }
 }
 
-void SXWorkspaceItemMoves::removeDragOutFiles(const SXMusicInfoList& dragInFiles,
-                                              const QString& format) {
+void SXItemMoves::removeDragOutFiles(const SXMusicInfoList& dragInFiles, const QString& format) {
     // A window that converts keeps its items: the move took copies, so the source stays whole
     // here and its run goes on with every item it counted.
-    if (dragInFiles.isEmpty() || enumAppState() == AppStateConverting ||
-        getDataForFormat(format).isEmpty())
+    if (dragInFiles.isEmpty() || m_store.enumAppState() == AppStateConverting ||
+        m_store.getDataForFormat(format).isEmpty())
         return;
-    removeFile(dragInFiles, format);
-    refreshListView();
+    m_store.removeFile(dragInFiles, format);
+    m_store.refreshListView();
 }
 
-void SXWorkspaceItemMoves::refrushTabelAfterDragMusicInfos(const SXMusicInfoList& items,
-                                                           int toRow) {
+void SXItemMoves::refrushTabelAfterDragMusicInfos(const SXMusicInfoList& items, int toRow) {
     Q_UNUSED(toRow); // the drop highlight of that row belongs to the list widget
-    refreshListView();
-    const SXMusicInfoList list = getCurTableDatasource();
+    m_store.refreshListView();
+    const SXMusicInfoList list = m_store.getCurTableDatasource();
     QList<int> rows;
     for (auto it = items.crbegin(); it != items.crend(); ++it) {
-        const int index = indexMusicItem(*it, list);
+        const int index = SXContainerStore::indexMusicItem(*it, list);
         if (index >= 0)
             rows.append(index);
     }
-    setSelectedRows(rows);
+    m_store.setSelectedRows(rows);
 }

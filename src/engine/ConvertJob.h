@@ -1,0 +1,36 @@
+#pragma once
+
+#include "model/SXConversionChoices.h"
+
+#include <QString>
+
+// Everything one conversion needs, fixed when the run starts: the source and what its probe
+// found, the container's choices, where the output goes and under which name, and what happens
+// to it afterwards. A ConvertOperation holds its own copy; nothing it decides is read back from
+// the item's records, so a choice changed during a run waits for the next one.
+struct ConvertJob {
+    QString sourcePath;
+    // The probe's facts that a choice of "as the source has it" and the checks need.
+    double sourceBitRate = 0;    // bit/s
+    double sourceSampleRate = 0; // Hz
+    int sourceChannels = 0;
+    double sourceDuration = 0;       // seconds
+    bool sourceDurationExact = true; // false: only guessed from the bit rate
+
+    SXConversionChoices choices;
+    QString encoder;   // ffmpeg's encoder name ("libmp3lame")
+    QString extension; // of the final file, without the dot
+    // The container the item is in; a ringtone is encoded as .m4a and renamed afterwards.
+    QString formatName;
+
+    // Absolute; empty: beside the source.
+    QString outputFolder;
+    // The output's name without extension; a taken name gets the next counter.
+    QString outputName;
+
+    // Library delivery once the file is whole: the music library script, and the player's
+    // library with its playlist.
+    bool runLibraryScript = false;
+    bool addToLibrary = false;
+    QString playlist;
+};

@@ -1,0 +1,42 @@
+#include "workspace/SXJobBuilder.h"
+
+#include "base/SXBundle.h"
+#include "base/SXSettings.h"
+
+SXJobBuilder::Run SXJobBuilder::Run::fromSettings(const QString& startFolder,
+                                                  bool organizeByFormat) {
+    Run run{startFolder, organizeByFormat, SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary),
+            SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName)};
+    if (run.playlist.isEmpty())
+        run.playlist = SXBundle::productName();
+    return run;
+}
+
+QString SXJobBuilder::outputFolder(const SXFormatSetting& setting, const QString& startFolder,
+                                   bool organizeByFormat) {
+    if (!setting.outputPath().isEmpty())
+        return setting.outputPath();
+    return organizeByFormat ? startFolder + QLatin1Char('/') + setting.fmtName() : startFolder;
+}
+
+ConvertJob SXJobBuilder::build(const SXMusicInfo& item, const SXFormatSetting& setting,
+                               const Run& run) {
+    const LSMediaPtr media = item.mediaInfo();
+    ConvertJob job;
+    job.sourcePath = media->filePath();
+    job.sourceBitRate = media->audioBitrate();
+    job.sourceSampleRate = media->audioSamplerate();
+    job.sourceChannels = media->audioChannels();
+    job.sourceDuration = media->duration();
+    job.sourceDurationExact = media->durationExact();
+    job.choices = setting.choices();
+    job.encoder = setting.decodecName();
+    job.extension = setting.outputExtName();
+    job.formatName = item.getStrMusicType();
+    job.outputFolder = outputFolder(setting, run.startFolder, run.organizeByFormat);
+    job.outputName = media->strOutFileName();
+    job.runLibraryScript = run.runLibraryScript;
+    job.addToLibrary = setting.enumAddToLibrary() == 1;
+    job.playlist = run.playlist;
+    return job;
+}
