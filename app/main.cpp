@@ -18,15 +18,18 @@
 namespace {
 
 QCommandLineOption declareOptions(QCommandLineParser& parser) {
-    parser.setApplicationDescription(QStringLiteral("Converts audio and video files."));
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Converts audio and video files."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption verbose(QStringLiteral("verbose"),
-                                     QStringLiteral("Mirror log lines to standard error."));
+    const QCommandLineOption verbose(
+        QStringLiteral("verbose"),
+        QCoreApplication::translate("main", "Mirror log lines to standard error."));
     parser.addOption(verbose);
-    parser.addPositionalArgument(QStringLiteral("files"),
-                                 QStringLiteral("Audio or video files and folders to add."),
-                                 QStringLiteral("[FILE…]"));
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        QCoreApplication::translate("main", "Audio or video files and folders to add."),
+        QStringLiteral("[FILE…]"));
     return verbose;
 }
 
@@ -38,8 +41,13 @@ bool answeredWithoutDisplay(QCommandLineParser& parser, int argc, char** argv) {
         arguments.append(QString::fromLocal8Bit(argv[i]));
     (void)parser.parse(arguments);
     if (parser.isSet(QStringLiteral("help"))) {
-        // Without an application object Qt cannot know the program's name for the usage line.
-        QString help = parser.helpText();
+        // A core application is enough for the catalogues: the help reads in the user's language
+        // without opening a display. Without it Qt cannot know the program's name either.
+        QCoreApplication core(argc, argv);
+        SXTranslations::install(core);
+        QCommandLineParser translated;
+        declareOptions(translated);
+        QString help = translated.helpText();
         help.replace(QStringLiteral("<executable_name>"), QFileInfo(arguments.first()).fileName());
         std::fputs(qPrintable(help), stdout);
         return true;

@@ -393,12 +393,110 @@ cancels the run; partial outputs are removed).
         <source>The file name is not valid UTF-8</source>
         <translation>The file name is not valid UTF-8</translation>
     </message>
+    <message>
+        <source>Loading Media Files...</source>
+        <translation>Loading media files…</translation>
+    </message>
+    <message>
+        <source>Importing %1...</source>
+        <translation>Importing %1…</translation>
+    </message>
+    <message numerus="yes">
+        <source>Following file(s) load failed!</source>
+        <translation>
+            <numerusform>The following file could not be added:</numerusform>
+            <numerusform>The following files could not be added:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
 </context>
 <context>
     <name>SXArtworkDropView</name>
     <message>
         <source>Drop a picture here</source>
         <translation>Drop a picture here</translation>
+    </message>
+</context>
+<context>
+    <name>SXCatalogueTexts</name>
+    <message>
+        <source>MPEG Layer III audio, playable everywhere</source>
+        <translation>MPEG Layer III audio, playable everywhere</translation>
+    </message>
+    <message>
+        <source>Advanced Audio Coding in an MPEG-4 file: smaller than MP3 at the same quality</source>
+        <translation>Advanced Audio Coding in an MPEG-4 file: smaller than MP3 at the same quality</translation>
+    </message>
+    <message>
+        <source>AAC ringtone for phones</source>
+        <translation>AAC ringtone for phones</translation>
+    </message>
+    <message>
+        <source>Free Lossless Audio Codec: exact copy of the sound, about half the size of WAV</source>
+        <translation>Free Lossless Audio Codec: exact copy of the sound, about half the size of WAV</translation>
+    </message>
+    <message>
+        <source>Apple Lossless in an MPEG-4 file: exact copy of the sound</source>
+        <translation>Apple Lossless in an MPEG-4 file: exact copy of the sound</translation>
+    </message>
+    <message>
+        <source>Uncompressed 16-bit PCM in a WAVE file</source>
+        <translation>Uncompressed 16-bit PCM in a WAVE file</translation>
+    </message>
+    <message>
+        <source>Uncompressed 16-bit PCM in an AIFF file</source>
+        <translation>Uncompressed 16-bit PCM in an AIFF file</translation>
+    </message>
+    <message>
+        <source>Vorbis in an Ogg file: free and open lossy audio</source>
+        <translation>Vorbis in an Ogg file: free and open lossy audio</translation>
+    </message>
+    <message>
+        <source>Opus in an Ogg file: the best quality at low bit rates</source>
+        <translation>Opus in an Ogg file: the best quality at low bit rates</translation>
+    </message>
+    <message>
+        <source>Windows Media Audio 2</source>
+        <translation>Windows Media Audio 2</translation>
+    </message>
+    <message>
+        <source>Dolby Digital (AC-3) stream for video and home cinema</source>
+        <translation>Dolby Digital (AC-3) stream for video and home cinema</translation>
+    </message>
+    <message>
+        <source>MPEG Layer II audio stream for broadcast and DVD</source>
+        <translation>MPEG Layer II audio stream for broadcast and DVD</translation>
+    </message>
+    <message>
+        <source>WavPack lossless audio: exact copy of the sound, compact and fast</source>
+        <translation>WavPack lossless audio: exact copy of the sound, compact and fast</translation>
+    </message>
+    <message>
+        <source>Use Source</source>
+        <translation>As Source</translation>
+    </message>
+    <message>
+        <source>Lossless</source>
+        <translation>Lossless</translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation>Mono</translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
+        <translation>%1 kbit/s</translation>
+    </message>
+    <message>
+        <source>%1 Hz</source>
+        <translation>%1 Hz</translation>
     </message>
 </context>
 <context>
@@ -425,6 +523,33 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Containers</source>
         <translation>Containers</translation>
+    </message>
+    <message>
+        <source>Add new format</source>
+        <translation>Add a new format</translation>
+    </message>
+</context>
+<context>
+    <name>SXContainerTabs</name>
+    <message>
+        <source>No Way!</source>
+        <translation>Not this one</translation>
+    </message>
+    <message>
+        <source>I refuse to close a tab named &quot;Drake&quot;</source>
+        <translation>A tab named “Drake” cannot be closed.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>All formats are opened, you can set the paramas in the setting window.</source>
+        <translation>Every format already has a tab. You can change its settings in the panel below the list.</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -865,6 +990,65 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXMetadataEditing</name>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artist</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Album artist</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Composer</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Year</source>
+        <translation>Year</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Grouping</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Track</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Publisher</translation>
+    </message>
+    <message>
+        <source>Comments</source>
+        <translation>Comments</translation>
+    </message>
+    <message>
+        <source>Sorry, this kind format CAN NOT support for editing for metadata</source>
+        <translation>This format cannot carry tags, so they cannot be edited.</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Lyrics</translation>
+    </message>
+</context>
+<context>
     <name>SXOutputFolderDialog</name>
     <message>
         <source>Output Folder</source>
@@ -1116,6 +1300,36 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXWorkspace</name>
+    <message>
+        <source>Warnning</source>
+        <translation>Warning</translation>
+    </message>
+    <message>
+        <source>Do you want to close all window without save information?</source>
+        <translation>Close all windows? Files in the lists will be forgotten.</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
+    <name>SXWorkspacePreview</name>
+    <message>
+        <source>Can not play the file</source>
+        <translation>The file cannot be played</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+<context>
     <name>SXWorkspaceScheduler</name>
     <message>
         <source>Cannot write into the output folder &quot;%1&quot;: %2</source>
@@ -1146,6 +1360,10 @@ cancels the run; partial outputs are removed).
             <numerusform> %n file failed:</numerusform>
             <numerusform> %n files failed, including:</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>Please choose output folder:</source>
+        <translation>Choose the output folder:</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1426,18 @@ cancels the run; partial outputs are removed).
     <message>
         <source>sonoria-cli: cannot watch for interrupts</source>
         <translation>sonoria-cli: cannot watch for interrupts</translation>
+    </message>
+    <message>
+        <source>Converts audio and video files.</source>
+        <translation>Converts audio and video files.</translation>
+    </message>
+    <message>
+        <source>Mirror log lines to standard error.</source>
+        <translation>Mirror log lines to standard error.</translation>
+    </message>
+    <message>
+        <source>Audio or video files and folders to add.</source>
+        <translation>Audio or video files and folders to add.</translation>
     </message>
 </context>
 </TS>

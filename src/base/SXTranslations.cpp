@@ -14,13 +14,12 @@ namespace {
 const QString kPrefix = QStringLiteral("sonoria_");
 const QString kEnglish = QStringLiteral("en");
 
-bool installCatalogue(QCoreApplication& app, const QString& path) {
-    auto* translator = new QTranslator(&app);
-    if (!translator->load(path)) {
-        delete translator;
-        return false;
-    }
-    return QCoreApplication::installTranslator(translator);
+QTranslator* loadCatalogue(const QString& path, QObject* parent) {
+    auto* translator = new QTranslator(parent);
+    if (translator->load(path))
+        return translator;
+    delete translator;
+    return nullptr;
 }
 
 } // namespace
@@ -65,20 +64,34 @@ QString SXTranslations::languageFor(const QStringList& uiLanguages, const QStrin
     return kEnglish;
 }
 
-QString SXTranslations::install(QCoreApplication& app) {
+QList<QTranslator*> SXTranslations::load(const QString& language, QObject* parent) {
     const QString folder = catalogueFolder();
-    if (folder.isEmpty())
+    QTranslator* own =
+        folder.isEmpty()
+            ? nullptr
+            : loadCatalogue(folder + QLatin1Char('/') + kPrefix + language + QStringLiteral(".qm"),
+                            parent);
+    if (!own)
         return {};
-    const QString language = languageFor(QLocale::system().uiLanguages(), availableLanguages());
+    QList<QTranslator*> loaded;
     // Qt's own texts (the standard buttons, the file dialog, the command-line parser's errors)
     // in the same language; English needs none.
     if (language != kEnglish) {
         const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-        installCatalogue(app,
-                         qtFolder + QStringLiteral("/qtbase_") + language + QStringLiteral(".qm"));
+        if (QTranslator* qt = loadCatalogue(
+                qtFolder + QStringLiteral("/qtbase_") + language + QStringLiteral(".qm"), parent))
+            loaded.append(qt);
     }
-    if (!installCatalogue(app,
-                          folder + QLatin1Char('/') + kPrefix + language + QStringLiteral(".qm")))
+    loaded.append(own);
+    return loaded;
+}
+
+QString SXTranslations::install(QCoreApplication& app) {
+    const QString language = languageFor(QLocale::system().uiLanguages(), availableLanguages());
+    const QList<QTranslator*> translators = load(language, &app);
+    if (translators.isEmpty())
         return {};
+    for (QTranslator* translator : translators)
+        QCoreApplication::installTranslator(translator);
     return language;
 }

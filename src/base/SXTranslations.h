@@ -1,9 +1,12 @@
 #pragma once
 
+#include <QList>
 #include <QString>
 #include <QStringList>
 
 class QCoreApplication;
+class QObject;
+class QTranslator;
 
 // Chooses and installs the program's catalogue and Qt's own for the user's language, for the
 // window and the command-line tool alike.
@@ -15,6 +18,9 @@ public:
     // catalogue is installed: it corrects the wording of the source texts. Returns the language
     // installed ("de", "pt_BR", "en"), or an empty string when no catalogue was found.
     static QString install(QCoreApplication& app);
+    // The catalogues of `language` ("de", "en"), loaded but not installed and owned by `parent`:
+    // Qt's own first (none for English), then the program's. Empty when the program's is missing.
+    static QList<QTranslator*> load(const QString& language, QObject* parent);
 
     // The catalogue name ("pt_BR", "de") for the first of `uiLanguages` ("de-DE", "pt-BR", "C")
     // among `available`, trying the full name before the bare language; "en" when none matches.

@@ -62,7 +62,7 @@ SXAddRun::~SXAddRun() {
 void SXAddRun::loadAndParseFiles(const QStringList& paths) {
     m_preview.stopPlayerWithRefreshUI();
     m_loadProgress.clear();
-    Q_EMIT loadStarted(QStringLiteral("Loading Media Files..."));
+    Q_EMIT loadStarted(tr("Loading Media Files..."));
     Q_EMIT loadProgressValue(0.0);
     m_store.setAppState(AppStateLoading);
 
@@ -145,7 +145,7 @@ QStringList SXAddRun::dropPathsAlreadyIn(QStringList candidates, const SXMusicIn
 
 void SXAddRun::mediaLoaderStartLoadMusic(LSMediaLoader*, const SXMusicInfoPtr& item) {
     const QString name = item ? QFileInfo(item->strFilePath()).fileName() : QString();
-    const QString text = name.isEmpty() ? QString() : QStringLiteral("Importing %1...").arg(name);
+    const QString text = name.isEmpty() ? QString() : tr("Importing %1...").arg(name);
     m_loadProgress.reportText(text);
 }
 
@@ -182,9 +182,9 @@ void SXAddRun::mainSelCompleteLoad(const SXMusicInfoList& failed) {
     m_store.refreshTabCount();
     // Nothing waits for the alert's answer: the run ends while it shows.
     if (!failed.isEmpty())
-        m_store.runAlert({QStringLiteral("Following file(s) load failed!"),
+        m_store.runAlert({tr("Following file(s) load failed!", nullptr, int(failed.size())),
                           loadFailureText(failed),
-                          {QStringLiteral("OK")},
+                          {tr("OK")},
                           loadFailureDetails(failed)});
     Q_EMIT loadFinished(failed);
     m_store.setAppState(AppStateIdle);

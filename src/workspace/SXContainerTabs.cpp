@@ -137,9 +137,8 @@ bool SXContainerTabs::shouldCloseTab(const QString& label) {
         return false;
     if (label == QLatin1String("Drake")) {
         if (SXWorkspacePresenter* presenter = m_store.presenter())
-            presenter->showSheetAlert({QStringLiteral("No Way!"),
-                                       QStringLiteral("I refuse to close a tab named \"Drake\""),
-                                       {QStringLiteral("OK")}});
+            presenter->showSheetAlert(
+                {tr("No Way!"), tr("I refuse to close a tab named \"Drake\""), {tr("OK")}});
         return false;
     }
     return true;
@@ -162,10 +161,9 @@ void SXContainerTabs::addContainer() {
     const QList<SXFormatSettingPtr> formats = formatsWithoutContainer();
     if (formats.isEmpty()) {
         m_store.runAlert(
-            {QStringLiteral("All formats are opened, you can set the paramas in the setting "
-                            "window."),
+            {tr("All formats are opened, you can set the paramas in the setting window."),
              QString(),
-             {QStringLiteral("Yes")}});
+             {tr("Yes")}});
         return;
     }
     SXWorkspacePresenter* presenter = m_store.presenter();

@@ -4,6 +4,7 @@
 #include "model/SXDataEngine.h"
 
 #include <QBuffer>
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 #include <QImageReader>
@@ -14,23 +15,41 @@ namespace SXMetadataEditing {
 
 QList<FieldInfo> tagFields() {
     return {
-        {Field::Title, QStringLiteral("tfTitle"), QStringLiteral("Title")},
-        {Field::Artist, QStringLiteral("tfArtist"), QStringLiteral("Artist")},
-        {Field::AlbumArtist, QStringLiteral("tfAlbumArtist"), QStringLiteral("Album artist")},
-        {Field::Composer, QStringLiteral("tfComposer"), QStringLiteral("Composer")},
-        {Field::Album, QStringLiteral("tfAlbum"), QStringLiteral("Album")},
-        {Field::Year, QStringLiteral("tfYear"), QStringLiteral("Year")},
-        {Field::Grouping, QStringLiteral("tfGrouping"), QStringLiteral("Grouping")},
-        {Field::Genre, QStringLiteral("tfGenre"), QStringLiteral("Genre")},
-        {Field::TrackNum, QStringLiteral("tfTrackNum"), QStringLiteral("Track")},
-        {Field::Copyright, QStringLiteral("tfCopyright"), QStringLiteral("Copyright")},
-        {Field::Publisher, QStringLiteral("tfPublisher"), QStringLiteral("Publisher")},
-        {Field::Comments, QStringLiteral("tvComments"), QStringLiteral("Comments")},
+        {Field::Title, QStringLiteral("tfTitle"),
+         QCoreApplication::translate("SXMetadataEditing", "Title")},
+        {Field::Artist, QStringLiteral("tfArtist"),
+         QCoreApplication::translate("SXMetadataEditing", "Artist")},
+        {Field::AlbumArtist, QStringLiteral("tfAlbumArtist"),
+         QCoreApplication::translate("SXMetadataEditing", "Album artist")},
+        {Field::Composer, QStringLiteral("tfComposer"),
+         QCoreApplication::translate("SXMetadataEditing", "Composer")},
+        {Field::Album, QStringLiteral("tfAlbum"),
+         QCoreApplication::translate("SXMetadataEditing", "Album")},
+        {Field::Year, QStringLiteral("tfYear"),
+         QCoreApplication::translate("SXMetadataEditing", "Year")},
+        {Field::Grouping, QStringLiteral("tfGrouping"),
+         QCoreApplication::translate("SXMetadataEditing", "Grouping")},
+        {Field::Genre, QStringLiteral("tfGenre"),
+         QCoreApplication::translate("SXMetadataEditing", "Genre")},
+        {Field::TrackNum, QStringLiteral("tfTrackNum"),
+         QCoreApplication::translate("SXMetadataEditing", "Track")},
+        {Field::Copyright, QStringLiteral("tfCopyright"),
+         QCoreApplication::translate("SXMetadataEditing", "Copyright")},
+        {Field::Publisher, QStringLiteral("tfPublisher"),
+         QCoreApplication::translate("SXMetadataEditing", "Publisher")},
+        {Field::Comments, QStringLiteral("tvComments"),
+         QCoreApplication::translate("SXMetadataEditing", "Comments")},
     };
 }
 
+QString canNotEditNotice() {
+    return QCoreApplication::translate(
+        "SXMetadataEditing", "Sorry, this kind format CAN NOT support for editing for metadata");
+}
+
 FieldInfo lyricsField() {
-    return {Field::Lyrics, QStringLiteral("tvLycirs"), QStringLiteral("Lyrics")};
+    return {Field::Lyrics, QStringLiteral("tvLycirs"),
+            QCoreApplication::translate("SXMetadataEditing", "Lyrics")};
 }
 
 namespace {

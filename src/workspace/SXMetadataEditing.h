@@ -75,8 +75,8 @@ QStringList imageFilePatterns();
 // A picture file as the tags will carry it: its own bytes and type. None when it is no image.
 std::optional<MTEArtwork> artworkFromFile(const QString& path);
 
-inline const QString kCanNotEditNotice =
-    QStringLiteral("Sorry, this kind format CAN NOT support for editing for metadata");
+// The notice above the fields of a format that cannot carry tags.
+QString canNotEditNotice();
 
 // The records of the items shown since the window opened, as they were before any edit: the
 // fields write straight into an item's record, so leaving without OK must put them back.

@@ -35,9 +35,9 @@ void SXWorkspace::windowShouldClose(std::function<void(bool mayClose)> decided) 
         decided(true);
         return;
     }
-    m_store.runAlert({QStringLiteral("Warnning"),
-                      QStringLiteral("Do you want to close all window without save information?"),
-                      {QStringLiteral("Cancel"), QStringLiteral("OK")}},
+    m_store.runAlert({tr("Warnning"),
+                      tr("Do you want to close all window without save information?"),
+                      {tr("Cancel"), tr("OK")}},
                      [guard = QPointer(this), decided](int chosen) {
                          if (!guard || chosen == 0) {
                              decided(false);

@@ -193,5 +193,5 @@ void SXWorkspacePreview::playFailed(const SXMusicInfoPtr& item, const QString& m
         return;
     m_store.setAppState(AppStateIdle);
     Q_EMIT previewChanged();
-    m_store.runAlert({QStringLiteral("Can not play the file"), message, {QStringLiteral("OK")}});
+    m_store.runAlert({tr("Can not play the file"), message, {tr("OK")}});
 }

@@ -56,8 +56,7 @@ void SXWorkspaceScheduler::toggleRun() {
     if (!m_store.presenter())
         return;
     m_store.presenter()->chooseOutputFolder(
-        {path, QStringLiteral("Please choose output folder:"), QStringLiteral("OK"), m_bOrganized,
-         m_bOverOpen},
+        {path, tr("Please choose output folder:"), tr("OK"), m_bOrganized, m_bOverOpen},
         [guard = QPointer(this)](const std::optional<SXOutputFolderChoice>& choice) {
             if (guard)
                 guard->outputFolderChosen(choice);
@@ -205,7 +204,7 @@ void SXWorkspaceScheduler::finishRun() {
     }
     const QString message = summaryMessage(succeeded, failures);
     // Every failure, with its folder and reason, where the user can scroll through them.
-    runAlert({message, QString(), {QStringLiteral("OK")}, SXFailureTexts::detailLines(failures)});
+    runAlert({message, QString(), {tr("OK")}, SXFailureTexts::detailLines(failures)});
     Q_EMIT rowsRedrawRequested();
     Q_EMIT runFinished(message, succeeded, int(failures.size()));
     if (m_bOverOpen && m_store.presenter())

@@ -1,5 +1,7 @@
 #include "workspace/SXWorkspaceTexts.h"
 
+#include "workspace/SXCatalogueTexts.h"
+
 #include "workspace/SXContainerStore.h"
 
 #include <QLocale>
@@ -33,7 +35,9 @@ QString SXWorkspaceTexts::helpBarText(const SXContainerStore& workspace) {
 }
 
 QString SXWorkspaceTexts::tabToolTip(const SXFormatSettingPtr& setting) {
-    return setting ? tr("Converter to %1").arg(setting->fmtDescribe()) : QString();
+    return setting
+               ? tr("Converter to %1").arg(SXCatalogueTexts::description(setting->fmtDescribe()))
+               : QString();
 }
 
 QString SXWorkspaceTexts::countNoun(int count) {

@@ -61,15 +61,19 @@ void SXFormatChooserDialog::windowDidLoad() {
 
 void SXFormatChooserDialog::changeFormatSelect(const QString& name) {
     const SXFormatChooser::Choices choices = m_chooser.changeFormatSelect(name);
-    SXPopUps::fill(popBitRate, choices.bitRates, choices.bitRate);
-    SXPopUps::fill(popChannel, choices.channels, choices.channel);
-    SXPopUps::fill(popSmpRate, choices.sampleRates, choices.sampleRate);
+    SXPopUps::fill(popBitRate, SXCatalogueTexts::Choice::BitRate, choices.bitRates,
+                   choices.bitRate);
+    SXPopUps::fill(popChannel, SXCatalogueTexts::Choice::Channels, choices.channels,
+                   choices.channel);
+    SXPopUps::fill(popSmpRate, SXCatalogueTexts::Choice::SampleRate, choices.sampleRates,
+                   choices.sampleRate);
     btnAddToLibrary->setVisible(choices.libraryVisible);
     btnAddToLibrary->setChecked(choices.libraryOn);
 }
 
 SXFormatSettingPtr SXFormatChooserDialog::getFormatSettingResult() const {
-    return m_chooser.getFormatSettingResult({popFormat->currentText(), popSmpRate->currentText(),
-                                             popBitRate->currentText(), popChannel->currentText(),
-                                             btnAddToLibrary->isChecked()});
+    return m_chooser.getFormatSettingResult(
+        {popFormat->currentText(), SXPopUps::selectedTitle(popSmpRate),
+         SXPopUps::selectedTitle(popBitRate), SXPopUps::selectedTitle(popChannel),
+         btnAddToLibrary->isChecked()});
 }

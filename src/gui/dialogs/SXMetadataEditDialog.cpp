@@ -56,7 +56,7 @@ SXMetadataEditDialog::SXMetadataEditDialog(QWidget* parent)
     buttons->addWidget(m_btnOk);
     // Above the fields, never over them: the fields of a format that cannot carry tags are
     // shown disabled and the notice says why.
-    m_viewdisable = new QLabel(kCanNotEditNotice, this);
+    m_viewdisable = new QLabel(canNotEditNotice(), this);
     m_viewdisable->setObjectName(QStringLiteral("viewdisable"));
     m_viewdisable->setAlignment(Qt::AlignCenter);
     m_viewdisable->setWordWrap(true);

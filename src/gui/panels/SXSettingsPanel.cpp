@@ -24,12 +24,15 @@ SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     _popChannel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChannel"));
     buildButtons();
 
-    connect(_popBitRate, &QComboBox::textActivated, this,
-            [this](const QString& title) { SXSettingPanelActions::setBitRate(m_store, title); });
-    connect(_popSmpRate, &QComboBox::textActivated, this,
-            [this](const QString& title) { SXSettingPanelActions::setSampleRate(m_store, title); });
-    connect(_popChannel, &QComboBox::textActivated, this,
-            [this](const QString& title) { SXSettingPanelActions::setChannels(m_store, title); });
+    connect(_popBitRate, &QComboBox::activated, this, [this] {
+        SXSettingPanelActions::setBitRate(m_store, SXPopUps::selectedTitle(_popBitRate));
+    });
+    connect(_popSmpRate, &QComboBox::activated, this, [this] {
+        SXSettingPanelActions::setSampleRate(m_store, SXPopUps::selectedTitle(_popSmpRate));
+    });
+    connect(_popChannel, &QComboBox::activated, this, [this] {
+        SXSettingPanelActions::setChannels(m_store, SXPopUps::selectedTitle(_popChannel));
+    });
     connect(_btnAddToLibrary, &QCheckBox::clicked, this,
             [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_store, on); });
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
@@ -74,9 +77,12 @@ void SXSettingsPanel::buildButtons() {
 void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     if (!setting)
         return;
-    SXPopUps::fill(_popBitRate, setting->aryBiteRate(), setting->bitRate());
-    SXPopUps::fill(_popChannel, setting->aryChannels(), setting->channels());
-    SXPopUps::fill(_popSmpRate, setting->arySampleRate(), setting->sampleRate());
+    SXPopUps::fill(_popBitRate, SXCatalogueTexts::Choice::BitRate, setting->aryBiteRate(),
+                   setting->bitRate());
+    SXPopUps::fill(_popChannel, SXCatalogueTexts::Choice::Channels, setting->aryChannels(),
+                   setting->channels());
+    SXPopUps::fill(_popSmpRate, SXCatalogueTexts::Choice::SampleRate, setting->arySampleRate(),
+                   setting->sampleRate());
     _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
     _btnSavePath->setToolTip(

@@ -24,8 +24,8 @@ SXContainerTabBar::SXContainerTabBar(SXContainerTabs& tabs, QWidget* parent)
     m_addButton = new QToolButton(parent);
     m_addButton->setObjectName(QStringLiteral("addFormat"));
     m_addButton->setIcon(SXIcons::icon(QStringLiteral("addFormat"), QStringLiteral("list-add")));
-    m_addButton->setToolTip(QStringLiteral("Add new format"));
-    m_addButton->setAccessibleName(QStringLiteral("Add new format"));
+    m_addButton->setToolTip(tr("Add new format"));
+    m_addButton->setAccessibleName(tr("Add new format"));
     m_addButton->setAutoRaise(true);
 
     connect(this, &QTabBar::currentChanged, this, [this](int index) {

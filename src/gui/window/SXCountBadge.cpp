@@ -16,7 +16,7 @@ SXCountBadge::SXCountBadge(QWidget* parent)
 void SXCountBadge::setCount(const QString& label, int count) {
     m_count = count;
     setAccessibleName(SXWorkspaceTexts::tabAccessibleName(label, count));
-    setToolTip(QStringLiteral("%1 %2").arg(count).arg(SXWorkspaceTexts::countNoun(count)));
+    setToolTip(SXWorkspaceTexts::countText(count));
     resize(sizeHint());
     updateGeometry();
     update();

@@ -137,17 +137,17 @@ void TestWorkspaceWindow::chooserAddsTheChosenContainerAndCancelAddsNothing() {
         QTest::keyClick(format, Qt::Key_Down);
     auto* sampleRate = chooser->findChild<QComboBox*>(QStringLiteral("popSmpRate"));
     QVERIFY(sampleRate->count() > 1);
-    const QString catalogueRate = sampleRate->currentText();
+    const QString catalogueRate = sampleRate->currentData().toString();
     sampleRate->setFocus();
     QTest::keyClick(sampleRate, Qt::Key_End);
-    const QString chosenRate = sampleRate->currentText();
+    const QString chosenRate = sampleRate->currentData().toString();
     grab(chooser, QStringLiteral("chooser"));
     buttons = chooser->findChild<QDialogButtonBox*>();
     buttons->button(QDialogButtonBox::Ok)->click();
 
     QTRY_VERIFY(tabIndex(QStringLiteral("FLAC")) >= 0);
     QCOMPARE(m_window->tabBar().currentIndex(), tabIndex(QStringLiteral("FLAC")));
-    QCOMPARE(child<QComboBox>("popSmpRate")->currentText(), chosenRate);
+    QCOMPARE(child<QComboBox>("popSmpRate")->currentData().toString(), chosenRate);
     QVERIFY(chosenRate != catalogueRate);
     // The container got a copy: the catalogue still offers its own default.
     QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("FLAC"))->sampleRate(),
@@ -179,13 +179,13 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
 
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     const SXFormatSettingPtr mp3 = ws.store().getSelectedTabFormatSetting();
-    QCOMPARE(bitRate->currentText(), mp3->bitRate());
+    QCOMPARE(bitRate->currentData().toString(), mp3->bitRate());
     QVERIFY(library->isVisible());
 
     // Choosing by keyboard writes the selected container's setting, nobody else's.
     bitRate->setFocus();
     QTest::keyClick(bitRate, Qt::Key_Home);
-    const QString lowest = bitRate->currentText();
+    const QString lowest = bitRate->currentData().toString();
     QCOMPARE(mp3->bitRate(), lowest);
     QTest::mouseClick(library, Qt::LeftButton);
     QCOMPARE(mp3->enumAddToLibrary(), library->isChecked() ? 1 : 0);
@@ -196,7 +196,7 @@ void TestWorkspaceWindow::settingsPanelMirrorsAndEditsTheSelectedContainer() {
     QVERIFY(!library->isVisible());
     m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
     QVERIFY(library->isVisible());
-    QCOMPARE(bitRate->currentText(), lowest);
+    QCOMPARE(bitRate->currentData().toString(), lowest);
     QCOMPARE(library->isChecked(), mp3->enumAddToLibrary() == 1);
 }
 

@@ -147,3 +147,35 @@ QStringList mnemonicClashes(QWidget* root) {
 }
 
 } // namespace SonoriaGuiTest
+
+namespace SonoriaGuiTest {
+
+QStringList clippedTexts(QWidget* root) {
+    QStringList clipped;
+    const auto check = [&clipped](QWidget* widget, const QString& text, int needed) {
+        if (widget->isVisible() && !text.isEmpty() && widget->width() < needed)
+            clipped.append(QStringLiteral("%1 \"%2\": %3 < %4 px")
+                               .arg(widget->metaObject()->className(), text)
+                               .arg(widget->width())
+                               .arg(needed));
+    };
+    QList<QWidget*> widgets = root->findChildren<QWidget*>();
+    widgets.prepend(root);
+    for (QWidget* widget : std::as_const(widgets)) {
+        if (auto* label = qobject_cast<QLabel*>(widget); label && !label->wordWrap())
+            check(label, label->text(), label->minimumSizeHint().width());
+        else if (auto* button = qobject_cast<QAbstractButton*>(widget))
+            check(button, button->text(), button->sizeHint().width());
+        else if (auto* tabs = qobject_cast<QTabBar*>(widget)) {
+            for (int i = 0; i < tabs->count(); ++i) {
+                const QString text = tabs->tabText(i);
+                const int needed = tabs->fontMetrics().horizontalAdvance(text);
+                if (tabs->tabRect(i).width() < needed)
+                    clipped.append(QStringLiteral("tab \"%1\"").arg(text));
+            }
+        }
+    }
+    return clipped;
+}
+
+} // namespace SonoriaGuiTest

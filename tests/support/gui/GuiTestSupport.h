@@ -49,6 +49,10 @@ QStringList accessibilityProblems(QWidget* root);
 // buddy, group boxes, the menu bar's titles, tabs): empty when each mnemonic is unique.
 QStringList mnemonicClashes(QWidget* root);
 
+// Every visible label, button or tab under `root` narrower than its text needs (a word cut off
+// or elided): empty when every text fits.
+QStringList clippedTexts(QWidget* root);
+
 } // namespace SonoriaGuiTest
 
 #define SONORIA_GUI_TEST_MAIN(TestObject)                                                          \

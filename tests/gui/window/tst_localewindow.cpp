@@ -1,0 +1,97 @@
+#include "base/SXPathFailure.h"
+#include "base/SXTranslations.h"
+#include "gui/window/SXMainAppController.h"
+#include "support/gui/GuiTestSupport.h"
+#include "workspace/SXWorkspace.h"
+#include "workspace/SXWorkspaceScheduler.h"
+
+#include <QLocale>
+#include <QMessageBox>
+#include <QTemporaryDir>
+#include <QTranslator>
+
+using namespace SonoriaGuiTest;
+
+// The window and the run's summary in every language the program has a catalogue for: each
+// is grabbed for a person to look at, and no text may be cut off (German and French run long).
+class TestLocaleWindow : public QObject {
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void everyTextFits_data();
+    void everyTextFits();
+
+private:
+    QTemporaryDir m_media;
+    QString m_source;
+};
+
+void TestLocaleWindow::initTestCase() {
+    QVERIFY(m_media.isValid());
+    m_source = m_media.filePath(QStringLiteral("Morning Walk.flac"));
+    QVERIFY(SonoriaTest::makeTone(m_source, 2.0));
+}
+
+void TestLocaleWindow::everyTextFits_data() {
+    QTest::addColumn<QString>("language");
+    const QStringList languages = SXTranslations::availableLanguages();
+    QVERIFY(languages.contains(QStringLiteral("en")));
+    for (const QString& language : languages)
+        QTest::newRow(qPrintable(language)) << language;
+}
+
+void TestLocaleWindow::everyTextFits() {
+    QFETCH(QString, language);
+    const QList<QTranslator*> translators = SXTranslations::load(language, this);
+    QVERIFY(!translators.isEmpty());
+    for (QTranslator* translator : translators)
+        QCoreApplication::installTranslator(translator);
+    QLocale::setDefault(QLocale(language));
+    const auto restore = qScopeGuard([&translators] {
+        for (QTranslator* translator : translators) {
+            QCoreApplication::removeTranslator(translator);
+            delete translator;
+        }
+        QLocale::setDefault(QLocale::c());
+    });
+
+    SXMainAppController window;
+    window.resize(960, 600);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    SXWorkspace& ws = window.workspace();
+    ws.tabs().addDefaultTabs();
+    ws.addRun().loadAndParseFiles({m_source});
+    QTRY_COMPARE_WITH_TIMEOUT(ws.store().currentTabItemCount(), 1, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+    QTest::qWait(50);
+    grab(&window, QStringLiteral("locale-window-") + language);
+    const QStringList windowClipped = clippedTexts(&window);
+    QVERIFY2(windowClipped.isEmpty(), qPrintable(windowClipped.join(QLatin1Char('\n'))));
+
+    // The summary of a run with failures, in the words the scheduler uses.
+    const SXPathFailureList failures{
+        {m_media.filePath(QStringLiteral("Evening Song.flac")),
+         QCoreApplication::translate("ConvertFailure", "No space left on device")},
+        {m_media.filePath(QStringLiteral("Night.wav")),
+         QCoreApplication::translate("ConvertFailure", "The output folder is read-only")}};
+    ws.store().runAlert({SXWorkspaceScheduler::summaryMessage(4, failures),
+                         QString(),
+                         {QCoreApplication::translate("SXWorkspaceScheduler", "OK")}});
+    QMessageBox* summary = openDialog<QMessageBox>(&window);
+    QVERIFY(summary);
+    QVERIFY(QTest::qWaitForWindowExposed(summary));
+    // The English catalogue corrects the source text's grammar.
+    if (language == QLatin1String("en"))
+        QVERIFY2(summary->text().startsWith(QLatin1String("4 files have been converted.")),
+                 qPrintable(summary->text()));
+    grab(summary, QStringLiteral("locale-summary-") + language);
+    const QStringList alertClipped = clippedTexts(summary);
+    QVERIFY2(alertClipped.isEmpty(), qPrintable(alertClipped.join(QLatin1Char('\n'))));
+    QTest::keyClick(summary, Qt::Key_Return);
+    QTRY_VERIFY(!summary->isVisible());
+}
+
+SONORIA_GUI_TEST_MAIN(TestLocaleWindow)
+#include "tst_localewindow.moc"
