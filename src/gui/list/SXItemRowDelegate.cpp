@@ -3,6 +3,7 @@
 #include "gui/list/SXItemListModel.h"
 #include "gui/panels/SXIcons.h"
 #include "workspace/SXItemRowLook.h"
+#include "workspace/SXReadableNames.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
@@ -28,14 +29,23 @@ bool isKey(const QStyleOptionViewItem& option) {
 }
 } // namespace
 
-SXItemRowGeometry SXItemRowGeometry::of(const QRect& row) {
+SXItemRowGeometry SXItemRowGeometry::of(const QRect& row, const QFontMetrics* metrics) {
     SXItemRowGeometry g;
     g.play = buttonAt(row.left() + 6, row);
     g.right = buttonAt(row.right() - 6 - kButton, row);
     g.state = buttonAt(g.right.left() - 8 - kButton, row);
     const int left = g.play.right() + 10;
     const int right = g.state.left() - 10;
-    const int codecWidth = 56, durationWidth = 64, gap = 8;
+    const int gap = 8;
+    int codecWidth = 56, durationWidth = 64;
+    if (metrics) {
+        const int room = metrics->averageCharWidth();
+        codecWidth = std::max(codecWidth, metrics->horizontalAdvance(SXReadableNames::codecName(
+                                              QStringLiteral("pcm_s24le"))) +
+                                              room);
+        durationWidth =
+            std::max(durationWidth, metrics->horizontalAdvance(QStringLiteral("0:00:00")) + room);
+    }
     g.codec = QRect(right - codecWidth, row.top(), codecWidth, row.height());
     g.duration =
         QRect(g.codec.left() - gap - durationWidth, row.top(), durationWidth, row.height());
@@ -72,7 +82,7 @@ void SXItemRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& opt
     QStyle* style = widget ? widget->style() : QApplication::style();
     style->drawPrimitive(QStyle::PE_PanelItemViewItem, &background, painter, widget);
 
-    const SXItemRowGeometry geometry = SXItemRowGeometry::of(option.rect);
+    const SXItemRowGeometry geometry = SXItemRowGeometry::of(option.rect, &option.fontMetrics);
     paintLabels(painter, option, geometry, index);
 
     const SXItemRowLook look = SXItemRowLookRules::rowLook(

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QFontMetrics>
+
 #include <QHash>
 #include <QIcon>
 #include <QStyledItemDelegate>
@@ -10,7 +12,9 @@ class SXContainerStore;
 // button and the right button.
 struct SXItemRowGeometry {
     QRect play, name, artist, duration, codec, state, right;
-    static SXItemRowGeometry of(const QRect& row);
+    // With `metrics`, the codec and duration columns are as wide as their usual texts need in
+    // that font ("PCM 24-bit", "1:23:45" and their translations); the buttons never move.
+    static SXItemRowGeometry of(const QRect& row, const QFontMetrics* metrics = nullptr);
 };
 
 // Paints the rows of the item list, 30 px each, from the items' cached fields: the play button
