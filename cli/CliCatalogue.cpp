@@ -1,5 +1,7 @@
 #include "CliCatalogue.h"
 
+#include "workspace/SXCatalogueTexts.h"
+
 #include "model/SXDataEngine.h"
 
 #include <QCoreApplication>
@@ -47,7 +49,8 @@ QString CliCatalogue::formatListing() {
         if (!format)
             continue;
         text += QStringLiteral("%1 (.%2): %3\n")
-                    .arg(name, format->outputExtName(), format->fmtDescribe());
+                    .arg(name, format->outputExtName(),
+                         SXCatalogueTexts::description(format->fmtDescribe()));
         text += choiceLine(QCoreApplication::translate("CliCatalogue", "bit rates:"),
                            format->aryBiteRate(), format->bitRate());
         text += choiceLine(QCoreApplication::translate("CliCatalogue", "sample rates:"),
