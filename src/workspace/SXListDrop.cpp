@@ -4,6 +4,8 @@
 #include "workspace/SXItemMoves.h"
 #include "workspace/SXWorkspaceTexts.h"
 
+#include <QCoreApplication>
+
 bool SXListDrop::acceptsDrops(const SXContainerStore& store) {
     const int state = store.enumAppState();
     return state != AppStateConverting && state != AppStateLoading;
@@ -68,8 +70,10 @@ SXDroppedLocations SXListDrop::splitLocations(const QList<QUrl>& urls) {
 }
 
 SXAlert SXListDrop::refusedLocationsAlert(const QStringList& refused) {
-    return {QStringLiteral("Following location(s) are not files on this computer and were not "
-                           "added!"),
+    return {QCoreApplication::translate("SXListDrop",
+                                        "Following location(s) are not files on this computer "
+                                        "and were not added!",
+                                        nullptr, int(refused.size())),
             SXWorkspaceTexts::cappedNameLines(refused),
-            {QStringLiteral("OK")}};
+            {QCoreApplication::translate("SXListDrop", "OK")}};
 }

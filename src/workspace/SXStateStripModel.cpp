@@ -4,6 +4,7 @@
 #include "framework/MTEAudioFile.h"
 #include "workspace/SXContainerStore.h"
 
+#include <QCoreApplication>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -16,7 +17,7 @@ void SXStateStripModel::updateForAppState(int state, const SXMusicInfoPtr& item)
     m_look.sliderShown = false;
     switch (state) {
     case AppStateConverting:
-        m_look.name = QStringLiteral("Converting...");
+        m_look.name = QCoreApplication::translate("SXStateStripModel", "Converting...");
         m_look.nameShown = true;
         m_look.timesShown = false;
         m_look.progressShown = true;
