@@ -7,6 +7,7 @@
 #include <QMutex>
 #include <QStringDecoder>
 
+#include <algorithm>
 #include <iconv.h>
 #include <libcue.h>
 #include <memory>
@@ -145,10 +146,17 @@ QString SXCueSheet::decode(const QByteArray& bytes) {
     const QString decoded = utf8.decode(text);
     if (!utf8.hasError())
         return decoded;
+    // A sheet holds few letters beyond ASCII, and on so few uchardet takes Windows-1252 for a
+    // Mac encoding; sheets in those come from Windows rippers, Mac ones write UTF-8. A guess
+    // that gives C1 control characters is no text either.
     const QString encoding = detectedEncoding(text);
-    if (!encoding.isEmpty() && encoding.compare(QLatin1String("UTF-8"), Qt::CaseInsensitive)) {
+    if (!encoding.isEmpty() && !encoding.startsWith(QLatin1String("MAC"), Qt::CaseInsensitive) &&
+        encoding.compare(QLatin1String("UTF-8"), Qt::CaseInsensitive)) {
         const QString converted = convertWithIconv(text, encoding.toLatin1().constData());
-        if (!converted.isEmpty())
+        const bool controls = std::any_of(converted.cbegin(), converted.cend(), [](QChar c) {
+            return c.unicode() >= 0x80 && c.unicode() < 0xA0;
+        });
+        if (!converted.isEmpty() && !controls)
             return converted;
     }
     return convertWithIconv(text, "WINDOWS-1252");
