@@ -192,6 +192,12 @@ void TestCueTracks::sheetsAreOfferedTrackByTrack() {
         QCOMPARE(tags->artist(), i == 2 ? u"Invité"_s : u"Les Sinus"_s);
         QCOMPARE(tags->album(), u"Trois Tons"_s);
     }
+    // Dragged to another window, a row stays the same track.
+    bool ok = false;
+    const SXMusicInfoList moved = SXMusicInfo::unarchiveItems(SXMusicInfo::archiveItems(rows), &ok);
+    QVERIFY(ok);
+    for (int i = 0; i < 3; ++i)
+        QCOMPARE(moved.at(i)->mediaInfo()->cueTrack(), rows.at(i)->mediaInfo()->cueTrack());
     // Added again, nothing new is listed.
     QVERIFY(addFiles(workspace, u"FLAC"_s, {path(added)}, &failed));
     QCOMPARE(workspace.store().getDataForFormat(u"FLAC"_s).size(), 3);
