@@ -151,7 +151,8 @@ QStringList SXFolderScan::acceptedExtensions() {
                            QStringLiteral("aiff"), QStringLiteral("aif"),  QStringLiteral("aifc"),
                            QStringLiteral("wv"),   QStringLiteral("webm"), QStringLiteral("mka"),
                            QStringLiteral("m4b"),  QStringLiteral("mpc"),  QStringLiteral("tta"),
-                           QStringLiteral("au"),   QStringLiteral("caf"),  QStringLiteral("spx")};
+                           QStringLiteral("au"),   QStringLiteral("caf"),  QStringLiteral("spx"),
+                           QStringLiteral("cue")};
     std::function<bool()> experimental;
     {
         QMutexLocker lock(&g_switchLock);

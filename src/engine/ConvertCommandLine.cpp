@@ -30,6 +30,17 @@ int channels(const ConvertJob& job) {
         return 2;
     return job.choices.channels.value_or(job.sourceChannels);
 }
+// A track of a cue sheet is cut by sample number, not by time: a lossless source then gives
+// exactly the track's samples, and the next track starts where this one ended. The timestamps
+// start again at 0, so the progress and the output's length are the track's own.
+QString rangeFilter(const ConvertJob& job) {
+    if (!job.hasRange)
+        return {};
+    QString filter = QStringLiteral("atrim=start_sample=%1").arg(job.rangeStartSample);
+    if (job.rangeEndSample >= 0)
+        filter += QStringLiteral(":end_sample=%1").arg(job.rangeEndSample);
+    return filter + QStringLiteral(",asetpts=PTS-STARTPTS");
+}
 } // namespace
 
 QString ConvertCommandLine::ffmpegPath() {
@@ -43,20 +54,19 @@ QString ConvertCommandLine::ffmpegPath() {
 
 QStringList ConvertCommandLine::arguments(const QString& executable, const ConvertJob& job,
                                           const QString& outputFile) {
-    return {executable,
-            QStringLiteral("-i"),
-            job.sourcePath,
-            QStringLiteral("-vn"),
-            QStringLiteral("-acodec"),
-            job.encoder,
-            QStringLiteral("-ar"),
-            QString::number(sampleRate(job), 'f', 2),
-            QStringLiteral("-b:a"),
-            QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k'),
-            QStringLiteral("-ac"),
-            QString::number(channels(job)),
-            QStringLiteral("-y"),
-            outputFile};
+    QStringList arguments{executable, QStringLiteral("-i"), job.sourcePath, QStringLiteral("-vn")};
+    if (const QString filter = rangeFilter(job); !filter.isEmpty())
+        arguments << QStringLiteral("-af") << filter;
+    return arguments + QStringList{QStringLiteral("-acodec"),
+                                   job.encoder,
+                                   QStringLiteral("-ar"),
+                                   QString::number(sampleRate(job), 'f', 2),
+                                   QStringLiteral("-b:a"),
+                                   QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k'),
+                                   QStringLiteral("-ac"),
+                                   QString::number(channels(job)),
+                                   QStringLiteral("-y"),
+                                   outputFile};
 }
 
 QString ConvertCommandLine::readable(const QStringList& arguments) {

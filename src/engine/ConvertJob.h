@@ -17,6 +17,12 @@ struct ConvertJob {
     double sourceDuration = 0;       // seconds
     bool sourceDurationExact = true; // false: only guessed from the bit rate
 
+    // A cue sheet's track: only this range of the source is converted, counted in samples at
+    // the source's rate (end -1: to the end of the file); sourceDuration is then the track's.
+    bool hasRange = false;
+    qint64 rangeStartSample = 0;
+    qint64 rangeEndSample = -1;
+
     SXConversionChoices choices;
     QString encoder;   // ffmpeg's encoder name ("libmp3lame")
     QString extension; // of the final file, without the dot

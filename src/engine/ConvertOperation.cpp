@@ -298,6 +298,12 @@ QString ConvertOperation::saveTags(const QString& path) {
     // The output gets the record and the source's other fields as its only tags.
     const SXMusicInfoPtr item = musicToConvert();
     const std::shared_ptr<MTEAudioFile> source = item ? item->metHandler() : nullptr;
+    // A cue sheet's track whose audio file had no readable tags still gets the sheet's words
+    // (with a handle, the loader already put them into its record).
+    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
+    if (const std::optional<SXCueTrack> track = media ? media->cueTrack() : std::nullopt;
+        track && !source)
+        MTETagCopy::overrideWithCueTrack(*track, *destination);
     QString error;
     if (!MTETagCopy::copy(source.get(), *destination, path, &error))
         return ConvertFailure::tagsNotSaved(error);

@@ -3,6 +3,7 @@
 #include "base/SXLog.h"
 #include "framework/HVMediaInfo.h"
 #include "framework/MTEAudioFileMgr.h"
+#include "framework/MTETagCopy.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -32,13 +33,36 @@ void readFileAttributes(LSMedia& media) {
 }
 
 // Everything after a good probe. Unreadable tags leave the handle empty; the item still loads.
+// A cue sheet's track reads the tags of its audio file, with the sheet's words over them.
 void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
     readFileAttributes(media);
-    const QString path = item.strFilePath();
+    const QString path = media.filePath();
     std::shared_ptr<MTEAudioFile> handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);
     if (!handle)
         SXLog::line(QStringLiteral("load %1 failed!").arg(path));
+    if (const std::optional<SXCueTrack> track = media.cueTrack(); track && handle)
+        MTETagCopy::overrideWithCueTrack(*track, *handle);
     item.setMetHandler(handle);
+}
+
+// A track lasts from its start to its end in the file, not as long as the whole file. False
+// with the reason on the record when the sheet places it beyond the file's end.
+bool narrowToTrack(LSMedia& media) {
+    const std::optional<SXCueTrack> track = media.cueTrack();
+    if (!track)
+        return true;
+    const double fileSeconds = media.duration();
+    const double start = double(track->startFrame) / SXCueTrack::kFramesPerSecond;
+    if (fileSeconds > 0 && start >= fileSeconds) {
+        media.setFailReason(
+            QCoreApplication::translate("LSMediaLoader",
+                                        "Track %1 of the cue sheet starts after the end of %2")
+                .arg(track->number)
+                .arg(QFileInfo(media.filePath()).fileName()));
+        return false;
+    }
+    media.setDuration(track->seconds(fileSeconds));
+    return true;
 }
 
 // Why a probe failed, in the user's words: the system's reason when the file cannot even be
@@ -126,7 +150,8 @@ void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
         const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
         // An item that comes with a reason was refused before the load (a folder that cannot
         // be read, a name that is not valid UTF-8); there is nothing to probe.
-        if (!media || !media->failReason().isEmpty() || !HVMediaInfo::dumpMediaInfo(*media)) {
+        if (!media || !media->failReason().isEmpty() || !HVMediaInfo::dumpMediaInfo(*media) ||
+            !narrowToTrack(*media)) {
             if (media && media->failReason().isEmpty())
                 media->setFailReason(unloadableReason(media->filePath()));
             failedIndex.insert(i);

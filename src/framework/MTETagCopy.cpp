@@ -122,3 +122,17 @@ bool MTETagCopy::copy(const MTEAudioFile* source, MTEAudioFile& destination, con
         },
         error);
 }
+
+void MTETagCopy::overrideWithCueTrack(const SXCueTrack& track, MTEAudioFile& handle) {
+    const auto put = [](const QString& value, auto setter) {
+        if (!value.isEmpty())
+            setter(value);
+    };
+    put(track.title, [&](const QString& v) { handle.setTitle(v); });
+    put(track.performer, [&](const QString& v) { handle.setArtist(v); });
+    put(track.album, [&](const QString& v) { handle.setAlbum(v); });
+    put(track.albumPerformer, [&](const QString& v) { handle.setAlbumArtist(v); });
+    put(track.date, [&](const QString& v) { handle.setDate(v); });
+    put(track.genre, [&](const QString& v) { handle.setGenre(v); });
+    handle.setTrack(QStringLiteral("%1/%2").arg(track.number).arg(track.total));
+}

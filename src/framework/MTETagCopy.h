@@ -1,6 +1,7 @@
 #pragma once
 
 #include "framework/MTEAudioFile.h"
+#include "framework/SXCueSheet.h"
 
 #include <QString>
 
@@ -17,4 +18,9 @@ public:
     // the file could not be written.
     static bool copy(const MTEAudioFile* source, MTEAudioFile& destination, const QString& path,
                      QString* error = nullptr);
+
+    // Puts what a cue sheet says of `track` into the record of `handle` over what the audio file
+    // carries: title, performer as artist, album, album performer as album artist, "3/12" as
+    // track, and date and genre when the sheet has them. The rest of the file's tags stay.
+    static void overrideWithCueTrack(const SXCueTrack& track, MTEAudioFile& handle);
 };

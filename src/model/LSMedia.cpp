@@ -33,6 +33,51 @@ SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
 
 #undef SX_LOCKED_STRING
 
+std::optional<SXCueTrack> LSMedia::cueTrack() const {
+    QMutexLocker guard(&m_lock);
+    return m_cueTrack;
+}
+
+void LSMedia::setCueTrack(const std::optional<SXCueTrack>& track) {
+    QMutexLocker guard(&m_lock);
+    m_cueTrack = track;
+}
+
+namespace {
+// A track travels with its item between windows, under keys of its own.
+void encodeCueTrack(SXCoder& coder, const SXCueTrack& track) {
+    coder.encode(QStringLiteral("cueNumber"), track.number);
+    coder.encode(QStringLiteral("cueTotal"), track.total);
+    coder.encode(QStringLiteral("cueTitle"), track.title);
+    coder.encode(QStringLiteral("cuePerformer"), track.performer);
+    coder.encode(QStringLiteral("cueAlbum"), track.album);
+    coder.encode(QStringLiteral("cueAlbumPerformer"), track.albumPerformer);
+    coder.encode(QStringLiteral("cueDate"), track.date);
+    coder.encode(QStringLiteral("cueGenre"), track.genre);
+    coder.encode(QStringLiteral("cueFile"), track.file);
+    coder.encode(QStringLiteral("cueSheet"), track.sheet);
+    coder.encode(QStringLiteral("cueStartFrame"), track.startFrame);
+    coder.encode(QStringLiteral("cueEndFrame"), track.endFrame);
+}
+
+SXCueTrack decodeCueTrack(const SXCoder& coder) {
+    SXCueTrack track;
+    track.number = coder.decodeInt(QStringLiteral("cueNumber"));
+    track.total = coder.decodeInt(QStringLiteral("cueTotal"));
+    track.title = coder.decodeString(QStringLiteral("cueTitle"));
+    track.performer = coder.decodeString(QStringLiteral("cuePerformer"));
+    track.album = coder.decodeString(QStringLiteral("cueAlbum"));
+    track.albumPerformer = coder.decodeString(QStringLiteral("cueAlbumPerformer"));
+    track.date = coder.decodeString(QStringLiteral("cueDate"));
+    track.genre = coder.decodeString(QStringLiteral("cueGenre"));
+    track.file = coder.decodeString(QStringLiteral("cueFile"));
+    track.sheet = coder.decodeString(QStringLiteral("cueSheet"));
+    track.startFrame = coder.decode(QStringLiteral("cueStartFrame")).toLongLong();
+    track.endFrame = coder.decode(QStringLiteral("cueEndFrame")).toLongLong();
+    return track;
+}
+} // namespace
+
 std::shared_ptr<LSMedia> LSMedia::copy() const {
     auto result = std::make_shared<LSMedia>();
     copyBaseTo(*result);
@@ -41,6 +86,7 @@ std::shared_ptr<LSMedia> LSMedia::copy() const {
     result->setFailReason(failReason());
     result->setStrLastModified(strLastModified());
     result->setDFileSize(dFileSize());
+    result->setCueTrack(cueTrack());
     return result;
 }
 
@@ -67,6 +113,8 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("vOACodecName"), QString());
     coder.encode(QStringLiteral("strOutFileExt"), QString());
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
+    if (const std::optional<SXCueTrack> track = cueTrack())
+        encodeCueTrack(coder, *track);
 }
 
 void LSMedia::initWithCoder(const SXCoder& coder) {
@@ -78,6 +126,8 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
     setEumCvtState(coder.decodeInt(QStringLiteral("eumCvtState")));
     setEumMediaType(coder.decodeInt(QStringLiteral("eumMediaType")));
     setStrOutFileName(coder.decodeString(QStringLiteral("strOutFileName")));
+    if (coder.containsValueForKey(QStringLiteral("cueSheet")))
+        setCueTrack(decodeCueTrack(coder));
 }
 
 std::shared_ptr<LSMedia> LSMedia::decodeWithCoder(const SXCoder& coder) {

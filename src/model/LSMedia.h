@@ -1,8 +1,10 @@
 #pragma once
 
 #include "framework/HVMediaInfoItem.h"
+#include "framework/SXCueSheet.h"
 
 #include <memory>
+#include <optional>
 
 // Conversion states of one item.
 enum CvtState : int {
@@ -37,6 +39,10 @@ public:
     // empty unless the state is CvtStateFailed. Cleared when a new run prepares the item.
     QString failReason() const;
     void setFailReason(const QString& value);
+    // The range of a cue sheet's track when the item is one (the file path is then the track's
+    // audio file, and the duration the track's length); none for a whole file.
+    std::optional<SXCueTrack> cueTrack() const;
+    void setCueTrack(const std::optional<SXCueTrack>& track);
 
     std::shared_ptr<LSMedia> copy() const;
     QString description() const;
@@ -51,6 +57,7 @@ private:
     double m_dFileSize = 0;
     QString m_strOutFileName;
     QString m_failReason;
+    std::optional<SXCueTrack> m_cueTrack;
 };
 
 using LSMediaPtr = std::shared_ptr<LSMedia>;

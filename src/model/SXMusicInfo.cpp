@@ -52,6 +52,16 @@ std::shared_ptr<SXMusicInfo> SXMusicInfo::newForSource(const QString& path,
     return item;
 }
 
+std::shared_ptr<SXMusicInfo> SXMusicInfo::newForCueTrack(const SXCueTrack& track,
+                                                         const QString& musicType) {
+    auto item = newForSource(track.file, musicType);
+    item->setStrFilePath(track.identity());
+    const LSMediaPtr media = item->mediaInfo();
+    media->setStrOutFileName(track.outputName());
+    media->setCueTrack(track);
+    return item;
+}
+
 bool SXMusicInfo::isEqualToMusic(const SXMusicInfo& other) const {
     return strFilePath() == other.strFilePath() && getStrMusicType() == other.getStrMusicType();
 }

@@ -44,6 +44,10 @@ public:
     // A new item for a source file added to container `musicType`: its media record knows the
     // path, and the output is named after the file without its extension.
     static std::shared_ptr<SXMusicInfo> newForSource(const QString& path, const QString& musicType);
+    // A new item for one track of a cue sheet: named "sheet.cue#03" in the container, its
+    // record probing the track's audio file, its output named "03 Title".
+    static std::shared_ptr<SXMusicInfo> newForCueTrack(const SXCueTrack& track,
+                                                       const QString& musicType);
 
     // Same path and same container.
     bool isEqualToMusic(const SXMusicInfo& other) const;

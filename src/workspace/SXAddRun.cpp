@@ -3,6 +3,7 @@
 #include "base/SXFolderScan.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
+#include "workspace/SXCueBatch.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXWorkspacePreview.h"
 #include "workspace/SXWorkspaceTexts.h"
@@ -90,10 +91,7 @@ SXMusicInfoList SXAddRun::makeBatch(const QStringList& paths, const QString& con
                                     const SXMusicInfoList& current) {
     SXPathFailureList failures;
     const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths, &failures), current);
-    SXMusicInfoList batch;
-    batch.reserve(candidates.size() + failures.size());
-    for (const QString& path : candidates)
-        batch.append(SXMusicInfo::newForSource(path, container));
+    SXMusicInfoList batch = SXCueBatch::items(candidates, container, current);
     for (const SXPathFailure& failure : std::as_const(failures)) {
         const SXMusicInfoPtr item = SXMusicInfo::newForSource(failure.path, container);
         item->mediaInfo()->setFailReason(failure.reason);

@@ -40,9 +40,9 @@ public:
     // Drops from `candidates` the paths already in `current`, with the walk that skips the path
     // moving into a dropped one's place.
     static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);
-    // The items of an add run for `container`: the paths expanded, without those in `current`;
-    // then an item for each path that cannot be taken, its reason in its record, which the
-    // loader reports among the failures without probing it.
+    // The items of an add run for `container`: the paths expanded, without those in `current`,
+    // cue sheets as their tracks (SXCueBatch); then an item for each path that cannot be taken, its
+    // reason in its record, which the loader reports among the failures without probing it.
     static SXMusicInfoList makeBatch(const QStringList& paths, const QString& container,
                                      const SXMusicInfoList& current);
     // "%@\n" per name, "..." after the 11th.

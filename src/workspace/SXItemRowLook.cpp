@@ -18,6 +18,11 @@ SXItemRowTexts SXItemRowLookRules::textsForItem(const SXMusicInfoPtr& item) {
     if (const LSMediaPtr media = item->mediaInfo()) {
         texts.duration = SXTimeText::clockString(media->duration());
         texts.codec = SXReadableNames::codecName(media->strAudioCodecName());
+        // A cue sheet's track is named as the sheet names it, not after the sheet's file.
+        if (const std::optional<SXCueTrack> track = media->cueTrack())
+            texts.name = QStringLiteral("%1 %2")
+                             .arg(track->number, 2, 10, QLatin1Char('0'))
+                             .arg(track->title);
     }
     return texts;
 }

@@ -29,6 +29,11 @@ ConvertJob SXJobBuilder::build(const SXMusicInfo& item, const SXFormatSetting& s
     job.sourceChannels = media->audioChannels();
     job.sourceDuration = media->duration();
     job.sourceDurationExact = media->durationExact();
+    if (const std::optional<SXCueTrack> track = media->cueTrack()) {
+        job.hasRange = true;
+        job.rangeStartSample = track->startSample(job.sourceSampleRate);
+        job.rangeEndSample = track->endSample(job.sourceSampleRate);
+    }
     job.choices = setting.choices();
     job.encoder = setting.decodecName();
     job.extension = setting.outputExtName();

@@ -65,6 +65,7 @@ private Q_SLOTS:
     void unreadableFoldersAndBadNamesFailTheRun_data();
     void unreadableFoldersAndBadNamesFailTheRun();
     void dryRunCreatesNothing();
+    void cueSheetsAreListedAndConvertedByTrack();
     void listsTheCatalogueInOrder();
     void infoShowsTheFallbackTexts();
     void storedFolderIsUsedAndSettingsStayUntouched();
@@ -355,6 +356,27 @@ void TestCli::dryRunCreatesNothing() {
     QVERIFY2(shown.contains(u"would convert: %1 -> %2/MP3/plain tone(1).mp3"_s.arg(
                  source(u"plain tone.wav"_s), out)),
              qPrintable(result.out));
+}
+
+void TestCli::cueSheetsAreListedAndConvertedByTrack() {
+    const QString album = fresh(u"cue"_s);
+    QVERIFY(QDir().mkpath(album));
+    QVERIFY(SonoriaTest::makeTone(album + u"/disc.flac"_s, 3.0));
+    QVERIFY(SonoriaTest::writeFile(album + u"/disc.cue"_s,
+                                   "FILE \"disc.flac\" WAVE\n"
+                                   "TRACK 01 AUDIO\n  TITLE \"One\"\n  INDEX 01 00:00:00\n"
+                                   "TRACK 02 AUDIO\n  TITLE \"Two\"\n  INDEX 01 00:01:00\n"));
+    const QString out = fresh(u"cue-out"_s);
+    const CliResult listed = runCli({"-n", "-f", "WAV", "--no-organize", "-o", out, album});
+    QCOMPARE(listed.exitCode, 0);
+    QCOMPARE(lines(listed.out).mid(0, 2),
+             (QStringList{u"would convert: %1/disc.cue#01 -> %2/01 One.wav"_s.arg(album, out),
+                          u"would convert: %1/disc.cue#02 -> %2/02 Two.wav"_s.arg(album, out)}));
+    const CliResult converted =
+        runCli({"-f", "WAV", "--no-organize", "-o", out, album + u"/disc.cue"_s});
+    QCOMPARE(converted.exitCode, 0);
+    QCOMPARE(filesBelow(out), (QStringList{u"01 One.wav"_s, u"02 Two.wav"_s}));
+    QCOMPARE(probe(out + u"/02 Two.wav"_s).section(u',', 0, 0), u"pcm_s16le"_s);
 }
 
 void TestCli::listsTheCatalogueInOrder() {
