@@ -17,4 +17,7 @@ public:
     // the file could not be written.
     static bool copy(const MTEAudioFile* source, MTEAudioFile& destination, const QString& path,
                      QString* error = nullptr);
+    // Whether a field of the source under TagLib's unified name `name` ("BPM",
+    // "PERFORMER:PIANO") is carried over besides the record's fields.
+    static bool carriesProperty(const QString& name);
 };
