@@ -1,5 +1,6 @@
 #include "framework/MTETagReport.h"
 
+#include "framework/MTEAudioFile.h"
 #include "framework/MTETagCopy.h"
 #include "framework/MTETagFamily.h"
 #include "framework/MTETagFileKind.h"
@@ -110,12 +111,35 @@ MTETagReport MTETagReport::compare(const QString& sourcePath, const QString& out
     return report;
 }
 
+QMap<QString, QString> MTETagReport::recordOf(const MTEAudioFile& handle) {
+    return {{QStringLiteral("TITLE"), handle.title()},
+            {QStringLiteral("ARTIST"), handle.artist()},
+            {QStringLiteral("ALBUMARTIST"), handle.albumArtist()},
+            {QStringLiteral("COMPOSER"), handle.composer()},
+            {QStringLiteral("ALBUM"), handle.album()},
+            {QStringLiteral("DATE"), handle.date()},
+            {QStringLiteral("GROUPING"), handle.grouping()},
+            {QStringLiteral("GENRE"), handle.genre()},
+            {QStringLiteral("TRACKNUMBER"), handle.track()},
+            {QStringLiteral("COPYRIGHT"), handle.copyright()},
+            {QStringLiteral("LABEL"), handle.publisher()},
+            {QStringLiteral("COMMENT"), handle.comment()},
+            {QStringLiteral("LYRICS"), handle.lyric()}};
+}
+
 QStringList MTETagReport::lines() const {
     QStringList lines;
     for (const QList<Entry>* entries : {&changed, &dropped}) {
         for (const Entry& entry : *entries)
             lines.append(tr("%1: %2").arg(fieldName(entry.field), entry.reason));
     }
+    return lines;
+}
+
+QStringList MTETagReport::lostLines() const {
+    QStringList lines;
+    for (const Entry& entry : dropped)
+        lines.append(tr("%1: %2").arg(fieldName(entry.field), entry.reason));
     return lines;
 }
 

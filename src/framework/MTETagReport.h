@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+class MTEAudioFile;
+
 // What of a source's tags arrived in a converted file: each field the source carried (under
 // TagLib's unified names, "TITLE", "LYRICS", and "PICTURE" for the cover art) is kept, changed
 // on the way (a date shortened to a year, a cover scaled) or dropped, and each change or loss
@@ -33,10 +35,15 @@ public:
     static MTETagReport compare(const QString& sourcePath, const QString& outputPath,
                                 const QMap<QString, QString>& asked = {});
 
+    // The record of a handle (as read and as edited) under the unified names, as `asked`.
+    static QMap<QString, QString> recordOf(const MTEAudioFile& handle);
+
     bool lostAnything() const { return !dropped.isEmpty(); }
     bool isEmpty() const { return kept.isEmpty() && changed.isEmpty() && dropped.isEmpty(); }
     // One line per changed or dropped field ("Lyrics: AC3 files hold no tags"), changes first.
     QStringList lines() const;
+    // The dropped fields alone, one line each.
+    QStringList lostLines() const;
     // A field's name as people read it ("Lyrics", "Album artist", "Cover art").
     static QString fieldName(const QString& field);
 };
