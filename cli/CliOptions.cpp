@@ -17,6 +17,8 @@ Convert audio and video files to audio formats.
       --library           deliver finished files to the music library and playlist
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -46,13 +48,14 @@ struct Declared {
     QCommandLineOption library{QStringLiteral("library")};
     QCommandLineOption listFormats{QStringLiteral("list-formats")};
     QCommandLineOption info{QStringLiteral("info"), QString(), QStringLiteral("FILE")};
+    QCommandLineOption checkTags{QStringLiteral("check-tags")};
     QCommandLineOption dryRun{{QStringLiteral("n"), QStringLiteral("dry-run")}};
     QCommandLineOption verbose{{QStringLiteral("v"), QStringLiteral("verbose")}};
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}};
 
     QList<QCommandLineOption> all() const {
-        return {format,  output,      noOrganize, jobs,   bitrate, samplerate, channels,
-                library, listFormats, info,       dryRun, verbose, help};
+        return {format,  output,      noOrganize, jobs,      bitrate, samplerate, channels,
+                library, listFormats, info,       checkTags, dryRun,  verbose,    help};
     }
 };
 
@@ -125,6 +128,15 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
     options.dryRun = parser.isSet(declared.dryRun);
     options.inputs = parser.positionalArguments();
 
+    if (parser.isSet(declared.checkTags)) {
+        if (options.inputs.size() != 2) {
+            *error = QCoreApplication::translate("CliOptionsParser",
+                                                 "--check-tags takes two files: SOURCE and OUTPUT");
+            return std::nullopt;
+        }
+        options.mode = CliOptions::Mode::CheckTags;
+        return options;
+    }
     if (parser.isSet(declared.listFormats)) {
         options.mode = CliOptions::Mode::ListFormats;
     } else if (parser.isSet(declared.info)) {

@@ -7,7 +7,7 @@
 // What the command line asks for, checked for form (numbers are numbers, an input is given).
 // Whether the format and its choices exist is the catalogue's business (CliCatalogue).
 struct CliOptions {
-    enum class Mode { Help, ListFormats, Info, Convert };
+    enum class Mode { Help, ListFormats, Info, CheckTags, Convert };
     Mode mode = Mode::Convert;
     QString formatName = QStringLiteral("MP3");
     QString outputFolder; // empty: the stored last folder, else the default folder
@@ -20,7 +20,7 @@ struct CliOptions {
     bool dryRun = false;
     bool verbose = false;
     QString infoFile;
-    QStringList inputs; // as given; made absolute by the run
+    QStringList inputs; // as given; made absolute by the run (--check-tags: SOURCE, OUTPUT)
 };
 
 class CliOptionsParser {

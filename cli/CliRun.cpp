@@ -208,6 +208,13 @@ void CliRun::runFinished(int succeeded) {
             CliOutput::line(stdout, QCoreApplication::translate("CliRun", "failed: %1: %2")
                                         .arg(failure.path, failure.reason));
     }
+    // What each output could not keep of its source's tags.
+    for (const SXMusicInfoPtr& item : items()) {
+        for (const QString& line : item->tagReport().lostLines())
+            CliOutput::line(stdout, QCoreApplication::translate("CliRun", "tags: %1: %2")
+                                        .arg(CliOutput::escaped(item->strFilePath()),
+                                             CliOutput::escaped(line)));
+    }
     // The window's summary, built again from the escaped names so that none can break a line.
     CliOutput::line(stdout, SXWorkspaceScheduler::summaryMessage(succeeded, failures));
     if (!failures.isEmpty() || m_loadFailures > 0)

@@ -3,6 +3,7 @@
 #include "CliOptions.h"
 #include "CliOutput.h"
 #include "CliRun.h"
+#include "CliTagCheck.h"
 #include "base/SXLog.h"
 #include "base/SXSignalWatcher.h"
 #include "base/SXTranslations.h"
@@ -57,6 +58,8 @@ int main(int argc, char** argv) {
         return 0;
     case CliOptions::Mode::Info:
         return CliInfo::printInfo(options->infoFile);
+    case CliOptions::Mode::CheckTags:
+        return CliTagCheck::print(options->inputs.at(0), options->inputs.at(1));
     case CliOptions::Mode::Convert:
         break;
     }

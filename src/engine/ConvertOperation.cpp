@@ -12,6 +12,7 @@
 #include "engine/TaskWrapper.h"
 #include "framework/MTEAudioFileMgr.h"
 #include "framework/MTETagCopy.h"
+#include "framework/MTETagReport.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -267,7 +268,19 @@ QString ConvertOperation::finishOutput() {
     if (!reason.isEmpty())
         return reason;
     setStrOutFilePath(m_output.finalPath());
+    reportTags(m_output.finalPath());
     return {};
+}
+
+void ConvertOperation::reportTags(const QString& outputPath) {
+    const SXMusicInfoPtr item = musicToConvert();
+    if (!item)
+        return;
+    // The record as the tag editor left it is what the output should carry, not the file.
+    const std::shared_ptr<MTEAudioFile> handle = item->metHandler();
+    item->setTagReport(
+        MTETagReport::compare(m_job.sourcePath, outputPath,
+                              handle ? MTETagReport::recordOf(*handle) : QMap<QString, QString>()));
 }
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {

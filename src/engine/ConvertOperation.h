@@ -68,6 +68,8 @@ private:
     void decideOutcome();
     // Verifies the child's output, writes its tags and gives it its final name: empty on
     // success, else the reason the conversion failed.
+    // Keeps on the item what of its tags arrived in `outputPath`.
+    void reportTags(const QString& outputPath);
     QString finishOutput();
     void fail(const QString& reason);
     void deliverToLibrary(const QString& outputFile);

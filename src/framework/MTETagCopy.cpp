@@ -107,6 +107,10 @@ void copyRecord(const MTEAudioFile& source, MTEAudioFile& destination) {
 
 } // namespace
 
+bool MTETagCopy::carriesProperty(const QString& name) {
+    return isOtherField(TagLib::String(name.toStdString(), TagLib::String::UTF8));
+}
+
 bool MTETagCopy::copy(const MTEAudioFile* source, MTEAudioFile& destination, const QString& path,
                       QString* error) {
     if (source)

@@ -23,4 +23,8 @@ public:
     // carries: title, performer as artist, album, album performer as album artist, "3/12" as
     // track, and date and genre when the sheet has them. The rest of the file's tags stay.
     static void overrideWithCueTrack(const SXCueTrack& track, MTEAudioFile& handle);
+
+    // Whether a field of the source under TagLib's unified name `name` ("BPM",
+    // "PERFORMER:PIANO") is carried over besides the record's fields.
+    static bool carriesProperty(const QString& name);
 };

@@ -39,6 +39,12 @@ std::shared_ptr<MTEAudioFile> SXMusicInfo::metHandler() const {
 void SXMusicInfo::setMetHandler(const std::shared_ptr<MTEAudioFile>& h) {
     sxLockedSet(m_lock, m_metHandler, h);
 }
+MTETagReport SXMusicInfo::tagReport() const {
+    return sxLockedGet(m_lock, m_tagReport);
+}
+void SXMusicInfo::setTagReport(const MTETagReport& report) {
+    sxLockedSet(m_lock, m_tagReport, report);
+}
 
 std::shared_ptr<SXMusicInfo> SXMusicInfo::newForSource(const QString& path,
                                                        const QString& musicType) {

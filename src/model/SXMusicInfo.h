@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/MTETagReport.h"
 #include "model/LSMedia.h"
 
 #include <QList>
@@ -40,6 +41,9 @@ public:
     void setDConvertProgress(double value) { m_dConvertProgress.store(value); }
     std::shared_ptr<MTEAudioFile> metHandler() const;
     void setMetHandler(const std::shared_ptr<MTEAudioFile>& handle);
+    // What of the tags arrived in the last output; empty until a conversion finished.
+    MTETagReport tagReport() const;
+    void setTagReport(const MTETagReport& report);
 
     // A new item for a source file added to container `musicType`: its media record knows the
     // path, and the output is named after the file without its extension.
@@ -73,6 +77,7 @@ private:
     QString m_strMusicType;
     std::atomic<double> m_dConvertProgress{SXProgress::Waiting};
     std::shared_ptr<MTEAudioFile> m_metHandler;
+    MTETagReport m_tagReport;
 };
 
 using SXMusicInfoPtr = std::shared_ptr<SXMusicInfo>;

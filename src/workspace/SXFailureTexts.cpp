@@ -37,7 +37,12 @@ QString SXFailureTexts::runCounts(int succeeded, int failed, int notLoaded) {
 
 QString SXFailureTexts::rowToolTip(const SXMusicInfo& item) {
     const std::optional<SXPathFailure> failure = conversionFailure(item);
-    if (!failure)
-        return item.strFilePath();
+    if (!failure) {
+        const QStringList notKept = item.tagReport().lines();
+        if (notKept.isEmpty())
+            return item.strFilePath();
+        return item.strFilePath() + QLatin1Char('\n') + tr("Tags not kept:") +
+               QStringLiteral("\n  ") + notKept.join(QStringLiteral("\n  "));
+    }
     return item.strFilePath() + QLatin1Char('\n') + tr("Failed: %1").arg(failure->reason);
 }

@@ -49,6 +49,13 @@ SXFileInfoLine failureLine(const SXMusicInfo& item) {
             failure ? failure->reason : QString(), failure.has_value()};
 }
 
+// What of the tags did not arrive as they were in the last output, one field a line.
+SXFileInfoLine tagReportLine(const SXMusicInfo& item) {
+    const QStringList lines = item.tagReport().lines();
+    return {QStringLiteral("tfInfoTagReport"), SXFileInfoText::tr("Tags not kept"),
+            lines.join(QLatin1Char('\n')), !lines.isEmpty()};
+}
+
 } // namespace
 
 QString SXFileInfoText::bitRateText(const MTEAudioFile* tags, const LSMedia* media) {
@@ -131,6 +138,7 @@ QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
          media ? media->strLastModified() : QString()},
         {QStringLiteral("tfInfoWhere"), tr("Where"), path},
         failureLine(item),
+        tagReportLine(item),
     };
 }
 

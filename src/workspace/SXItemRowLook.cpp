@@ -15,6 +15,7 @@ SXItemRowTexts SXItemRowLookRules::textsForItem(const SXMusicInfoPtr& item) {
     texts.name = QFileInfo(item->strFilePath()).completeBaseName();
     if (const std::shared_ptr<MTEAudioFile> tags = item->metHandler())
         texts.artist = tags->artist();
+    texts.tagsLost = item->tagReport().lostAnything();
     if (const LSMediaPtr media = item->mediaInfo()) {
         texts.duration = SXTimeText::clockString(media->duration());
         texts.codec = SXReadableNames::codecName(media->strAudioCodecName());

@@ -9,10 +9,11 @@ class SXContainerStore;
 
 // The four labels of an item's row.
 struct SXItemRowTexts {
-    QString name;     // file name without its extension
-    QString artist;   // from the tag handle
-    QString duration; // SXTimeText::clockString of the media record's duration
-    QString codec;    // the media record's audio codec by its common name ("PCM 16-bit")
+    QString name;          // file name without its extension
+    QString artist;        // from the tag handle
+    QString duration;      // SXTimeText::clockString of the media record's duration
+    QString codec;         // the media record's audio codec by its common name ("PCM 16-bit")
+    bool tagsLost = false; // the last output could not keep all the source's tags
 };
 
 // The round state button of a row: its image, its tool tip and, while converting, the share of

@@ -13,6 +13,7 @@
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QPointer>
+#include <QSet>
 
 #include <utility>
 #include <vector>
@@ -192,19 +193,33 @@ void SXWorkspaceScheduler::finishRun() {
 
     int succeeded = 0;
     SXPathFailureList failures;
+    SXPathFailureList tagLosses;
     for (const QString& name : containerNames()) {
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
             const LSMediaPtr media = item->mediaInfo();
-            if (media && media->eumCvtState() == CvtStateFinished)
+            if (media && media->eumCvtState() == CvtStateFinished) {
                 ++succeeded;
-            else if (const std::optional<SXPathFailure> failure =
-                         SXFailureTexts::conversionFailure(*item))
+                for (const QString& line : item->tagReport().lostLines())
+                    tagLosses.append({item->strFilePath(), line});
+            } else if (const std::optional<SXPathFailure> failure =
+                           SXFailureTexts::conversionFailure(*item))
                 failures.append(*failure);
         }
     }
     const QString message = summaryMessage(succeeded, failures);
     // Every failure, with its folder and reason, where the user can scroll through them.
-    runAlert({message, QString(), {tr("OK")}, SXFailureTexts::detailLines(failures)});
+    // Outputs that could not keep all their tags are named too, behind the same details.
+    QSet<QString> losers;
+    for (const SXPathFailure& loss : std::as_const(tagLosses))
+        losers.insert(loss.path);
+    const QString tagsLine = losers.isEmpty() ? QString()
+                                              : tr("%n files could not keep all their tags.",
+                                                   nullptr, int(losers.size()));
+    QString details = SXFailureTexts::detailLines(failures);
+    if (!tagLosses.isEmpty())
+        details += (details.isEmpty() ? QString() : QStringLiteral("\n")) +
+                   SXFailureTexts::detailLines(tagLosses);
+    runAlert({message, tagsLine, {tr("OK")}, details});
     Q_EMIT rowsRedrawRequested();
     Q_EMIT runFinished(message, succeeded, int(failures.size()));
     if (m_bOverOpen && m_store.presenter())

@@ -132,7 +132,9 @@ void SXItemRowDelegate::paintLabels(QPainter* painter, const QStyleOptionViewIte
                           option.fontMetrics.elidedText(text, Qt::ElideRight, rect.width()));
     };
     painter->save();
-    draw(geometry.name, texts.name, main, Qt::AlignLeft);
+    // A mark before the name when the output lost some tags; the tool tip says which.
+    draw(geometry.name, texts.tagsLost ? QStringLiteral("⚠ ") + texts.name : texts.name, main,
+         Qt::AlignLeft);
     draw(geometry.artist, texts.artist, secondary, Qt::AlignLeft);
     draw(geometry.duration, texts.duration, secondary, Qt::AlignRight);
     draw(geometry.codec, texts.codec, secondary, Qt::AlignLeft);

@@ -1,0 +1,165 @@
+#include "framework/MTEAudioFileMgr.h"
+#include "framework/MTETagCopy.h"
+#include "framework/MTETagReport.h"
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <taglib/fileref.h>
+#include <taglib/tpropertymap.h>
+
+using namespace Qt::StringLiterals;
+
+// Each source family (Xiph comments, ID3v2, MP4 atoms) converted to each output kind the way a
+// run does it (ffmpeg writes the audio, the tag copy the tags), then the report read back: what
+// it calls lost, changed and kept must be what the file on disk shows, with the reason a user
+// can act on, and every reason only where it applies.
+class TestTagReport : public QObject {
+    Q_OBJECT
+
+    struct Kind {
+        const char* extension;
+        const char* codec;
+    };
+
+    QTemporaryDir m_dir;
+    QByteArray m_cover;
+
+    static bool tagSource(const QString& path, const QByteArray& cover) {
+        {
+            TagLib::FileRef ref(QFile::encodeName(path).constData());
+            if (ref.isNull())
+                return false;
+            TagLib::PropertyMap properties;
+            const auto put = [&properties](const char* key, const char* value) {
+                properties.insert(key, TagLib::String(value, TagLib::String::UTF8));
+            };
+            put("TITLE", "Título — 東京");
+            put("ARTIST", "The Artist");
+            put("ALBUM", "The Album");
+            put("DATE", "2019-05-04");
+            put("TRACKNUMBER", "3");
+            put("GENRE", "Jazz");
+            put("LYRICS", "la la la");
+            put("BPM", "120");
+            ref.file()->setProperties(properties);
+            if (!ref.save())
+                return false;
+        }
+        const auto handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);
+        if (!handle)
+            return false;
+        handle->setAlbumImg({{cover, u"image/png"_s}});
+        return handle->saveNew(path);
+    }
+
+    // The output as a run leaves it: audio without tags from ffmpeg, then the source's tags.
+    static QString convert(const QString& source, const QString& folder, const QString& kind) {
+        const QStringList parts = kind.split(u':');
+        const QString output = folder + u"/out."_s + parts.first();
+        const QStringList args{
+            u"-nostdin"_s, u"-loglevel"_s, u"error"_s,         u"-y"_s, u"-i"_s,   source,
+            u"-map"_s,     u"0:a"_s,       u"-map_metadata"_s, u"-1"_s, u"-c:a"_s, parts.last(),
+            output};
+        if (SonoriaTest::run(u"ffmpeg"_s, args) != 0)
+            return {};
+        const auto from = MTEAudioFileMgr::createAudioFileWithPath(source, true);
+        if (const auto to = MTEAudioFileMgr::createAudioFileWithPath(output, true))
+            MTETagCopy::copy(from.get(), *to, output);
+        return output;
+    }
+
+private Q_SLOTS:
+    void initTestCase() {
+        QVERIFY(m_dir.isValid());
+        const QString cover = m_dir.filePath(u"cover.png"_s);
+        QVERIFY(SonoriaTest::makeMedia(cover, u"color=c=blue:s=16x16"_s, {u"-frames:v"_s, u"1"_s}));
+        m_cover = SonoriaTest::readFile(cover);
+    }
+
+    void reportMatchesTheOutput_data() {
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<QStringList>("lost");    // reasons of the dropped fields
+        QTest::addColumn<QStringList>("changed"); // reasons of the changed fields
+        const Kind sources[] = {{"flac", "flac"}, {"mp3", "libmp3lame"}, {"m4a", "aac"}};
+        const Kind outputs[] = {{"mp3", "libmp3lame"}, {"m4a", "aac"},      {"flac", "flac"},
+                                {"ogg", "libvorbis"},  {"opus", "libopus"}, {"wav", "pcm_s16le"},
+                                {"wma", "wmav2"},      {"ac3", "ac3"}};
+        const QStringList noTags{u"AC3 files hold no tags"_s};
+        for (const Kind& source : sources) {
+            for (const Kind& output : outputs) {
+                const QString out = QString::fromUtf8(output.extension);
+                QStringList lost, changed;
+                if (out == u"ac3"_s) {
+                    // Every field and the cover: title, artist, album, date, track, genre,
+                    // lyrics, BPM.
+                    for (int i = 0; i < 9; ++i)
+                        lost.append(noTags.first());
+                } else if (out == u"mp3"_s) {
+                    // ID3v2.3 has a year, not a date.
+                    changed.append(u"MP3 files keep it shortened to “2019”"_s);
+                }
+                QTest::addRow("%s-to-%s", source.extension, output.extension)
+                    << QString::fromUtf8(source.extension) + u':' + QString::fromUtf8(source.codec)
+                    << out + u':' + QString::fromUtf8(output.codec) << lost << changed;
+            }
+        }
+    }
+
+    void reportMatchesTheOutput() {
+        QFETCH(QString, source);
+        QFETCH(QString, output);
+        QFETCH(QStringList, lost);
+        QFETCH(QStringList, changed);
+        const QString tag = QString::fromUtf8(QTest::currentDataTag());
+        const QString folder = m_dir.filePath(tag);
+        QVERIFY(QDir().mkpath(folder));
+        const QStringList from = source.split(u':');
+        const QString sourcePath = folder + u"/song."_s + from.first();
+        QVERIFY(SonoriaTest::makeTone(sourcePath, 1.0, {u"-c:a"_s, from.last()}));
+        QVERIFY(tagSource(sourcePath, m_cover));
+        const QString outputPath = convert(sourcePath, folder, output);
+        QVERIFY(QFileInfo(outputPath).isFile());
+
+        const MTETagReport report = MTETagReport::compare(sourcePath, outputPath);
+        QStringList lostReasons, changedReasons;
+        for (const MTETagReport::Entry& entry : report.dropped)
+            lostReasons.append(entry.reason);
+        for (const MTETagReport::Entry& entry : report.changed)
+            changedReasons.append(entry.reason);
+        QCOMPARE(lostReasons, lost);
+        QCOMPARE(changedReasons, changed);
+        QCOMPARE(report.lostAnything(), !lost.isEmpty());
+        // What the report calls kept is on disk with the source's value.
+        const auto written = MTEAudioFileMgr::createAudioFileWithPath(outputPath, true);
+        for (const MTETagReport::Entry& entry : report.kept) {
+            if (entry.field == u"TITLE"_s)
+                QCOMPARE(written->title(), entry.before);
+        }
+        QCOMPARE(report.kept.size() + report.changed.size() + report.dropped.size(), 9);
+    }
+
+    // What the tag editor asked for is what counts: a removed field is not "lost", an edited
+    // one must arrive as edited.
+    void editsAreTheExpectation() {
+        const QString folder = m_dir.filePath(u"edits"_s);
+        QVERIFY(QDir().mkpath(folder));
+        const QString source = folder + u"/song.flac"_s;
+        QVERIFY(SonoriaTest::makeTone(source, 1.0, {u"-c:a"_s, u"flac"_s}));
+        QVERIFY(tagSource(source, m_cover));
+        const QString output = convert(source, folder, u"ogg:libvorbis"_s);
+        const MTETagReport asSource = MTETagReport::compare(source, output);
+        QVERIFY(!asSource.lostAnything());
+        const MTETagReport edited = MTETagReport::compare(
+            source, output, {{u"LYRICS"_s, QString()}, {u"TITLE"_s, u"New"_s}});
+        QCOMPARE(edited.kept.size() + edited.changed.size() + edited.dropped.size(), 8);
+        QCOMPARE(edited.changed.size(), 1);
+        QCOMPARE(edited.changed.first().field, u"TITLE"_s);
+        QCOMPARE(edited.lines(), QStringList{u"Title: written as “Título — 東京”"_s});
+    }
+};
+
+SONORIA_TEST_MAIN(TestTagReport)
+#include "tst_tagreport.moc"
