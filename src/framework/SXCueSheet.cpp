@@ -17,10 +17,6 @@
 
 namespace {
 
-QString cueText(const char* text) {
-    return QCoreApplication::translate("SXCueSheet", text);
-}
-
 // libcue's parser keeps its state in globals: one sheet at a time in the whole process.
 QMutex g_parserLock;
 
@@ -175,12 +171,13 @@ SXCueSheetResult SXCueSheet::parse(const QString& text, const QString& sheetPath
     QMutexLocker locker(&g_parserLock);
     const std::unique_ptr<Cd, CdDeleter> cd(::cue_parse_string(utf8.constData()));
     if (!cd) {
-        result.error = cueText("The cue sheet cannot be read as one");
+        result.error =
+            QCoreApplication::translate("SXCueSheet", "The cue sheet cannot be read as one");
         return result;
     }
     const int count = ::cd_get_ntrack(cd.get());
     if (count <= 0) {
-        result.error = cueText("The cue sheet lists no tracks");
+        result.error = QCoreApplication::translate("SXCueSheet", "The cue sheet lists no tracks");
         return result;
     }
     Cdtext* const discText = ::cd_get_cdtext(cd.get());
@@ -220,8 +217,9 @@ SXCueSheetResult SXCueSheet::parse(const QString& text, const QString& sheetPath
                 entry.endFrame = nextIndex1 >= 0 ? nextIndex1 : ::track_get_start(next);
         }
         if (entry.endFrame >= 0 && entry.endFrame <= entry.startFrame) {
-            result.error =
-                cueText("Track %1 of the cue sheet ends before it starts").arg(entry.number);
+            result.error = QCoreApplication::translate(
+                               "SXCueSheet", "Track %1 of the cue sheet ends before it starts")
+                               .arg(entry.number);
             result.tracks.clear();
             return result;
         }
@@ -234,7 +232,9 @@ SXCueSheetResult SXCueSheet::read(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         SXCueSheetResult failed;
-        failed.error = cueText("The cue sheet cannot be opened: %1").arg(file.errorString());
+        failed.error =
+            QCoreApplication::translate("SXCueSheet", "The cue sheet cannot be opened: %1")
+                .arg(file.errorString());
         return failed;
     }
     SXCueSheetResult result = parse(decode(file.readAll()), path);
@@ -243,7 +243,9 @@ SXCueSheetResult SXCueSheet::read(const QString& path) {
         if (found.isEmpty()) {
             const QString missing = QFileInfo(track.file).fileName();
             result.tracks.clear();
-            result.error = cueText("The audio file of the cue sheet is missing: %1").arg(missing);
+            result.error = QCoreApplication::translate(
+                               "SXCueSheet", "The audio file of the cue sheet is missing: %1")
+                               .arg(missing);
             return result;
         }
         track.file = found;
