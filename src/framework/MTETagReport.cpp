@@ -71,7 +71,7 @@ MTETagReport MTETagReport::compare(const QString& sourcePath, const QString& out
     const QString kind = kindName(outputPath);
     MTETagReport report;
     const auto lost = [&](const QString& field) {
-        return output.readable ? tr("%1 files cannot hold %2").arg(kind, fieldName(field).toLower())
+        return output.readable ? tr("%1 files cannot hold “%2”").arg(kind, fieldName(field))
                                : tr("%1 files hold no tags").arg(kind);
     };
     for (auto field = source.fields.cbegin(); field != source.fields.cend(); ++field) {
