@@ -43,20 +43,18 @@ QString ConvertCommandLine::ffmpegPath() {
 
 QStringList ConvertCommandLine::arguments(const QString& executable, const ConvertJob& job,
                                           const QString& outputFile) {
-    return {executable,
-            QStringLiteral("-i"),
-            job.sourcePath,
-            QStringLiteral("-vn"),
-            QStringLiteral("-acodec"),
-            job.encoder,
-            QStringLiteral("-ar"),
-            QString::number(sampleRate(job), 'f', 2),
-            QStringLiteral("-b:a"),
-            QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k'),
-            QStringLiteral("-ac"),
-            QString::number(channels(job)),
-            QStringLiteral("-y"),
-            outputFile};
+    QStringList arguments{executable, QStringLiteral("-i"), job.sourcePath, QStringLiteral("-vn")};
+    // Normalising applies the measured gain before the encoder; without it the list is as it
+    // always was.
+    if (const std::optional<double> gain = job.loudness.appliedGain())
+        arguments << QStringLiteral("-af")
+                  << QStringLiteral("volume=%1dB").arg(QString::number(*gain, 'f', 2));
+    arguments << QStringLiteral("-acodec") << job.encoder << QStringLiteral("-ar")
+              << QString::number(sampleRate(job), 'f', 2) << QStringLiteral("-b:a")
+              << QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k')
+              << QStringLiteral("-ac") << QString::number(channels(job)) << QStringLiteral("-y")
+              << outputFile;
+    return arguments;
 }
 
 QString ConvertCommandLine::readable(const QStringList& arguments) {
