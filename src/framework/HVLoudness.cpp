@@ -83,7 +83,8 @@ std::optional<HVLoudnessMeasurement> HVLoudness::measure(const QString& path, bo
     }
     HVLoudnessMeasurement measurement;
     double loudness = 0;
-    measurement.integrated = gated(ebur128_loudness_global(state, &loudness), loudness);
+    const int result = ebur128_loudness_global(state, &loudness);
+    measurement.integrated = gated(result, loudness);
     for (int i = 0; i < channels; ++i) {
         double peak = 0;
         if (ebur128_true_peak(state, unsigned(i), &peak) == EBUR128_SUCCESS)
@@ -104,6 +105,6 @@ std::optional<double> HVLoudness::albumLoudness(const QList<HVLoudnessMeasuremen
     if (meters.empty())
         return std::nullopt;
     double loudness = 0;
-    return gated(ebur128_loudness_global_multiple(meters.data(), meters.size(), &loudness),
-                 loudness);
+    const int result = ebur128_loudness_global_multiple(meters.data(), meters.size(), &loudness);
+    return gated(result, loudness);
 }

@@ -4,10 +4,13 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <mutex>
+
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
 #include <libavutil/channel_layout.h>
+#include <libavutil/log.h>
 #include <libswresample/swresample.h>
 }
 
@@ -48,7 +51,9 @@ HVSampleReader::~HVSampleReader() {
 }
 
 bool HVSampleReader::open(const QString& path, QString* error) {
-    m_path = path;
+    // Damaged input is reported through *error, not by libav on standard error.
+    static std::once_flag quiet;
+    std::call_once(quiet, [] { av_log_set_level(AV_LOG_QUIET); });
     // As the probe does: a local file only, whatever its name looks like.
     const QByteArray url = "file:" + QFile::encodeName(QFileInfo(path).absoluteFilePath());
     AVDictionary* options = nullptr;

@@ -49,5 +49,4 @@ private:
     int m_sampleRate = 0;
     std::vector<Channel> m_roles;
     std::vector<float> m_buffer;
-    QString m_path;
 };
