@@ -179,10 +179,13 @@ void SXWorkspaceScheduler::surveyLoudness(QList<Pending> pending) {
         survey->deleteLater();
         if (survey->isCancelled())
             return; // Stop came first: the rows already say so, and nothing is queued
-        QList<Pending> surveyed = measured;
+        QList<Pending> surveyed;
         const QList<ConvertJob> jobs = survey->jobs();
-        for (qsizetype i = 0; i < surveyed.size() && i < jobs.size(); ++i)
-            surveyed[i].job = jobs.at(i);
+        for (qsizetype i = 0; i < measured.size() && i < jobs.size(); ++i) {
+            // A row cancelled while it was being measured stays cancelled.
+            if (measured.at(i).item->dConvertProgress() != SXProgress::Canceled)
+                surveyed.append({measured.at(i).item, jobs.at(i), measured.at(i).album});
+        }
         queueOperations(surveyed);
     });
     SXLog::line(QStringLiteral("measuring the loudness of %1 sources").arg(measured.size()));
@@ -377,8 +380,15 @@ void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
         progress == SXProgress::Canceled)
         return;
     const ConvertOperationPtr operation = findOperationForMusicInfo(item);
-    if (!operation)
+    if (!operation) {
+        // Still being measured: it gets no operation when the measuring ends.
+        if (m_survey && item->mediaInfo() && progress == SXProgress::Waiting) {
+            item->mediaInfo()->setEumCvtState(CvtStateCanceled);
+            item->setDConvertProgress(SXProgress::Canceled);
+            Q_EMIT rowsRedrawRequested();
+        }
         return;
+    }
     operation->cancel();
     // As Stop does for every row: a waiting operation leaves the queue without a word, so the
     // row says at once that it will not convert. One that had already ended keeps its outcome.
