@@ -73,7 +73,7 @@ void SXSettingsPanel::buildButtons() {
         new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),
                         tr("Show in F&iles"), this);
     _btnReveal->setObjectName(QStringLiteral("btnReveal"));
-    _btnNormalise = new QCheckBox(tr("Normalise &loudness"), this);
+    _btnNormalise = new QCheckBox(tr("Normali&se loudness"), this);
     _btnNormalise->setObjectName(QStringLiteral("btnNormalise"));
     _btnNormalise->setToolTip(
         tr("Converts at the measured ReplayGain (the album's in album mode), keeping the true "
