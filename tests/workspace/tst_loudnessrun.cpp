@@ -1,3 +1,4 @@
+#include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
 #include "base/SXSettings.h"
@@ -99,6 +100,7 @@ private Q_SLOTS:
         QVERIFY(loaded.count() > 0 || loaded.wait(60000));
 
         const QString out = m_dir.filePath(u"out"_s);
+        LogCapture log;
         QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
         QVERIFY(workspace.scheduler().doRealConverterTask(out));
         QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
@@ -110,6 +112,8 @@ private Q_SLOTS:
             QCOMPARE(item->dConvertProgress(), double(SXProgress::Canceled));
         }
         QCOMPARE(QDir(out + u"/MP3"_s).entryList(QDir::Files | QDir::Hidden), QStringList());
+        QCOMPARE(log.lines().filter(u"measuring the loudness of 3 sources"_s).size(), 1);
+        QCOMPARE(log.lines().filter(u"args:"_s), QStringList());
         SXSettings::removeKey(u"SXContainerChoices/MP3"_s);
     }
 
