@@ -210,8 +210,8 @@ void SXWorkspaceScheduler::abandonRun() {
         _timerToRefresh = nullptr;
     }
     if (m_survey) {
-        delete std::exchange(m_survey, nullptr); // cancels and waits for the meters
-        cancelAll();
+        cancelAll();                             // the rows being measured end cancelled
+        delete std::exchange(m_survey, nullptr); // waits for the meters
     }
     if (_queueConvertTask) {
         cancelAll();
