@@ -108,5 +108,7 @@ SXFormatSettingPtr CliCatalogue::settingForOptions(const CliOptions& options, QS
     // The tool delivers to the library only when asked, whatever the preset's default.
     if (format->enumAddToLibrary() >= 0)
         format->setEnumAddToLibrary(options.library ? 1 : 0);
+    format->setReplayGain(options.replayGain);
+    format->setNormalise(options.normalise);
     return format;
 }

@@ -15,6 +15,10 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format's offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: "track",
+                          or "album" for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album's with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
       --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
@@ -46,6 +50,8 @@ struct Declared {
     QCommandLineOption channels{
         {QStringLiteral("c"), QStringLiteral("channels")}, QString(), QStringLiteral("V")};
     QCommandLineOption library{QStringLiteral("library")};
+    QCommandLineOption replayGain{QStringLiteral("replaygain"), QString(), QStringLiteral("MODE")};
+    QCommandLineOption normalise{QStringLiteral("normalise")};
     QCommandLineOption listFormats{QStringLiteral("list-formats")};
     QCommandLineOption info{QStringLiteral("info"), QString(), QStringLiteral("FILE")};
     QCommandLineOption checkTags{QStringLiteral("check-tags")};
@@ -54,8 +60,8 @@ struct Declared {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}};
 
     QList<QCommandLineOption> all() const {
-        return {format,  output,      noOrganize, jobs,      bitrate, samplerate, channels,
-                library, listFormats, info,       checkTags, dryRun,  verbose,    help};
+        return {format,     output,    noOrganize,  jobs, bitrate,   samplerate, channels, library,
+                replayGain, normalise, listFormats, info, checkTags, dryRun,     verbose,  help};
     }
 };
 
@@ -82,6 +88,17 @@ std::optional<int> parseJobs(const QString& text, QString* error) {
         return std::nullopt;
     }
     return jobs;
+}
+
+std::optional<SXReplayGainMode> parseReplayGain(const QString& text, QString* error) {
+    if (text.compare(QLatin1String("track"), Qt::CaseInsensitive) == 0)
+        return SXReplayGainMode::Track;
+    if (text.compare(QLatin1String("album"), Qt::CaseInsensitive) == 0)
+        return SXReplayGainMode::Album;
+    *error = QCoreApplication::translate("CliOptionsParser",
+                                         "--replaygain takes \"track\" or \"album\", not \"%1\"")
+                 .arg(text);
+    return std::nullopt;
 }
 
 } // namespace
@@ -125,6 +142,14 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
     options.samplerate = parser.value(declared.samplerate);
     options.channels = parser.value(declared.channels);
     options.library = parser.isSet(declared.library);
+    if (parser.isSet(declared.replayGain)) {
+        const std::optional<SXReplayGainMode> mode =
+            parseReplayGain(parser.value(declared.replayGain), error);
+        if (!mode)
+            return std::nullopt;
+        options.replayGain = *mode;
+    }
+    options.normalise = parser.isSet(declared.normalise);
     options.dryRun = parser.isSet(declared.dryRun);
     options.inputs = parser.positionalArguments();
 

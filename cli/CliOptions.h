@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/SXConversionChoices.h"
+
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -17,6 +19,8 @@ struct CliOptions {
     QString samplerate;
     QString channels;
     bool library = false;
+    SXReplayGainMode replayGain = SXReplayGainMode::Off;
+    bool normalise = false;
     bool dryRun = false;
     bool verbose = false;
     QString infoFile;

@@ -55,18 +55,21 @@ QString ConvertCommandLine::ffmpegPath() {
 QStringList ConvertCommandLine::arguments(const QString& executable, const ConvertJob& job,
                                           const QString& outputFile) {
     QStringList arguments{executable, QStringLiteral("-i"), job.sourcePath, QStringLiteral("-vn")};
-    if (const QString filter = rangeFilter(job); !filter.isEmpty())
-        arguments << QStringLiteral("-af") << filter;
-    return arguments + QStringList{QStringLiteral("-acodec"),
-                                   job.encoder,
-                                   QStringLiteral("-ar"),
-                                   QString::number(sampleRate(job), 'f', 2),
-                                   QStringLiteral("-b:a"),
-                                   QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k'),
-                                   QStringLiteral("-ac"),
-                                   QString::number(channels(job)),
-                                   QStringLiteral("-y"),
-                                   outputFile};
+    // One filter chain: a cue track's range is cut first, then normalising applies the measured
+    // gain before the encoder. Without either the list is as it always was.
+    QStringList filters;
+    if (const QString range = rangeFilter(job); !range.isEmpty())
+        filters << range;
+    if (const std::optional<double> gain = job.loudness.appliedGain())
+        filters << QStringLiteral("volume=%1dB").arg(QString::number(*gain, 'f', 2));
+    if (!filters.isEmpty())
+        arguments << QStringLiteral("-af") << filters.join(QLatin1Char(','));
+    arguments << QStringLiteral("-acodec") << job.encoder << QStringLiteral("-ar")
+              << QString::number(sampleRate(job), 'f', 2) << QStringLiteral("-b:a")
+              << QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k')
+              << QStringLiteral("-ac") << QString::number(channels(job)) << QStringLiteral("-y")
+              << outputFile;
+    return arguments;
 }
 
 QString ConvertCommandLine::readable(const QStringList& arguments) {

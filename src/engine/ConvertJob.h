@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/ConvertLoudness.h"
 #include "model/SXConversionChoices.h"
 
 #include <QString>
@@ -39,4 +40,8 @@ struct ConvertJob {
     bool runLibraryScript = false;
     bool addToLibrary = false;
     QString playlist;
+
+    // Loudness: the container's ReplayGain and normalising wishes (also in `choices`) with what
+    // was measured of this source (and its album) before the run.
+    ConvertLoudness loudness;
 };

@@ -110,6 +110,14 @@ void ConvertOperation::main() {
         tellFinish();
         return;
     }
+    if (m_job.loudness.wanted() && !m_job.loudness.failure.isEmpty()) {
+        // A source that libav cannot decode for the meter would not convert either (ffmpeg reads
+        // it with the same libraries), and an output without the gain the user asked for would
+        // be a quiet lie: the item fails here, with the decoder's reason.
+        fail(ConvertLoudness::notMeasured(m_job.loudness.failure));
+        tellFinish();
+        return;
+    }
     const QString folder = ConvertOutputFile::folderFor(m_job);
     const QString problem =
         m_output.prepare(m_job, folder, isRingtone() ? kRingtoneEncodeExt : QString());
@@ -318,7 +326,8 @@ QString ConvertOperation::saveTags(const QString& path) {
         track && !source)
         MTETagCopy::overrideWithCueTrack(*track, *destination);
     QString error;
-    if (!MTETagCopy::copy(source.get(), *destination, path, &error))
+    if (!MTETagCopy::copy(source.get(), *destination, path, &error,
+                          m_job.loudness.tagFields(QFileInfo(path).suffix())))
         return ConvertFailure::tagsNotSaved(error);
     return {};
 }

@@ -105,6 +105,28 @@ void copyRecord(const MTEAudioFile& source, MTEAudioFile& destination) {
     }
 }
 
+// The gain fields of either form: a measured gain makes the source's wrong, and an output whose
+// samples already carry the gain must not tell a player to apply it again.
+bool isLoudnessField(const TagLib::String& name) {
+    return name.startsWith("REPLAYGAIN_") || name.startsWith("R128_");
+}
+
+void putLoudness(TagLib::PropertyMap& others, const MTELoudnessFields& loudness) {
+    if (!loudness.replace)
+        return;
+    TagLib::StringList doomed;
+    for (const auto& [name, values] : others) {
+        if (isLoudnessField(name))
+            doomed.append(name);
+    }
+    for (const TagLib::String& name : doomed)
+        others.erase(name);
+    for (auto field = loudness.fields.cbegin(); field != loudness.fields.cend(); ++field)
+        others.replace(
+            TagLib::String(field.key().toStdString(), TagLib::String::UTF8),
+            TagLib::StringList(TagLib::String(field.value().toStdString(), TagLib::String::UTF8)));
+}
+
 } // namespace
 
 bool MTETagCopy::carriesProperty(const QString& name) {
@@ -112,11 +134,12 @@ bool MTETagCopy::carriesProperty(const QString& name) {
 }
 
 bool MTETagCopy::copy(const MTEAudioFile* source, MTEAudioFile& destination, const QString& path,
-                      QString* error) {
+                      QString* error, const MTELoudnessFields& loudness) {
     if (source)
         copyRecord(*source, destination);
     const QMap<QString, QVariant> record = destination.dicReadInfo();
-    const TagLib::PropertyMap others = otherFieldsOf(source ? source->filePath() : QString());
+    TagLib::PropertyMap others = otherFieldsOf(source ? source->filePath() : QString());
+    putLoudness(others, loudness);
     return MTETagFileKind::edit(
         path, nullptr,
         [&](TagLib::File& file, const MTETagFamily& family) {

@@ -34,8 +34,17 @@ public:
     void setChannels(const QString& choice) { m_channels = choice; }
     // The three chosen titles as the encoder gets them.
     SXConversionChoices choices() const {
-        return SXConversionChoices::fromTitles(m_bitRate, m_sampleRate, m_channels);
+        SXConversionChoices result =
+            SXConversionChoices::fromTitles(m_bitRate, m_sampleRate, m_channels);
+        result.replayGain = m_replayGain;
+        result.normalise = m_normalise;
+        return result;
     }
+    // "ReplayGain tags" and "Normalise loudness" of the container; both off in the catalogue.
+    SXReplayGainMode replayGain() const { return m_replayGain; }
+    void setReplayGain(SXReplayGainMode mode) { m_replayGain = mode; }
+    bool normalise() const { return m_normalise; }
+    void setNormalise(bool on) { m_normalise = on; }
     QString decodecName() const { return m_decodecName; }
     void setDecodecName(const QString& encoder) { m_decodecName = encoder; }
     QString outputExtName() const { return m_outputExtName; }
@@ -69,6 +78,8 @@ private:
     QString m_strImgFileName;
     QString m_outputPath;
     int m_enumAddToLibrary = 0;
+    SXReplayGainMode m_replayGain = SXReplayGainMode::Off;
+    bool m_normalise = false;
 };
 
 using SXFormatSettingPtr = std::shared_ptr<SXFormatSetting>;

@@ -15,6 +15,11 @@ const QString kContainers = QStringLiteral("SXContainers");
 const QString kBitRate = QStringLiteral("bitRate");
 const QString kSampleRate = QStringLiteral("sampleRate");
 const QString kChannels = QStringLiteral("channels");
+const QString kReplayGain = QStringLiteral("replayGain");
+const QString kNormalise = QStringLiteral("normalise");
+// The stored spellings of the ReplayGain modes, in the enumeration's order.
+const QStringList kReplayGainModes{QStringLiteral("off"), QStringLiteral("track"),
+                                   QStringLiteral("album")};
 
 // Format names may hold blanks and slashes, which QSettings would read as groups; one JSON text
 // per format also avoids INI's habit of turning short lists into plain strings.
@@ -39,7 +44,9 @@ void storeChoices(const SXFormatSetting& setting) {
         return;
     const QJsonObject choices{{kBitRate, setting.bitRate()},
                               {kSampleRate, setting.sampleRate()},
-                              {kChannels, setting.channels()}};
+                              {kChannels, setting.channels()},
+                              {kReplayGain, kReplayGainModes.at(int(setting.replayGain()))},
+                              {kNormalise, setting.normalise()}};
     SXSettings::setValue(choicesKey(setting.fmtName()),
                          QString::fromUtf8(QJsonDocument(choices).toJson(QJsonDocument::Compact)));
     SXSettings::synchronize();
@@ -56,6 +63,12 @@ void restoreChoices(SXFormatSetting& setting) {
                [&setting](const QString& value) { setting.setSampleRate(value); });
     restoreOne(stored, kChannels, setting.aryChannels(),
                [&setting](const QString& value) { setting.setChannels(value); });
+    // Absent in what earlier versions stored: the catalogue's "off" stays.
+    const qsizetype mode = kReplayGainModes.indexOf(stored.value(kReplayGain).toString());
+    if (mode >= 0)
+        setting.setReplayGain(SXReplayGainMode(mode));
+    if (stored.value(kNormalise).isBool())
+        setting.setNormalise(stored.value(kNormalise).toBool());
 }
 
 void storeContainers(const QStringList& labels) {

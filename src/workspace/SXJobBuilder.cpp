@@ -43,5 +43,8 @@ ConvertJob SXJobBuilder::build(const SXMusicInfo& item, const SXFormatSetting& s
     job.runLibraryScript = run.runLibraryScript;
     job.addToLibrary = setting.enumAddToLibrary() == 1;
     job.playlist = run.playlist;
+    // What was asked; the values are measured before the run (SXLoudnessSurvey).
+    job.loudness.tags = job.choices.replayGain;
+    job.loudness.normalise = job.choices.normalise;
     return job;
 }

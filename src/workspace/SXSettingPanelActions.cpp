@@ -30,6 +30,20 @@ void SXSettingPanelActions::setChannels(SXContainerStore& workspace, const QStri
     }
 }
 
+void SXSettingPanelActions::setReplayGain(SXContainerStore& workspace, SXReplayGainMode mode) {
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
+        setting->setReplayGain(mode);
+        SXContainerMemory::storeChoices(*setting);
+    }
+}
+
+void SXSettingPanelActions::setNormalise(SXContainerStore& workspace, bool on) {
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
+        setting->setNormalise(on);
+        SXContainerMemory::storeChoices(*setting);
+    }
+}
+
 void SXSettingPanelActions::setAddToLibrary(SXContainerStore& workspace, bool on) {
     if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
         setting->setEnumAddToLibrary(on ? 1 : 0);

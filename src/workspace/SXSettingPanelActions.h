@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/SXConversionChoices.h"
+
 #include <QString>
 
 class SXContainerStore;
@@ -12,6 +14,9 @@ public:
     static void setBitRate(SXContainerStore& workspace, const QString& title);
     static void setSampleRate(SXContainerStore& workspace, const QString& title);
     static void setChannels(SXContainerStore& workspace, const QString& title);
+    // Stored like the three choices above.
+    static void setReplayGain(SXContainerStore& workspace, SXReplayGainMode mode);
+    static void setNormalise(SXContainerStore& workspace, bool on);
     // Refills the panel afterwards, as the setting now reads.
     static void setAddToLibrary(SXContainerStore& workspace, bool on);
     // The folder the selected container's runs write into from now on, whatever Start chooses.

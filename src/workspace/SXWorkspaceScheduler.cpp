@@ -7,6 +7,7 @@
 #include "engine/ConvertOutputFile.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
+#include "workspace/SXLoudnessSurvey.h"
 #include "workspace/SXWorkspacePreview.h"
 
 #include <QCoreApplication>
@@ -15,6 +16,7 @@
 #include <QPointer>
 #include <QSet>
 
+#include <algorithm>
 #include <utility>
 #include <vector>
 
@@ -111,10 +113,8 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     startConvertOperation();
     const SXJobBuilder::Run run = SXJobBuilder::Run::fromSettings(folder, m_bOrganized);
 
-    // Every item is queued again at each Start, whatever an earlier run made of it. All are
-    // prepared before the first is queued: the first conversions' start-up would otherwise
-    // compete with this thread for the cores while it prepares the rest.
-    std::vector<ConvertOperationPtr> operations;
+    // Every item is queued again at each Start, whatever an earlier run made of it.
+    QList<Pending> pending;
     for (const QString& name : containerNames()) {
         const SXFormatSettingPtr setting = getFormatSettingForFormatName(name);
         for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
@@ -122,14 +122,16 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
             // Without a media record or a format there is nothing to convert: it stays waiting.
             if (!item->mediaInfo() || !setting)
                 continue;
-            auto operation =
-                std::make_shared<ConvertOperation>(item, SXJobBuilder::build(*item, *setting, run));
-            operation->setListener(this);
-            operations.push_back(std::move(operation));
+            pending.append({item, SXJobBuilder::build(*item, *setting, run),
+                            SXLoudnessSurvey::albumKey(*item, name)});
         }
     }
-    for (ConvertOperationPtr& operation : operations)
-        _queueConvertTask->addOperation(std::move(operation));
+    const bool measure = std::any_of(pending.cbegin(), pending.cend(),
+                                     [](const Pending& one) { return one.job.loudness.wanted(); });
+    if (measure)
+        surveyLoudness(std::move(pending));
+    else
+        queueOperations(pending);
 
     if (_timerToRefresh) {
         _timerToRefresh->stop();
@@ -140,6 +142,54 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
     connect(_timerToRefresh, &QTimer::timeout, this, &SXWorkspaceScheduler::refreshTimeFired);
     _timerToRefresh->start();
     return true;
+}
+
+void SXWorkspaceScheduler::queueOperations(const QList<Pending>& pending) {
+    // All are prepared before the first is queued: the first conversions' start-up would
+    // otherwise compete with this thread for the cores while it prepares the rest.
+    std::vector<ConvertOperationPtr> operations;
+    for (const Pending& one : pending) {
+        auto operation = std::make_shared<ConvertOperation>(one.item, one.job);
+        operation->setListener(this);
+        operations.push_back(std::move(operation));
+    }
+    for (ConvertOperationPtr& operation : operations)
+        _queueConvertTask->addOperation(std::move(operation));
+}
+
+void SXWorkspaceScheduler::surveyLoudness(QList<Pending> pending) {
+    // The loudness is measured before any conversion is queued: an album's gain needs every one
+    // of its tracks, and a normalised conversion needs its gain before its child starts.
+    QList<SXLoudnessSurvey::Entry> entries;
+    QList<Pending> measured;
+    QList<Pending> plain;
+    for (Pending& one : pending) {
+        if (one.job.loudness.wanted()) {
+            entries.append({one.job, one.album});
+            measured.append(std::move(one));
+        } else {
+            plain.append(std::move(one));
+        }
+    }
+    queueOperations(plain);
+    m_survey = new SXLoudnessSurvey(std::move(entries),
+                                    _queueConvertTask->maxConcurrentOperationCount(), this);
+    connect(m_survey, &SXLoudnessSurvey::finished, this, [this, measured] {
+        SXLoudnessSurvey* survey = std::exchange(m_survey, nullptr);
+        survey->deleteLater();
+        if (survey->isCancelled())
+            return; // Stop came first: the rows already say so, and nothing is queued
+        QList<Pending> surveyed;
+        const QList<ConvertJob> jobs = survey->jobs();
+        for (qsizetype i = 0; i < measured.size() && i < jobs.size(); ++i) {
+            // A row cancelled while it was being measured stays cancelled.
+            if (measured.at(i).item->dConvertProgress() != SXProgress::Canceled)
+                surveyed.append({measured.at(i).item, jobs.at(i), measured.at(i).album});
+        }
+        queueOperations(surveyed);
+    });
+    SXLog::line(QStringLiteral("measuring the loudness of %1 sources").arg(measured.size()));
+    m_survey->start();
 }
 
 void SXWorkspaceScheduler::startConvertOperation() {
@@ -159,6 +209,10 @@ void SXWorkspaceScheduler::abandonRun() {
         _timerToRefresh->deleteLater();
         _timerToRefresh = nullptr;
     }
+    if (m_survey) {
+        cancelAll();                             // the rows being measured end cancelled
+        delete std::exchange(m_survey, nullptr); // waits for the meters
+    }
     if (_queueConvertTask) {
         cancelAll();
         _queueConvertTask->waitUntilAllOperationsAreFinished();
@@ -171,7 +225,7 @@ void SXWorkspaceScheduler::abandonRun() {
 void SXWorkspaceScheduler::refreshTimeFired() {
     QMetaObject::invokeMethod(
         this, [this] { refreshUIOnMainThreadWhenConvert(); }, Qt::QueuedConnection);
-    if (_queueConvertTask && _queueConvertTask->operationCount() > 0)
+    if (m_survey || (_queueConvertTask && _queueConvertTask->operationCount() > 0))
         return;
     finishRun();
 }
@@ -272,6 +326,20 @@ double SXWorkspaceScheduler::getTotalConvertProgress() const {
 // --- Cancel ---
 
 void SXWorkspaceScheduler::cancelAll() {
+    if (m_survey) {
+        // Items still being measured have no operation yet: they end cancelled here.
+        m_survey->cancel();
+        for (const QString& name : containerNames()) {
+            for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
+                const LSMediaPtr media = item->mediaInfo();
+                if (!media || item->dConvertProgress() != SXProgress::Waiting ||
+                    findOperationForMusicInfo(item))
+                    continue;
+                media->setEumCvtState(CvtStateCanceled);
+                item->setDConvertProgress(SXProgress::Canceled);
+            }
+        }
+    }
     if (!_queueConvertTask)
         return;
     for (const SXOperationPtr& operation : _queueConvertTask->operations()) {
@@ -326,8 +394,15 @@ void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
         progress == SXProgress::Canceled)
         return;
     const ConvertOperationPtr operation = findOperationForMusicInfo(item);
-    if (!operation)
+    if (!operation) {
+        // Still being measured: it gets no operation when the measuring ends.
+        if (m_survey && item->mediaInfo() && progress == SXProgress::Waiting) {
+            item->mediaInfo()->setEumCvtState(CvtStateCanceled);
+            item->setDConvertProgress(SXProgress::Canceled);
+            Q_EMIT rowsRedrawRequested();
+        }
         return;
+    }
     operation->cancel();
     // As Stop does for every row: a waiting operation leaves the queue without a word, so the
     // row says at once that it will not convert. One that had already ended keeps its outcome.

@@ -11,6 +11,7 @@
 #include <memory>
 #include <optional>
 
+class SXLoudnessSurvey;
 class SXWorkspacePreview;
 
 // The conversion run of a workspace: Start asks for the output folder, every item of every
@@ -107,6 +108,14 @@ private:
     void runAlert(const SXAlert& alert) const { m_store.runAlert(alert); }
     void stopPlayerWithRefreshUI();
 
+    // An item of the run with the job it gets, before its operation exists.
+    struct Pending {
+        SXMusicInfoPtr item;
+        ConvertJob job;
+        QString album; // SXLoudnessSurvey::albumKey
+    };
+    void queueOperations(const QList<Pending>& pending);
+    void surveyLoudness(QList<Pending> pending);
     void outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice);
     void refreshTimeFired();
     void refreshUIOnMainThreadWhenConvert();
@@ -119,6 +128,7 @@ private:
     QTimer* _timerToRefresh = nullptr;
     QMutex m_queueLock; // held while the queue's operations are searched
     std::optional<int> m_maxConcurrentOverride;
+    SXLoudnessSurvey* m_survey = nullptr; // owned (a child); only while loudness is measured
     bool m_bOrganized = true;
     bool m_bOverOpen = false;
     int m_totalConvertOps = 0;

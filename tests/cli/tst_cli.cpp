@@ -186,6 +186,8 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
     QTest::newRow("jobs not a number") << QStringList{"--jobs", "two", in} << "--jobs";
     QTest::newRow("library not offered")
         << QStringList{"-f", "Ringtone", "--library", in} << "music library";
+    QTest::newRow("replaygain mode unknown")
+        << QStringList{"--replaygain", "loud", in} << "--replaygain";
     QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
     QTest::newRow("missing value") << QStringList{"-f"} << "-f";
     // A quoted argument cannot drive the terminal.

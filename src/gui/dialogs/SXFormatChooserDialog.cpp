@@ -25,6 +25,12 @@ SXFormatChooserDialog::SXFormatChooserDialog(const QList<SXFormatSettingPtr>& le
     popBitRate = addPopUp(form, tr("&Bit rate:"), QStringLiteral("popBitRate"));
     popSmpRate = addPopUp(form, tr("&Sample rate:"), QStringLiteral("popSmpRate"));
     popChannel = addPopUp(form, tr("C&hannels:"), QStringLiteral("popChannel"));
+    popReplayGain = addPopUp(form, tr("Replay&Gain tags:"), QStringLiteral("popReplayGain"));
+    // In the order of SXReplayGainMode.
+    popReplayGain->addItems({tr("Off"), tr("Track"), tr("Album")});
+    btnNormalise = new QCheckBox(tr("&Normalise loudness"), this);
+    btnNormalise->setObjectName(QStringLiteral("btnNormalise"));
+    form->addRow(QString(), btnNormalise);
     btnAddToLibrary = new QCheckBox(tr("Add to the music &library"), this);
     btnAddToLibrary->setObjectName(QStringLiteral("btnAddToLibrary"));
     form->addRow(QString(), btnAddToLibrary);
@@ -72,8 +78,13 @@ void SXFormatChooserDialog::changeFormatSelect(const QString& name) {
 }
 
 SXFormatSettingPtr SXFormatChooserDialog::getFormatSettingResult() const {
-    return m_chooser.getFormatSettingResult(
+    SXFormatSettingPtr result = m_chooser.getFormatSettingResult(
         {popFormat->currentText(), SXPopUps::selectedTitle(popSmpRate),
          SXPopUps::selectedTitle(popBitRate), SXPopUps::selectedTitle(popChannel),
          btnAddToLibrary->isChecked()});
+    if (result) {
+        result->setReplayGain(SXReplayGainMode(popReplayGain->currentIndex()));
+        result->setNormalise(btnNormalise->isChecked());
+    }
+    return result;
 }

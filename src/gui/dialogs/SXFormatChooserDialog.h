@@ -7,8 +7,9 @@
 class QCheckBox;
 class QComboBox;
 
-// The format chooser: the formats without a container, the three value pop-ups of the chosen one
-// and its music-library box. Window-modal over its workspace window; identified as
+// The format chooser: the formats without a container, the three value pop-ups of the chosen one,
+// its ReplayGain tags and "Normalise loudness" (both off for a new container) and its
+// music-library box. Window-modal over its workspace window; identified as
 // "OtherFormat". What it shows and what OK makes come from SXFormatChooser.
 class SXFormatChooserDialog final : public QDialog {
     Q_OBJECT
@@ -27,5 +28,7 @@ private:
     QComboBox* popSmpRate = nullptr;
     QComboBox* popBitRate = nullptr;
     QComboBox* popChannel = nullptr;
+    QComboBox* popReplayGain = nullptr;
+    QCheckBox* btnNormalise = nullptr;
     QCheckBox* btnAddToLibrary = nullptr;
 };

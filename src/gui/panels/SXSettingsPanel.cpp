@@ -22,6 +22,9 @@ SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     _popBitRate = addPopUp(tr("&Bit rate:"), QStringLiteral("popBitRate"));
     _popSmpRate = addPopUp(tr("Sample &rate:"), QStringLiteral("popSmpRate"));
     _popChannel = addPopUp(tr("Cha&nnels:"), QStringLiteral("popChannel"));
+    _popReplayGain = addPopUp(tr("Replay&Gain tags:"), QStringLiteral("popReplayGain"));
+    // In the order of SXReplayGainMode.
+    _popReplayGain->addItems({tr("Off"), tr("Track"), tr("Album")});
     buildButtons();
 
     connect(_popBitRate, &QComboBox::activated, this, [this] {
@@ -33,6 +36,11 @@ SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     connect(_popChannel, &QComboBox::activated, this, [this] {
         SXSettingPanelActions::setChannels(m_store, SXPopUps::selectedTitle(_popChannel));
     });
+    connect(_popReplayGain, &QComboBox::activated, this, [this](int index) {
+        SXSettingPanelActions::setReplayGain(m_store, SXReplayGainMode(index));
+    });
+    connect(_btnNormalise, &QCheckBox::clicked, this,
+            [this](bool on) { SXSettingPanelActions::setNormalise(m_store, on); });
     connect(_btnAddToLibrary, &QCheckBox::clicked, this,
             [this](bool on) { SXSettingPanelActions::setAddToLibrary(m_store, on); });
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
@@ -68,7 +76,13 @@ void SXSettingsPanel::buildButtons() {
         new QPushButton(SXIcons::icon(QStringLiteral("reveal"), QStringLiteral("folder-open")),
                         tr("Show in F&iles"), this);
     _btnReveal->setObjectName(QStringLiteral("btnReveal"));
+    _btnNormalise = new QCheckBox(tr("Normali&se loudness"), this);
+    _btnNormalise->setObjectName(QStringLiteral("btnNormalise"));
+    _btnNormalise->setToolTip(
+        tr("Converts at the measured ReplayGain (the album's in album mode), keeping the true "
+           "peak at or below -1 dBTP; the output then gets no ReplayGain tags"));
     grid->addWidget(_btnAddToLibrary, 0, column);
+    grid->addWidget(_btnNormalise, 1, column);
     grid->addWidget(_btnSavePath, 0, column + 1);
     grid->addWidget(_btnReveal, 1, column + 1);
     grid->setColumnStretch(column + 2, 1);
@@ -83,6 +97,8 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
                    setting->channels());
     SXPopUps::fill(_popSmpRate, SXCatalogueTexts::Choice::SampleRate, setting->arySampleRate(),
                    setting->sampleRate());
+    _popReplayGain->setCurrentIndex(int(setting->replayGain()));
+    _btnNormalise->setChecked(setting->normalise());
     _btnAddToLibrary->setVisible(setting->enumAddToLibrary() != -1);
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
     _btnSavePath->setToolTip(
@@ -90,8 +106,9 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
-    for (QWidget* control : std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChannel,
-                                                            _btnAddToLibrary, _btnSavePath})
+    for (QWidget* control :
+         std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChannel, _popReplayGain,
+                                         _btnNormalise, _btnAddToLibrary, _btnSavePath})
         control->setEnabled(enabled);
 }
 

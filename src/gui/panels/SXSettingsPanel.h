@@ -10,6 +10,7 @@ class QPushButton;
 class SXContainerStore;
 
 // The settings of the selected container under the list: bit rate, sample rate and channels,
+// the ReplayGain tags and "Normalise loudness",
 // the music-library box (hidden for a format without the option), the container's output
 // folder and the reveal button. It mirrors formatSettingShown and writes
 // each change through SXSettingPanelActions.
@@ -31,6 +32,8 @@ private:
     QComboBox* _popBitRate = nullptr;
     QComboBox* _popSmpRate = nullptr;
     QComboBox* _popChannel = nullptr;
+    QComboBox* _popReplayGain = nullptr;
+    QCheckBox* _btnNormalise = nullptr;
     QCheckBox* _btnAddToLibrary = nullptr;
     QPushButton* _btnSavePath = nullptr;
     QPushButton* _btnReveal = nullptr;

@@ -1,0 +1,182 @@
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QProcess>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+#include <taglib/fileref.h>
+#include <taglib/tpropertymap.h>
+
+// ReplayGain and normalising through sonoria-cli, from the options to the files on disk: the
+// albums are found, measured off the main thread before the run, and each output's fields (or
+// its samples) are checked against ffmpeg's own meter.
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// ffmpeg's integrated loudness of the files played one after the other.
+double ffmpegLoudness(const QStringList& paths) {
+    QStringList arguments{u"-nostats"_s, u"-hide_banner"_s};
+    QString graph;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        arguments << u"-i"_s << paths.at(i);
+        graph += u"[%1:a]"_s.arg(i);
+    }
+    graph += u"concat=n=%1:v=0:a=1,ebur128"_s.arg(paths.size());
+    arguments << u"-filter_complex"_s << graph << u"-f"_s << u"null"_s << u"-"_s;
+    QString output;
+    if (SonoriaTest::run(u"ffmpeg"_s, arguments, &output) != 0)
+        return qQNaN();
+    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
+    return integrated.match(output.mid(output.lastIndexOf(u"Summary:"_s))).captured(1).toDouble();
+}
+
+QMap<QString, QString> gainFields(const QString& path) {
+    QMap<QString, QString> fields;
+    const TagLib::FileRef ref(QFile::encodeName(path).constData());
+    if (!ref.file())
+        return fields;
+    for (const auto& [name, values] : ref.file()->properties()) {
+        const QString key = QString::fromStdString(name.to8Bit(true));
+        if (key.startsWith(u"REPLAYGAIN_"_s) || key.startsWith(u"R128_"_s))
+            fields.insert(key, QString::fromStdString(values.front().to8Bit(true)));
+    }
+    return fields;
+}
+
+// "-7.23 dB" as a number; NaN for any other form (a decimal comma included).
+double gainOf(const QString& text) {
+    static const QRegularExpression form(uR"(^-?\d+\.\d\d dB$)"_s);
+    return form.match(text).hasMatch() ? text.chopped(3).toDouble() : qQNaN();
+}
+
+} // namespace
+
+class TestCliLoudness : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() {
+        QVERIFY(m_work.isValid());
+        // One album at three levels 12 and 6 dB apart, and a single without album tags.
+        for (const char* volume : {"0.25", "1", "2"}) {
+            const QString path = m_work.filePath(u"album/%1.flac"_s.arg(QLatin1String(volume)));
+            QVERIFY(QDir().mkpath(QFileInfo(path).path()));
+            QVERIFY(SonoriaTest::makeMedia(
+                path, u"sine=frequency=1000:sample_rate=48000:duration=12"_s,
+                {u"-af"_s, u"volume=%1,aformat=channel_layouts=stereo"_s.arg(QLatin1String(volume)),
+                 u"-metadata"_s, u"album=Levels"_s, u"-metadata"_s, u"album_artist=Tester"_s}));
+            m_album.append(path);
+        }
+        m_single = m_work.filePath(u"single/one.flac"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(m_single).path()));
+        QVERIFY(SonoriaTest::makeMedia(m_single, u"sine=frequency=500:duration=6"_s,
+                                       {u"-af"_s, u"volume=0.5,aformat=channel_layouts=stereo"_s}));
+    }
+
+    // Album values: one album gain for the three, the single its own album; a German locale
+    // changes no decimal point.
+    void albumTags() {
+        const QString out = m_work.filePath(u"tagged"_s);
+        const CliResult result = runCli({u"--replaygain"_s, u"album"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
+                                         u"48000"_s, u"--no-organize"_s, u"-o"_s, out,
+                                         m_album.at(0), m_album.at(1), m_album.at(2), m_single},
+                                        u"de_DE.UTF-8"_s);
+        QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
+        const double album = -18.0 - ffmpegLoudness(m_album);
+        QStringList outputs;
+        for (const QString& source : std::as_const(m_album)) {
+            const QString output = out + u'/' + QFileInfo(source).completeBaseName() + u".flac"_s;
+            outputs.append(output);
+            const QMap<QString, QString> fields = gainFields(output);
+            QCOMPARE(fields.keys(),
+                     (QStringList{u"REPLAYGAIN_ALBUM_GAIN"_s, u"REPLAYGAIN_ALBUM_PEAK"_s,
+                                  u"REPLAYGAIN_TRACK_GAIN"_s, u"REPLAYGAIN_TRACK_PEAK"_s}));
+            QVERIFY2(std::abs(gainOf(fields[u"REPLAYGAIN_ALBUM_GAIN"_s]) - album) <= 0.1,
+                     qPrintable(fields[u"REPLAYGAIN_ALBUM_GAIN"_s] + u" vs "_s +
+                                QString::number(album)));
+            QVERIFY(std::abs(gainOf(fields[u"REPLAYGAIN_TRACK_GAIN"_s]) -
+                             (-18.0 - ffmpegLoudness({source}))) <= 0.1);
+            QCOMPARE(fields[u"REPLAYGAIN_ALBUM_PEAK"_s],
+                     gainFields(outputs.first()).value(u"REPLAYGAIN_ALBUM_PEAK"_s));
+        }
+        const QMap<QString, QString> single = gainFields(out + u"/one.flac"_s);
+        QCOMPARE(single.value(u"REPLAYGAIN_ALBUM_GAIN"_s),
+                 single.value(u"REPLAYGAIN_TRACK_GAIN"_s));
+        QCOMPARE(single.value(u"REPLAYGAIN_ALBUM_PEAK"_s),
+                 single.value(u"REPLAYGAIN_TRACK_PEAK"_s));
+    }
+
+    // The album's gain applied to its samples: together at -18 LUFS, their differences kept, no
+    // gain fields left to apply it twice.
+    void albumNormalised() {
+        const QString out = m_work.filePath(u"normalised"_s);
+        const CliResult result =
+            runCli({u"--replaygain"_s, u"album"_s, u"--normalise"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
+                    u"48000"_s, u"--no-organize"_s, u"-o"_s, out, m_album.at(0), m_album.at(1),
+                    m_album.at(2)});
+        QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
+        QStringList outputs;
+        for (const QString& source : std::as_const(m_album)) {
+            outputs.append(out + u'/' + QFileInfo(source).completeBaseName() + u".flac"_s);
+            QCOMPARE(gainFields(outputs.last()), (QMap<QString, QString>{}));
+        }
+        QVERIFY2(std::abs(ffmpegLoudness(outputs) + 18.0) <= 0.5,
+                 qPrintable(QString::number(ffmpegLoudness(outputs))));
+        QVERIFY(std::abs((ffmpegLoudness({outputs.at(2)}) - ffmpegLoudness({outputs.at(1)})) -
+                         (ffmpegLoudness({m_album.at(2)}) - ffmpegLoudness({m_album.at(1)}))) <=
+                0.15);
+    }
+
+    // A source that loads but cannot be decoded fails with the meter's reason; the others of
+    // the run still convert.
+    void unmeasurableSourceFails() {
+        const QString cut = m_work.filePath(u"cut.flac"_s);
+        QVERIFY(SonoriaTest::makeTone(cut, 2.0));
+        QVERIFY(SonoriaTest::cutFlacAfterMetadata(cut));
+        const QString out = m_work.filePath(u"cut-out"_s);
+        const CliResult result = runCli(
+            {u"--replaygain"_s, u"track"_s, u"--no-organize"_s, u"-o"_s, out, cut, m_single});
+        QCOMPARE(result.exitCode, 1);
+        QVERIFY2(result.out.contains(
+                     u"failed: %1: The loudness of the source could not be measured: "_s.arg(cut)),
+                 qPrintable(result.out));
+        QCOMPARE(QDir(out).entryList(QDir::Files | QDir::Hidden), QStringList{u"one.mp3"_s});
+        QVERIFY(gainFields(out + u"/one.mp3"_s).contains(u"REPLAYGAIN_TRACK_GAIN"_s));
+    }
+
+private:
+    struct CliResult {
+        int exitCode = -1;
+        QString out;
+        QString err;
+    };
+    CliResult runCli(const QStringList& arguments, const QString& language = u"C"_s) const {
+        QProcess process;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(u"LC_ALL"_s, language);
+        env.insert(u"LANG"_s, language);
+        env.remove(u"LANGUAGE"_s);
+        process.setProcessEnvironment(env);
+        process.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
+        CliResult result;
+        if (!process.waitForFinished(300000)) {
+            process.kill();
+            process.waitForFinished();
+            return result;
+        }
+        result.out = QString::fromUtf8(process.readAllStandardOutput());
+        result.err = QString::fromUtf8(process.readAllStandardError());
+        result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+        return result;
+    }
+
+    QTemporaryDir m_work;
+    QStringList m_album;
+    QString m_single;
+};
+
+SONORIA_TEST_MAIN(TestCliLoudness)
+#include "tst_cliloudness.moc"

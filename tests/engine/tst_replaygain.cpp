@@ -1,0 +1,348 @@
+#include "ConvertTestSupport.h"
+
+#include "engine/ConvertCommandLine.h"
+#include "framework/HVLoudness.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "support/TestSupport.h"
+
+#include <QLocale>
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+#include <taglib/apefile.h>
+#include <taglib/apetag.h>
+#include <taglib/asffile.h>
+#include <taglib/fileref.h>
+#include <taglib/id3v2tag.h>
+#include <taglib/mp4file.h>
+#include <taglib/mpegfile.h>
+#include <taglib/textidentificationframe.h>
+#include <taglib/tpropertymap.h>
+#include <taglib/wavpackfile.h>
+#include <taglib/xiphcomment.h>
+
+// ReplayGain in the conversion: what the measured values become in each output family's own
+// fields (read back at the level of frames, atoms, comments and attributes), the gain an ffmpeg
+// volume filter applies when normalising (checked on the output with ffmpeg's own meter), and
+// the argument list left exactly as it was when neither is asked for.
+using namespace ConvertTest;
+
+namespace {
+
+QString text(const TagLib::String& value) {
+    return QString::fromStdString(value.to8Bit(true));
+}
+
+// The loudness fields of a file under the family's own keys.
+QMap<QString, QString> loudnessFields(const QString& path) {
+    QMap<QString, QString> fields;
+    const auto keep = [&fields](const QString& key, const QString& value) {
+        if (key.contains(u"replaygain"_s, Qt::CaseInsensitive) || key.startsWith(u"R128_"_s))
+            fields.insert(key, value);
+    };
+    const QByteArray name = QFile::encodeName(path);
+    TagLib::FileRef ref(name.constData());
+    if (auto* mpeg = dynamic_cast<TagLib::MPEG::File*>(ref.file()); mpeg && mpeg->ID3v2Tag()) {
+        for (TagLib::ID3v2::Frame* frame : mpeg->ID3v2Tag()->frameList("TXXX")) {
+            auto* user = static_cast<TagLib::ID3v2::UserTextIdentificationFrame*>(frame);
+            keep(u"TXXX:"_s + text(user->description()), text(user->fieldList().back()));
+        }
+    } else if (auto* mp4 = dynamic_cast<TagLib::MP4::File*>(ref.file()); mp4 && mp4->tag()) {
+        for (const auto& [key, item] : mp4->tag()->itemMap())
+            keep(text(key), text(item.toStringList().toString()));
+    } else if (auto* asf = dynamic_cast<TagLib::ASF::File*>(ref.file()); asf && asf->tag()) {
+        for (const auto& [key, attributes] : asf->tag()->attributeListMap())
+            keep(text(key), text(attributes.front().toString()));
+    } else if (auto* wv = dynamic_cast<TagLib::WavPack::File*>(ref.file()); wv && wv->APETag()) {
+        for (const auto& [key, item] : wv->APETag()->itemListMap())
+            keep(u"APE:"_s + text(key), text(item.toString()));
+    } else if (auto* xiph = dynamic_cast<TagLib::Ogg::XiphComment*>(ref.tag())) {
+        for (const auto& [key, values] : xiph->fieldListMap())
+            keep(text(key), text(values.front()));
+    } else if (ref.file()) {
+        for (const auto& [key, values] : ref.file()->properties())
+            keep(text(key), text(values.front()));
+    }
+    return fields;
+}
+
+struct Reference {
+    double integrated = qQNaN();
+    double truePeakDb = qQNaN();
+};
+
+Reference ffmpegMeter(const QString& path) {
+    QString output;
+    if (SonoriaTest::run(u"ffmpeg"_s,
+                         {u"-nostats"_s, u"-i"_s, path, u"-af"_s, u"ebur128=peak=true"_s, u"-f"_s,
+                          u"null"_s, u"-"_s},
+                         &output) != 0)
+        return {};
+    const QString summary = output.mid(output.lastIndexOf(u"Summary:"_s));
+    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
+    static const QRegularExpression peak(uR"(True peak:\s+Peak:\s+(-?[\d.]+) dBFS)"_s);
+    return {integrated.match(summary).captured(1).toDouble(),
+            peak.match(summary).captured(1).toDouble()};
+}
+
+} // namespace
+
+class ReplayGainTest : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() {
+        QVERIFY(m_dir.isValid());
+        // A decimal comma in the user's language must not reach a tag or an argument.
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+        m_source = m_dir.filePath(u"source.flac"_s);
+        // An earlier program's gain in the source, which a measured one replaces.
+        QVERIFY(SonoriaTest::makeMedia(m_source,
+                                       u"sine=frequency=1000:sample_rate=44100:duration=4"_s,
+                                       {u"-af"_s, u"volume=2,aformat=channel_layouts=stereo"_s,
+                                        u"-metadata"_s, u"REPLAYGAIN_TRACK_GAIN=-99.00 dB"_s}));
+    }
+
+    // Tags alone, or nothing to apply, leave the list byte for byte as it has always been.
+    void argumentsUnchangedWithoutGain_data() {
+        QTest::addColumn<int>("tags");
+        QTest::addColumn<bool>("normalise");
+        QTest::addColumn<bool>("measured");
+        QTest::newRow("off") << int(SXReplayGainMode::Off) << false << false;
+        QTest::newRow("track tags") << int(SXReplayGainMode::Track) << false << true;
+        QTest::newRow("album tags") << int(SXReplayGainMode::Album) << false << true;
+        QTest::newRow("normalise, silent source") << int(SXReplayGainMode::Off) << true << false;
+    }
+    void argumentsUnchangedWithoutGain() {
+        QFETCH(int, tags);
+        QFETCH(bool, normalise);
+        QFETCH(bool, measured);
+        Item item = makeItem(u"/music/a b.flac"_s, 10.0);
+        item.job.loudness.tags = SXReplayGainMode(tags);
+        item.job.loudness.normalise = normalise;
+        if (measured) {
+            item.job.loudness.trackGain = -4.0;
+            item.job.loudness.albumGain = -5.0;
+        }
+        QCOMPARE(ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, u"/out/x.mp3"_s),
+                 (QStringList{u"ffmpeg"_s, u"-i"_s, u"/music/a b.flac"_s, u"-vn"_s, u"-acodec"_s,
+                              u"libmp3lame"_s, u"-ar"_s, u"44100.00"_s, u"-b:a"_s, u"128.00k"_s,
+                              u"-ac"_s, u"2"_s, u"-y"_s, u"/out/x.mp3"_s}));
+    }
+
+    void normalisingFilter_data() {
+        QTest::addColumn<int>("tags");
+        QTest::addColumn<double>("trackGain");
+        QTest::addColumn<double>("trackPeak");
+        QTest::addColumn<double>("albumGain");
+        QTest::addColumn<double>("albumPeak");
+        QTest::addColumn<QString>("filter");
+        QTest::newRow("room to raise")
+            << int(SXReplayGainMode::Off) << 6.0 << 0.1 << 0.0 << 0.0 << u"volume=6.00dB"_s;
+        // 0.5 is -6.02 dBTP: raised by 5.02 dB it reaches the -1 dBTP ceiling.
+        QTest::newRow("raise limited by the peak")
+            << int(SXReplayGainMode::Track) << 6.0 << 0.5 << 0.0 << 0.0 << u"volume=5.02dB"_s;
+        QTest::newRow("album gain and peak in album mode")
+            << int(SXReplayGainMode::Album) << 2.0 << 0.2 << -3.5 << 0.9 << u"volume=-3.50dB"_s;
+        QTest::newRow("over full scale is lowered further")
+            << int(SXReplayGainMode::Off) << -2.0 << 1.2 << 0.0 << 0.0 << u"volume=-2.58dB"_s;
+    }
+    void normalisingFilter() {
+        QFETCH(int, tags);
+        QFETCH(double, trackGain);
+        QFETCH(double, trackPeak);
+        QFETCH(double, albumGain);
+        QFETCH(double, albumPeak);
+        QFETCH(QString, filter);
+        Item item = makeItem(u"/music/a.flac"_s, 10.0);
+        const QStringList plain = ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, u"o"_s);
+        item.job.loudness = {
+            SXReplayGainMode(tags), true, trackGain, trackPeak, albumGain, albumPeak};
+        QStringList arguments = ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, u"o"_s);
+        QCOMPARE(arguments.mid(4, 2), (QStringList{u"-af"_s, filter}));
+        arguments.remove(4, 2);
+        QCOMPARE(arguments, plain);
+        // And never a word of ReplayGain in the output that already sounds at its gain.
+        QVERIFY(item.job.loudness.tagFields(u"flac"_s).replace);
+        QVERIFY(item.job.loudness.tagFields(u"flac"_s).fields.isEmpty());
+    }
+
+    void fieldTexts_data() {
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<int>("tags");
+        QTest::addColumn<double>("trackGain");
+        QTest::addColumn<QStringList>("expected"); // name=value, in name order
+        QTest::newRow("mp3, track") << u"mp3"_s << int(SXReplayGainMode::Track) << -7.2349
+                                    << QStringList{u"REPLAYGAIN_TRACK_GAIN=-7.23 dB"_s,
+                                                   u"REPLAYGAIN_TRACK_PEAK=0.988547"_s};
+        QTest::newRow("flac, album, a hair under zero")
+            << u"flac"_s << int(SXReplayGainMode::Album) << -0.004
+            << QStringList{u"REPLAYGAIN_ALBUM_GAIN=2.50 dB"_s, u"REPLAYGAIN_ALBUM_PEAK=1.000000"_s,
+                           u"REPLAYGAIN_TRACK_GAIN=0.00 dB"_s, u"REPLAYGAIN_TRACK_PEAK=0.988547"_s};
+        // R128 gains are towards -23 LUFS, in 1/256 dB: (-7.2349 - 5) * 256 = -3132.1.
+        QTest::newRow("opus, album")
+            << u"opus"_s << int(SXReplayGainMode::Album) << -7.2349
+            << QStringList{u"R128_ALBUM_GAIN=-640"_s, u"R128_TRACK_GAIN=-3132"_s};
+        QTest::newRow("opus, far too quiet, clamped")
+            << u"opus"_s << int(SXReplayGainMode::Track) << 200.0
+            << QStringList{u"R128_TRACK_GAIN=32767"_s};
+        QTest::newRow("wav carries none")
+            << u"wav"_s << int(SXReplayGainMode::Album) << -7.0 << QStringList{};
+    }
+    void fieldTexts() {
+        QFETCH(QString, extension);
+        QFETCH(int, tags);
+        QFETCH(double, trackGain);
+        QFETCH(QStringList, expected);
+        const ConvertLoudness loudness{
+            SXReplayGainMode(tags), false, trackGain, 0.9885471, 2.5, 1.0};
+        const MTELoudnessFields fields = loudness.tagFields(extension);
+        QVERIFY(fields.replace);
+        QStringList found;
+        for (auto field = fields.fields.cbegin(); field != fields.fields.cend(); ++field)
+            found.append(field.key() + u'=' + field.value());
+        QCOMPARE(found, expected);
+    }
+
+    // Measured values through a real conversion into each family's own fields; the source's
+    // stale gain is gone.
+    void tagsReadBack_data() {
+        QTest::addColumn<QString>("extension");
+        QTest::addColumn<QString>("encoder");
+        QTest::addColumn<QStringList>("keys"); // track gain, track peak, album gain, album peak
+        QTest::newRow("flac") << u"flac"_s << u"flac"_s
+                              << QStringList{u"REPLAYGAIN_TRACK_GAIN"_s, u"REPLAYGAIN_TRACK_PEAK"_s,
+                                             u"REPLAYGAIN_ALBUM_GAIN"_s,
+                                             u"REPLAYGAIN_ALBUM_PEAK"_s};
+        QTest::newRow("ogg") << u"ogg"_s << u"libvorbis"_s
+                             << QStringList{u"REPLAYGAIN_TRACK_GAIN"_s, u"REPLAYGAIN_TRACK_PEAK"_s,
+                                            u"REPLAYGAIN_ALBUM_GAIN"_s, u"REPLAYGAIN_ALBUM_PEAK"_s};
+        QTest::newRow("opus") << u"opus"_s << u"libopus"_s
+                              << QStringList{u"R128_TRACK_GAIN"_s, QString(), u"R128_ALBUM_GAIN"_s,
+                                             QString()};
+        QTest::newRow("mp3") << u"mp3"_s << u"libmp3lame"_s
+                             << QStringList{u"TXXX:REPLAYGAIN_TRACK_GAIN"_s,
+                                            u"TXXX:REPLAYGAIN_TRACK_PEAK"_s,
+                                            u"TXXX:REPLAYGAIN_ALBUM_GAIN"_s,
+                                            u"TXXX:REPLAYGAIN_ALBUM_PEAK"_s};
+        QTest::newRow("m4a") << u"m4a"_s << u"aac"_s
+                             << QStringList{u"----:com.apple.iTunes:replaygain_track_gain"_s,
+                                            u"----:com.apple.iTunes:replaygain_track_peak"_s,
+                                            u"----:com.apple.iTunes:replaygain_album_gain"_s,
+                                            u"----:com.apple.iTunes:replaygain_album_peak"_s};
+        QTest::newRow("wma") << u"wma"_s << u"wmav2"_s
+                             << QStringList{u"replaygain_track_gain"_s, u"replaygain_track_peak"_s,
+                                            u"replaygain_album_gain"_s, u"replaygain_album_peak"_s};
+        QTest::newRow("wavpack") << u"wv"_s << u"wavpack"_s
+                                 << QStringList{u"APE:REPLAYGAIN_TRACK_GAIN"_s,
+                                                u"APE:REPLAYGAIN_TRACK_PEAK"_s,
+                                                u"APE:REPLAYGAIN_ALBUM_GAIN"_s,
+                                                u"APE:REPLAYGAIN_ALBUM_PEAK"_s};
+        QTest::newRow("wav") << u"wav"_s << u"pcm_s16le"_s
+                             << QStringList{QString(), QString(), QString(), QString()};
+    }
+    void tagsReadBack() {
+        QFETCH(QString, extension);
+        QFETCH(QString, encoder);
+        QFETCH(QStringList, keys);
+        const std::optional<HVLoudnessMeasurement> measured =
+            HVLoudness::measure(m_source, false, nullptr, nullptr);
+        QVERIFY(measured && measured->integrated);
+        Item item = makeItem(m_source, 4.0, u"Format"_s, encoder, extension);
+        item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(m_source, true));
+        const bool opus = extension == u"opus"_s;
+        if (opus)
+            item.job.choices.sampleRate = 48000; // the only rates the encoder takes
+        ConvertLoudness& loudness = item.job.loudness;
+        loudness.tags = SXReplayGainMode::Album;
+        loudness.trackGain = ConvertLoudness::gainFor(*measured->integrated);
+        loudness.trackPeak = measured->truePeak;
+        loudness.albumGain = -1.5;
+        loudness.albumPeak = 0.75;
+        const QString folder = m_dir.filePath(extension);
+        QVERIFY(QDir().mkpath(folder));
+        Recorder recorder;
+        const ConvertOperationPtr operation = convert(item, folder, &recorder);
+        QVERIFY2(stateOf(item) == CvtStateFinished, qPrintable(item->mediaInfo()->failReason()));
+
+        QMap<QString, QString> expected;
+        const QStringList values{
+            opus ? QString::number(ConvertLoudness::opusGain(*loudness.trackGain))
+                 : ConvertLoudness::gainText(*loudness.trackGain),
+            ConvertLoudness::peakText(measured->truePeak),
+            opus ? QString::number(ConvertLoudness::opusGain(-1.5)) : u"-1.50 dB"_s, u"0.750000"_s};
+        for (qsizetype i = 0; i < keys.size(); ++i) {
+            if (!keys.at(i).isEmpty())
+                expected.insert(keys.at(i), values.at(i));
+        }
+        QCOMPARE(loudnessFields(operation->strOutFilePath()), expected);
+    }
+
+    // The gain applied to the samples, measured on the output by ffmpeg: at -18 LUFS when there
+    // is room, never over -1 dBTP.
+    void normalisedOutput_data() {
+        QTest::addColumn<QString>("signal");
+        QTest::addColumn<bool>("limited");
+        QTest::newRow("quiet tone, raised")
+            << u"sine=frequency=1000:duration=6,volume=0.4"_s << false;
+        QTest::newRow("loud tone, lowered")
+            << u"sine=frequency=1000:duration=6,volume=7.5"_s << false;
+        // Clicks at nearly full scale in a quiet tone: the peak, not the loudness, sets the gain.
+        QTest::newRow("quiet tone with clicks, raise limited")
+            << u"aevalsrc=0.02*sin(2*PI*1000*t)+0.8*lt(mod(t\\,1)\\,0.001):s=44100:d=6"_s << true;
+    }
+    void normalisedOutput() {
+        QFETCH(QString, signal);
+        QFETCH(bool, limited);
+        const QString source = m_dir.filePath(u"normalise-%1.wav"_s.arg(QTest::currentDataTag()));
+        QVERIFY(SonoriaTest::makeMedia(source, signal,
+                                       {u"-af"_s, u"aformat=channel_layouts=stereo"_s}));
+        const std::optional<HVLoudnessMeasurement> measured =
+            HVLoudness::measure(source, false, nullptr, nullptr);
+        QVERIFY(measured && measured->integrated);
+        Item item = makeItem(source, 6.0, u"FLAC"_s, u"flac"_s, u"flac"_s);
+        item.job.loudness.normalise = true;
+        item.job.loudness.trackGain = ConvertLoudness::gainFor(*measured->integrated);
+        item.job.loudness.trackPeak = measured->truePeak;
+        Recorder recorder;
+        QVERIFY(QDir().mkpath(m_dir.filePath(u"normalised"_s)));
+        const ConvertOperationPtr operation =
+            convert(item, m_dir.filePath(u"normalised"_s), &recorder);
+        QVERIFY2(stateOf(item) == CvtStateFinished, qPrintable(item->mediaInfo()->failReason()));
+        const Reference output = ffmpegMeter(operation->strOutFilePath());
+        // ffmpeg prints tenths; its true-peak interpolation differs from the meter's by a few
+        // hundredths.
+        QVERIFY2(output.truePeakDb <= -1.0 + 0.1, qPrintable(QString::number(output.truePeakDb)));
+        if (limited) {
+            QVERIFY2(output.truePeakDb >= -1.5, qPrintable(QString::number(output.truePeakDb)));
+            QVERIFY(output.integrated < -18.5);
+        } else {
+            QVERIFY2(std::abs(output.integrated + 18.0) <= 0.5,
+                     qPrintable(QString::number(output.integrated)));
+        }
+        QCOMPARE(loudnessFields(operation->strOutFilePath()), (QMap<QString, QString>{}));
+    }
+
+    // An undecodable source fails with the meter's reason and no child ever starts.
+    void unmeasuredSourceFails() {
+        Item item = makeItem(m_source, 4.0);
+        item.job.loudness.tags = SXReplayGainMode::Track;
+        item.job.loudness.failure = u"its audio cannot be decoded"_s;
+        const QString folder = m_dir.filePath(u"unmeasured"_s);
+        QVERIFY(QDir().mkpath(folder));
+        Recorder recorder;
+        convert(item, folder, &recorder);
+        QCOMPARE(stateOf(item), int(CvtStateFailed));
+        QCOMPARE(item->mediaInfo()->failReason(),
+                 ConvertLoudness::notMeasured(u"its audio cannot be decoded"_s));
+        QCOMPARE(entries(folder), QStringList());
+    }
+
+private:
+    QTemporaryDir m_dir;
+    QString m_source;
+};
+
+SONORIA_TEST_MAIN(ReplayGainTest)
+#include "tst_replaygain.moc"

@@ -1,0 +1,160 @@
+#include "framework/HVLoudness.h"
+#include "support/TestSupport.h"
+
+#include <QRegularExpression>
+#include <QTemporaryDir>
+
+#include <cmath>
+
+// The meter against ffmpeg's own EBU R 128 filter on the same files: integrated loudness within
+// 0.1 LU and true peak within a few tenths of a dB, for a track and for an album gated as one.
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct Reference {
+    double integrated = 0; // LUFS
+    double truePeakDb = 0; // dBTP
+};
+
+// ffmpeg's summary of `path` (several files: played one after the other, as one programme).
+Reference ffmpegReference(const QStringList& paths, bool dualMono = false) {
+    QStringList arguments{u"-nostats"_s, u"-hide_banner"_s};
+    QString graph;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        arguments << u"-i"_s << paths.at(i);
+        graph += u"[%1:a]"_s.arg(i);
+    }
+    graph += u"concat=n=%1:v=0:a=1,ebur128=peak=true%2"_s.arg(paths.size())
+                 .arg(dualMono ? u":dualmono=true"_s : QString());
+    arguments << u"-filter_complex"_s << graph << u"-f"_s << u"null"_s << u"-"_s;
+    QString output;
+    if (SonoriaTest::run(u"ffmpeg"_s, arguments, &output) != 0)
+        return {qQNaN(), qQNaN()};
+    const QString summary = output.mid(output.lastIndexOf(u"Summary:"_s));
+    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
+    static const QRegularExpression peak(uR"(True peak:\s+Peak:\s+(-?[\d.]+|-inf) dBFS)"_s);
+    return {integrated.match(summary).captured(1).toDouble(),
+            peak.match(summary).captured(1).toDouble()};
+}
+
+double decibels(double linear) {
+    return 20.0 * std::log10(linear);
+}
+
+} // namespace
+
+class TestLoudness : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
+
+    void measuresAsFfmpeg_data() {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("filter");
+        QTest::addColumn<bool>("dualMono");
+        QTest::newRow("stereo 1 kHz, flac")
+            << u"a.flac"_s << u"volume=4,aformat=channel_layouts=stereo"_s << false;
+        QTest::newRow("quiet stereo, 48 kHz wav")
+            << u"b.wav"_s << u"volume=0.2,aresample=48000,aformat=channel_layouts=stereo"_s
+            << false;
+        QTest::newRow("mono, heard on both sides")
+            << u"c.flac"_s << u"volume=2,aformat=channel_layouts=mono"_s << true;
+        QTest::newRow("5.1 with a low-frequency channel, mp3 decoded")
+            << u"d.m4a"_s << u"volume=3,aformat=channel_layouts=5.1"_s << false;
+        QTest::newRow("stereo mp3")
+            << u"e.mp3"_s << u"volume=6,aformat=channel_layouts=stereo"_s << false;
+    }
+    void measuresAsFfmpeg() {
+        QFETCH(QString, name);
+        QFETCH(QString, filter);
+        QFETCH(bool, dualMono);
+        const QString path = m_dir.filePath(name);
+        QVERIFY(
+            SonoriaTest::makeMedia(path, u"sine=frequency=1000:duration=6"_s, {u"-af"_s, filter}));
+        QString error;
+        const std::optional<HVLoudnessMeasurement> measured =
+            HVLoudness::measure(path, false, nullptr, &error);
+        QVERIFY2(measured, qPrintable(error));
+        QVERIFY(measured->integrated);
+        QVERIFY(!measured->meter);
+        const Reference reference = ffmpegReference({path}, dualMono);
+        QVERIFY2(std::abs(*measured->integrated - reference.integrated) <= 0.1,
+                 qPrintable(u"%1 vs %2"_s.arg(*measured->integrated).arg(reference.integrated)));
+        QVERIFY2(
+            std::abs(decibels(measured->truePeak) - reference.truePeakDb) <= 0.3,
+            qPrintable(u"%1 vs %2"_s.arg(decibels(measured->truePeak)).arg(reference.truePeakDb)));
+    }
+
+    // Three tracks 12 and 6 dB apart: the album is gated over all blocks at once, so the quiet
+    // track falls under the relative gate and the album is the power mean of the other two,
+    // which no average of the three gains would give. ffmpeg hears the three as one programme
+    // (blocks straddle the joins, so the tracks are long enough for those not to matter).
+    void albumIsOneProgramme() {
+        QStringList paths;
+        QList<HVLoudnessMeasurement> tracks;
+        for (const char* volume : {"0.25", "1", "2"}) {
+            const QString path = m_dir.filePath(u"album-%1.flac"_s.arg(QLatin1String(volume)));
+            QVERIFY(SonoriaTest::makeMedia(
+                path, u"sine=frequency=1000:duration=20"_s,
+                {u"-af"_s,
+                 u"volume=%1,aformat=channel_layouts=stereo"_s.arg(QLatin1String(volume))}));
+            QString error;
+            const std::optional<HVLoudnessMeasurement> measured =
+                HVLoudness::measure(path, true, nullptr, &error);
+            QVERIFY2(measured && measured->meter, qPrintable(error));
+            tracks.append(*measured);
+            paths.append(path);
+        }
+        const std::optional<double> album = HVLoudness::albumLoudness(tracks);
+        QVERIFY(album);
+        const Reference reference = ffmpegReference(paths);
+        QVERIFY2(std::abs(*album - reference.integrated) <= 0.1,
+                 qPrintable(u"%1 vs %2"_s.arg(*album).arg(reference.integrated)));
+        const double gatedMean = 10.0 * std::log10((std::pow(10.0, *tracks[1].integrated / 10.0) +
+                                                    std::pow(10.0, *tracks[2].integrated / 10.0)) /
+                                                   2.0);
+        QVERIFY2(std::abs(*album - gatedMean) <= 0.02,
+                 qPrintable(u"%1 vs %2"_s.arg(*album).arg(gatedMean)));
+        QVERIFY(!HVLoudness::albumLoudness({}));
+    }
+
+    void silenceHasNoLoudness() {
+        const QString path = m_dir.filePath(u"silence.flac"_s);
+        QVERIFY(SonoriaTest::makeMedia(path, u"anullsrc=channel_layout=stereo:duration=3"_s,
+                                       {u"-ac"_s, u"2"_s}));
+        const std::optional<HVLoudnessMeasurement> measured =
+            HVLoudness::measure(path, true, nullptr, nullptr);
+        QVERIFY(measured);
+        QVERIFY(!measured->integrated);
+        QCOMPARE(measured->truePeak, 0.0);
+        QVERIFY(!HVLoudness::albumLoudness({*measured}));
+    }
+
+    void failuresHaveReasons_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<bool>("cancelled");
+        QTest::newRow("not media") << QByteArray("just some text, no audio\n") << false;
+        QTest::newRow("missing") << QByteArray() << false;
+        QTest::newRow("cancelled") << QByteArray("tone") << true;
+    }
+    void failuresHaveReasons() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(bool, cancelled);
+        QString path = m_dir.filePath(u"broken-%1"_s.arg(QTest::currentDataTag()));
+        if (cancelled)
+            QVERIFY(SonoriaTest::makeTone(path += u".flac"_s, 3.0));
+        else if (!bytes.isEmpty())
+            QVERIFY(SonoriaTest::writeFile(path, bytes));
+        const std::atomic<bool> cancel{cancelled};
+        QString error;
+        QVERIFY(!HVLoudness::measure(path, false, &cancel, &error));
+        QVERIFY(!error.isEmpty());
+    }
+
+private:
+    QTemporaryDir m_dir;
+};
+
+SONORIA_TEST_MAIN(TestLoudness)
+#include "tst_loudness.moc"
