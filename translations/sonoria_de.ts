@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>Option --%1 wurde mehrmals angegeben</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs erwartet eine ganze Zahl ab 1, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output erwartet einen Ordner</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats und --info nehmen keine DATEI- oder ORDNER-Argumente an</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>keine Eingabe: Geben Sie mindestens eine DATEI oder einen ORDNER an (siehe --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Audio- und Videodateien in Audioformate konvertieren.
   -j, --jobs N            gleichzeitige Konvertierungen (Vorgabe: das gespeicherte Maximum, 5)
   -b, --bitrate W  -r, --samplerate W  -c, --channels W   eine der Möglichkeiten, die das Format anbietet
       --library           fertige Dateien an die Musikbibliothek und die Wiedergabeliste übergeben
+      --replaygain MODUS  die Lautheit messen und die Ausgaben mit ReplayGain versehen: „track“,
+                          oder „album“ für Titel- und Albumwerte (standardmäßig aus)
+      --normalise         mit der gemessenen Lautheit konvertieren (der des Albums mit
+                          --replaygain album), True Peak höchstens -1 dBTP; ohne ReplayGain-Tags
       --list-formats      den Katalog ausgeben: Namen, Endungen, Möglichkeiten und Vorgaben
       --info DATEI        ausgeben, was das Feld mit den Dateiinformationen zu einer Datei anzeigt
+      --check-tags QUELLE AUSGABE   die Tags zweier Dateien vergleichen: was ankam, was sich
+                          änderte, was verloren ging und warum (Status 1, wenn etwas verloren ging)
   -n, --dry-run           laden und prüfen, ausgeben, was wohin konvertiert würde, nichts konvertieren
   -v, --verbose           die Protokollzeilen auch auf die Standardfehlerausgabe schreiben (wie SONORIA_VERBOSE=1)
   -h, --help              diesen Text anzeigen
@@ -137,24 +169,12 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>Option --%1 wurde mehrmals angegeben</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain erwartet „track“ oder „album“, nicht „%1“</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs erwartet eine ganze Zahl ab 1, nicht „%1“</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output erwartet einen Ordner</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats und --info nehmen keine DATEI- oder ORDNER-Argumente an</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>keine Eingabe: Geben Sie mindestens eine DATEI oder einen ORDNER an (siehe --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags erwartet zwei Dateien: QUELLE und AUSGABE</translation>
     </message>
 </context>
 <context>
@@ -217,6 +237,33 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli: unterbrochen, die Konvertierungen werden abgebrochen</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>Tags: %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli: %1: Datei nicht gefunden</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>erhalten %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>geändert %1: %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>verloren %1: %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>Die Quelle enthält keine Tags.</translation>
     </message>
 </context>
 <context>
@@ -327,6 +374,39 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>Die Lautheit der Quelle ließ sich nicht messen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>ihre Lautheit lässt sich nicht messen</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>die Datei lässt sich nicht öffnen</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>die Datei enthält keinen Ton</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>ihr Ton lässt sich nicht dekodieren</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>die Messung wurde abgebrochen</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -339,6 +419,105 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>Die Datei enthält keine lesbaren Audiodaten</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>Titel %1 des Cue-Sheets beginnt nach dem Ende von %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>%1-Dateien können „%2“ nicht speichern</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>%1-Dateien enthalten keine Tags</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>%1-Dateien speichern es gekürzt als „%2“</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>geschrieben als „%1“</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>das Cover war zu groß und wurde verkleinert</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>das Cover wurde in einem anderen Bildformat gespeichert</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>%1-Dateien behalten nur das erste Bild</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Interpret</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Album-Interpret</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Komponist</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Gruppierung</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Titelnummer</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>CD-Nummer</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Verlag</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Liedtext</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Cover</translation>
     </message>
 </context>
 <context>
@@ -553,6 +732,29 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>Das Cue-Sheet lässt sich nicht lesen</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>Das Cue-Sheet enthält keine Titel</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>Titel %1 des Cue-Sheets endet, bevor er beginnt</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>Das Cue-Sheet lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>Die Audiodatei des Cue-Sheets fehlt: %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -590,6 +792,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>Failed: %1</source>
         <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Nicht erhaltene Tags:</translation>
     </message>
 </context>
 <context>
@@ -698,6 +904,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
         <source>Where</source>
         <translation>Ort</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Nicht erhaltene Tags</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -743,6 +953,26 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Zur &amp;Musikbibliothek hinzufügen</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Replay&amp;Gain-Tags:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>Lautheit &amp;normalisieren</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1041,20 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pause (Umschalt+Leertaste)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>Dieser Ort ist keine Datei auf diesem Rechner und wurde nicht hinzugefügt:</numerusform>
+            <numerusform>Diese Orte sind keine Dateien auf diesem Rechner und wurden nicht hinzugefügt:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1452,37 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
         <source>Output Folder of This Format</source>
         <translation>Ausgabeordner dieses Formats</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Replay&amp;Gain-Tags:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>Lautheit &amp;normalisieren</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Konvertiert mit dem gemessenen ReplayGain (im Album-Modus dem des Albums), der True Peak bleibt bei höchstens −1 dBTP; die Ausgabe erhält dann keine ReplayGain-Tags</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Wird konvertiert …</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1364,6 +1639,13 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n Datei konnte nicht alle Tags behalten.</numerusform>
+            <numerusform>%n Dateien konnten nicht alle Tags behalten.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

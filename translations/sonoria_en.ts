@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>option --%1 given more than once</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output needs a folder</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats and --info take no FILE|FOLDER arguments</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>no input: give at least one FILE or FOLDER (see --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -137,24 +169,12 @@ cancels the run; partial outputs are removed).
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>option --%1 given more than once</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output needs a folder</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats and --info take no FILE|FOLDER arguments</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>no input: give at least one FILE or FOLDER (see --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags takes two files: SOURCE and OUTPUT</translation>
     </message>
 </context>
 <context>
@@ -217,6 +237,33 @@ cancels the run; partial outputs are removed).
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli: interrupted, cancelling the conversions</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>tags: %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli: %1: no such file</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>kept     %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>changed  %1: %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>lost     %1: %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>The source carries no tags.</translation>
     </message>
 </context>
 <context>
@@ -327,6 +374,39 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>The loudness of the source could not be measured: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>its loudness cannot be measured</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>the file cannot be opened</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>the file holds no audio</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>its audio cannot be decoded</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>the measurement was cancelled</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -339,6 +419,105 @@ cancels the run; partial outputs are removed).
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>The file holds no audio that can be read</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>Track %1 of the cue sheet starts after the end of %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>%1 files cannot hold “%2”</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>%1 files hold no tags</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>%1 files keep it shortened to “%2”</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>written as “%1”</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>the cover was too large and was scaled</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>the cover was stored in another picture format</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>%1 files keep only the first picture</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Title</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artist</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Album artist</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Composer</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Grouping</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Track number</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>Disc number</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Publisher</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comment</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Lyrics</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Cover art</translation>
     </message>
 </context>
 <context>
@@ -553,6 +732,29 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>This is not a cue sheet that can be read</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>The cue sheet lists no tracks</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>Track %1 of the cue sheet ends before it starts</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>The cue sheet cannot be opened: %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>The audio file of the cue sheet is missing: %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -590,6 +792,10 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Failed: %1</source>
         <translation>Failed: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Tags not kept:</translation>
     </message>
 </context>
 <context>
@@ -698,6 +904,10 @@ cancels the run; partial outputs are removed).
         <source>Where</source>
         <translation>Where</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Tags not kept</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -743,6 +953,26 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Add to the music &amp;library</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Replay&amp;Gain tags:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Track</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>&amp;Normalise loudness</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1041,20 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pause (Shift+Space)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>This location is not a file on this computer and was not added:</numerusform>
+            <numerusform>These locations are not files on this computer and were not added:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1452,37 @@ cancels the run; partial outputs are removed).
         <source>Output Folder of This Format</source>
         <translation>Output Folder of This Format</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Replay&amp;Gain tags:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Track</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>Normali&amp;se loudness</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below −1 dBTP; the output then gets no ReplayGain tags</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Converting…</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1364,6 +1639,13 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Please choose output folder:</source>
         <translation>Choose the output folder:</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n file could not keep all its tags.</numerusform>
+            <numerusform>%n files could not keep all their tags.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>la opción --%1 se ha indicado más de una vez</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs necesita un número entero igual o mayor que 1, no «%1»</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output necesita una carpeta</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats y --info no admiten argumentos ARCHIVO|CARPETA</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>no hay entrada: indique al menos un ARCHIVO o una CARPETA (consulte --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Convierte archivos de audio y vídeo a formatos de audio.
   -j, --jobs N            conversiones simultáneas (predeterminado: el máximo guardado, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   una de las opciones que ofrece el formato
       --library           entregar los archivos terminados a la biblioteca musical y a la lista de reproducción
+      --replaygain MODO   medir la sonoridad y etiquetar las salidas con ReplayGain: «track»,
+                          o «album» para valores de pista y de álbum (desactivado por omisión)
+      --normalise         convertir a la sonoridad medida (la del álbum con --replaygain album),
+                          pico real de -1 dBTP como máximo; no se escriben etiquetas ReplayGain
       --list-formats      mostrar el catálogo: nombres, extensiones, opciones y valores predeterminados
       --info ARCHIVO      mostrar lo que el panel de información muestra para un archivo
+      --check-tags ORIGEN SALIDA   comparar las etiquetas de dos archivos: qué llegó, qué cambió,
+                          qué se perdió y por qué (estado de salida 1 si se perdió algo)
   -n, --dry-run           cargar y analizar, mostrar qué se convertiría y dónde, sin convertir nada
   -v, --verbose           replicar las líneas del registro en la salida de error estándar (igual que SONORIA_VERBOSE=1)
   -h, --help              mostrar este texto
@@ -137,24 +169,12 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>la opción --%1 se ha indicado más de una vez</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain admite «track» o «album», no «%1»</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs necesita un número entero igual o mayor que 1, no «%1»</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output necesita una carpeta</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats y --info no admiten argumentos ARCHIVO|CARPETA</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>no hay entrada: indique al menos un ARCHIVO o una CARPETA (consulte --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags necesita dos archivos: ORIGEN y SALIDA</translation>
     </message>
 </context>
 <context>
@@ -217,6 +237,33 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli: interrumpido, cancelando las conversiones</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>etiquetas: %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli: %1: no existe el archivo</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>conservado %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>cambiado %1: %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>perdido  %1: %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>El origen no tiene etiquetas.</translation>
     </message>
 </context>
 <context>
@@ -327,6 +374,39 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>No se pudo medir la sonoridad del origen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>su sonoridad no se puede medir</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>el archivo no se puede abrir</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>el archivo no contiene audio</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>su audio no se puede decodificar</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>la medición se canceló</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -339,6 +419,105 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>El archivo no contiene audio que se pueda leer</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>La pista %1 de la hoja CUE empieza después del final de %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>Los archivos %1 no pueden guardar «%2»</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>Los archivos %1 no admiten etiquetas</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>Los archivos %1 lo guardan acortado como «%2»</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>escrito como «%1»</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>la carátula era demasiado grande y se redujo</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>la carátula se guardó en otro formato de imagen</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>Los archivos %1 solo guardan la primera imagen</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artista del álbum</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Agrupación</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Género</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Número de pista</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>Número de disco</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Editorial</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentario</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Letra</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Carátula</translation>
     </message>
 </context>
 <context>
@@ -553,6 +732,29 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>La hoja CUE no se puede leer</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>La hoja CUE no contiene pistas</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>La pista %1 de la hoja CUE termina antes de empezar</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>No se puede abrir la hoja CUE: %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>Falta el archivo de audio de la hoja CUE: %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -590,6 +792,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>Failed: %1</source>
         <translation>Falló: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Etiquetas no conservadas:</translation>
     </message>
 </context>
 <context>
@@ -698,6 +904,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>Where</source>
         <translation>Ubicación</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Etiquetas no conservadas</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -743,6 +953,26 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Añadir a la &amp;biblioteca musical</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Etiquetas Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivadas</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Pista</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>Norma&amp;lizar sonoridad</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1041,20 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pausar (Mayús+Espacio)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>Esta ubicación no es un archivo de este equipo y no se añadió:</numerusform>
+            <numerusform>Estas ubicaciones no son archivos de este equipo y no se añadieron:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1452,37 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>Output Folder of This Format</source>
         <translation>Carpeta de salida de este formato</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Etiquetas Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivadas</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Pista</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>Norma&amp;lizar sonoridad</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Convierte con el ReplayGain medido (el del álbum en modo álbum), manteniendo el pico real en −1 dBTP o menos; la salida no recibe entonces etiquetas ReplayGain</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Convirtiendo…</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1364,6 +1639,13 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n archivo no pudo conservar todas sus etiquetas.</numerusform>
+            <numerusform>%n archivos no pudieron conservar todas sus etiquetas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

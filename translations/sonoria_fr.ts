@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>option --%1 donnée plusieurs fois</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs attend un nombre entier supérieur ou égal à 1, et non «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output attend un dossier</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats et --info n’acceptent aucun argument FICHIER ou DOSSIER</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>aucune entrée&#xa0;: indiquez au moins un FICHIER ou un DOSSIER (voir --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Convertit des fichiers audio et vidéo en formats audio.
   -j, --jobs N            conversions simultanées (par défaut&#xa0;: le maximum enregistré, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   l’un des choix proposés par le format
       --library           envoyer les fichiers terminés vers la bibliothèque musicale et la liste de lecture
+      --replaygain MODE   mesurer le volume sonore et écrire les étiquettes ReplayGain&#xa0;: « track »,
+                          ou « album » pour les valeurs de piste et d’album (désactivé par défaut)
+      --normalise         convertir au volume mesuré (celui de l’album avec --replaygain album),
+                          pic réel à -1 dBTP au plus&#xa0;; aucune étiquette ReplayGain n’est écrite
       --list-formats      afficher le catalogue&#xa0;: noms, extensions, choix et valeurs par défaut
       --info FICHIER      afficher ce que le panneau d’informations montre pour un fichier
+      --check-tags SOURCE SORTIE   comparer les étiquettes de deux fichiers&#xa0;: ce qui est arrivé,
+                          modifié ou perdu, et pourquoi (code de sortie 1 si quelque chose est perdu)
   -n, --dry-run           charger et analyser, afficher ce qui serait converti et où, ne rien convertir
   -v, --verbose           recopier les lignes du journal sur la sortie d’erreur standard (comme SONORIA_VERBOSE=1)
   -h, --help              afficher ce texte
@@ -138,24 +170,12 @@ partielles sont supprimées).
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>option --%1 donnée plusieurs fois</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain attend « track » ou « album », pas « %1 »</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs attend un nombre entier supérieur ou égal à 1, et non «&#xa0;%1&#xa0;»</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output attend un dossier</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats et --info n’acceptent aucun argument FICHIER ou DOSSIER</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>aucune entrée&#xa0;: indiquez au moins un FICHIER ou un DOSSIER (voir --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags attend deux fichiers : SOURCE et SORTIE</translation>
     </message>
 </context>
 <context>
@@ -218,6 +238,33 @@ partielles sont supprimées).
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli&#xa0;: interrompu, annulation des conversions</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>étiquettes : %1 : %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli : %1 : fichier introuvable</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>conservé %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>modifié %1 : %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>perdu   %1 : %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>La source ne contient aucune étiquette.</translation>
     </message>
 </context>
 <context>
@@ -328,6 +375,39 @@ partielles sont supprimées).
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>Impossible de mesurer le volume sonore de la source : %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>son volume sonore ne peut pas être mesuré</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>le fichier ne peut pas être ouvert</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>le fichier ne contient pas d’audio</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>son audio ne peut pas être décodé</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>la mesure a été annulée</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -340,6 +420,105 @@ partielles sont supprimées).
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>Le fichier ne contient aucune donnée audio lisible</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>La piste %1 de la feuille CUE commence après la fin de %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>Les fichiers %1 ne peuvent pas contenir « %2 »</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>Les fichiers %1 ne contiennent pas d’étiquettes</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>Les fichiers %1 le raccourcissent en « %2 »</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>écrit « %1 »</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>la pochette était trop grande et a été réduite</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>la pochette a été enregistrée dans un autre format d’image</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>Les fichiers %1 ne gardent que la première image</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artiste</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artiste de l’album</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositeur</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Regroupement</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genre</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Numéro de piste</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>Numéro de disque</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Éditeur</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commentaire</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Paroles</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Pochette</translation>
     </message>
 </context>
 <context>
@@ -554,6 +733,29 @@ partielles sont supprimées).
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>La feuille CUE est illisible</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>La feuille CUE ne contient aucune piste</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>La piste %1 de la feuille CUE se termine avant de commencer</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>Impossible d’ouvrir la feuille CUE : %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>Le fichier audio de la feuille CUE est introuvable : %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -591,6 +793,10 @@ partielles sont supprimées).
     <message>
         <source>Failed: %1</source>
         <translation>Échec&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Étiquettes non conservées :</translation>
     </message>
 </context>
 <context>
@@ -699,6 +905,10 @@ partielles sont supprimées).
         <source>Where</source>
         <translation>Emplacement</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Étiquettes non conservées</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -744,6 +954,26 @@ partielles sont supprimées).
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Ajouter à la &amp;bibliothèque musicale</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Étiquettes Replay&amp;Gain&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivées</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Piste</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>&amp;Normaliser le volume sonore</translation>
     </message>
 </context>
 <context>
@@ -812,6 +1042,20 @@ partielles sont supprimées).
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pause (Maj+Espace)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>Cet emplacement n’est pas un fichier de cet ordinateur et n’a pas été ajouté :</numerusform>
+            <numerusform>Ces emplacements ne sont pas des fichiers de cet ordinateur et n’ont pas été ajoutés :</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1209,6 +1453,37 @@ partielles sont supprimées).
         <source>Output Folder of This Format</source>
         <translation>Dossier de sortie de ce format</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Étiquettes Replay&amp;Gain&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivées</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Piste</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>&amp;Normaliser le volume sonore</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Convertit au ReplayGain mesuré (celui de l’album en mode album), en gardant le pic réel à −1&#xa0;dBTP au plus ; la sortie ne reçoit alors pas d’étiquettes ReplayGain</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Conversion…</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1365,6 +1640,13 @@ partielles sont supprimées).
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n fichier n’a pas pu garder toutes ses étiquettes.</numerusform>
+            <numerusform>%n fichiers n’ont pas pu garder toutes leurs étiquettes.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

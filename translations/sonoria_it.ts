@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>opzione --%1 indicata più di una volta</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs richiede un numero intero pari o superiore a 1, non «%1»</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output richiede una cartella</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats e --info non accettano argomenti FILE|CARTELLA</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>nessun input: indicare almeno un FILE o una CARTELLA (consultare --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Converte file audio e video in formati audio.
   -j, --jobs N            conversioni simultanee (predefinito: il massimo memorizzato, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   una delle scelte offerte dal formato
       --library           consegna i file completati alla libreria musicale e alla scaletta
+      --replaygain MODO   misura il volume percepito e aggiunge i tag ReplayGain: «track»,
+                          o «album» per i valori di traccia e di album (disattivato di norma)
+      --normalise         converte al volume misurato (quello dell&apos;album con --replaygain album),
+                          picco reale al massimo -1 dBTP; non vengono scritti tag ReplayGain
       --list-formats      stampa il catalogo: nomi, estensioni, scelte e valori predefiniti
       --info FILE         stampa ciò che il pannello delle informazioni mostra per un file
+      --check-tags ORIGINE USCITA   confronta i tag di due file: cosa è arrivato, cosa è cambiato,
+                          cosa è andato perso e perché (stato di uscita 1 se si è perso qualcosa)
   -n, --dry-run           carica e analizza, stampa cosa verrebbe convertito e dove, non converte nulla
   -v, --verbose           replica le righe del registro sullo standard error (come SONORIA_VERBOSE=1)
   -h, --help              mostra questo testo
@@ -137,24 +169,12 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>opzione --%1 indicata più di una volta</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain accetta «track» o «album», non «%1»</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs richiede un numero intero pari o superiore a 1, non «%1»</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output richiede una cartella</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats e --info non accettano argomenti FILE|CARTELLA</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>nessun input: indicare almeno un FILE o una CARTELLA (consultare --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags richiede due file: ORIGINE e USCITA</translation>
     </message>
 </context>
 <context>
@@ -217,6 +237,33 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli: interrotto, annullamento delle conversioni</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>tag: %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli: %1: file inesistente</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>mantenuto %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>modificato %1: %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>perso    %1: %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>L&apos;origine non contiene tag.</translation>
     </message>
 </context>
 <context>
@@ -327,6 +374,39 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>Impossibile misurare il volume percepito dell&apos;origine: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>il suo volume percepito non è misurabile</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>il file non può essere aperto</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>il file non contiene audio</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>il suo audio non può essere decodificato</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>la misurazione è stata annullata</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -339,6 +419,105 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>Il file non contiene audio leggibile</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>La traccia %1 del cue sheet inizia dopo la fine di %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>I file %1 non possono contenere «%2»</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>I file %1 non contengono tag</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>I file %1 lo accorciano in «%2»</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>scritto come «%1»</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>la copertina era troppo grande ed è stata ridotta</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>la copertina è stata salvata in un altro formato di immagine</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>I file %1 mantengono solo la prima immagine</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titolo</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artista dell&apos;album</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositore</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Raggruppamento</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Genere</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Numero di traccia</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>Numero di disco</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Copyright</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Editore</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commento</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Testo</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Copertina</translation>
     </message>
 </context>
 <context>
@@ -553,6 +732,29 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>Il cue sheet non è leggibile</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>Il cue sheet non elenca tracce</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>La traccia %1 del cue sheet finisce prima di iniziare</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>Impossibile aprire il cue sheet: %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>Manca il file audio del cue sheet: %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -590,6 +792,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>Failed: %1</source>
         <translation>Non riuscito: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Tag non mantenuti:</translation>
     </message>
 </context>
 <context>
@@ -698,6 +904,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>Where</source>
         <translation>Posizione</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Tag non mantenuti</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -743,6 +953,26 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Aggiungi alla &amp;libreria musicale</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Tag Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivati</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>Nor&amp;malizza volume</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1041,20 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pausa (Maiusc+Spazio)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>Questa posizione non è un file di questo computer e non è stata aggiunta:</numerusform>
+            <numerusform>Queste posizioni non sono file di questo computer e non sono state aggiunte:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1452,37 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>Output Folder of This Format</source>
         <translation>Cartella di destinazione di questo formato</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Tag Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivati</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Traccia</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Album</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>Nor&amp;malizza volume</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Converte al ReplayGain misurato (quello dell&apos;album in modalità album), mantenendo il picco reale a −1 dBTP o meno; l&apos;uscita non riceve poi tag ReplayGain</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Conversione…</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1364,6 +1639,13 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n file non ha potuto mantenere tutti i suoi tag.</numerusform>
+            <numerusform>%n file non hanno potuto mantenere tutti i loro tag.</numerusform>
+        </translation>
     </message>
 </context>
 <context>

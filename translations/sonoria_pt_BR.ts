@@ -91,6 +91,26 @@
 <context>
     <name>CliOptionsParser</name>
     <message>
+        <source>option --%1 given more than once</source>
+        <translation>opção --%1 informada mais de uma vez</translation>
+    </message>
+    <message>
+        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
+        <translation>--jobs precisa de um número inteiro igual ou maior que 1, não “%1”</translation>
+    </message>
+    <message>
+        <source>--output needs a folder</source>
+        <translation>--output precisa de uma pasta</translation>
+    </message>
+    <message>
+        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
+        <translation>--list-formats e --info não aceitam argumentos ARQUIVO|PASTA</translation>
+    </message>
+    <message>
+        <source>no input: give at least one FILE or FOLDER (see --help)</source>
+        <translation>nenhuma entrada: informe ao menos um ARQUIVO ou uma PASTA (veja --help)</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -100,8 +120,14 @@ Convert audio and video files to audio formats.
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
       --library           deliver finished files to the music library and playlist
+      --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
+                          or &quot;album&quot; for track and album values (off by default)
+      --normalise         convert at the measured loudness (the album&apos;s with --replaygain
+                          album), true peak at most -1 dBTP; no ReplayGain tags are written
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
+      --check-tags SOURCE OUTPUT   compare the tags of two files: what arrived, what changed,
+                          what was lost and why (exit status 1 when anything was lost)
   -n, --dry-run           load and probe, print what would be converted and where, convert nothing
   -v, --verbose           mirror the log lines to standard error (as does SONORIA_VERBOSE=1)
   -h, --help              show this text
@@ -122,8 +148,14 @@ Converte arquivos de áudio e vídeo para formatos de áudio.
   -j, --jobs N            conversões simultâneas (padrão: o máximo armazenado, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   uma das opções oferecidas pelo formato
       --library           entrega os arquivos concluídos à biblioteca de músicas e à lista de reprodução
+      --replaygain MODO   medir a sonoridade e marcar as saídas com ReplayGain: “track”,
+                          ou “album” para valores de faixa e de álbum (desativado por padrão)
+      --normalise         converter na sonoridade medida (a do álbum com --replaygain album),
+                          pico real de no máximo -1 dBTP; nenhuma etiqueta ReplayGain é gravada
       --list-formats      exibe o catálogo: nomes, extensões, opções e valores padrão
       --info ARQUIVO      exibe o que o painel de informações mostra para um arquivo
+      --check-tags ORIGEM SAÍDA   comparar as etiquetas de dois arquivos: o que chegou, o que mudou,
+                          o que se perdeu e por quê (status de saída 1 se algo se perdeu)
   -n, --dry-run           carrega e analisa, exibe o que seria convertido e onde, sem converter nada
   -v, --verbose           espelha as linhas de log na saída de erro padrão (assim como SONORIA_VERBOSE=1)
   -h, --help              mostra este texto
@@ -137,24 +169,12 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
 </translation>
     </message>
     <message>
-        <source>option --%1 given more than once</source>
-        <translation>opção --%1 informada mais de uma vez</translation>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain aceita “track” ou “album”, não “%1”</translation>
     </message>
     <message>
-        <source>--jobs needs a whole number of 1 or more, not &quot;%1&quot;</source>
-        <translation>--jobs precisa de um número inteiro igual ou maior que 1, não “%1”</translation>
-    </message>
-    <message>
-        <source>--output needs a folder</source>
-        <translation>--output precisa de uma pasta</translation>
-    </message>
-    <message>
-        <source>--list-formats and --info take no FILE|FOLDER arguments</source>
-        <translation>--list-formats e --info não aceitam argumentos ARQUIVO|PASTA</translation>
-    </message>
-    <message>
-        <source>no input: give at least one FILE or FOLDER (see --help)</source>
-        <translation>nenhuma entrada: informe ao menos um ARQUIVO ou uma PASTA (veja --help)</translation>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags precisa de dois arquivos: ORIGEM e SAÍDA</translation>
     </message>
 </context>
 <context>
@@ -217,6 +237,33 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>sonoria-cli: interrupted, cancelling the conversions</source>
         <translation>sonoria-cli: interrompido, cancelando as conversões</translation>
+    </message>
+    <message>
+        <source>tags: %1: %2</source>
+        <translation>etiquetas: %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>CliTagCheck</name>
+    <message>
+        <source>sonoria-cli: %1: no such file</source>
+        <translation>sonoria-cli: %1: arquivo inexistente</translation>
+    </message>
+    <message>
+        <source>kept     %1</source>
+        <translation>mantido  %1</translation>
+    </message>
+    <message>
+        <source>changed  %1: %2</source>
+        <translation>alterado %1: %2</translation>
+    </message>
+    <message>
+        <source>lost     %1: %2</source>
+        <translation>perdido  %1: %2</translation>
+    </message>
+    <message>
+        <source>The source carries no tags.</source>
+        <translation>A origem não tem etiquetas.</translation>
     </message>
 </context>
 <context>
@@ -327,6 +374,39 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     </message>
 </context>
 <context>
+    <name>ConvertLoudness</name>
+    <message>
+        <source>The loudness of the source could not be measured: %1</source>
+        <translation>Não foi possível medir a sonoridade da origem: %1</translation>
+    </message>
+</context>
+<context>
+    <name>HVLoudness</name>
+    <message>
+        <source>its loudness cannot be measured</source>
+        <translation>sua sonoridade não pode ser medida</translation>
+    </message>
+</context>
+<context>
+    <name>HVSampleReader</name>
+    <message>
+        <source>the file cannot be opened</source>
+        <translation>o arquivo não pode ser aberto</translation>
+    </message>
+    <message>
+        <source>the file holds no audio</source>
+        <translation>o arquivo não contém áudio</translation>
+    </message>
+    <message>
+        <source>its audio cannot be decoded</source>
+        <translation>seu áudio não pode ser decodificado</translation>
+    </message>
+    <message>
+        <source>the measurement was cancelled</source>
+        <translation>a medição foi cancelada</translation>
+    </message>
+</context>
+<context>
     <name>LSMediaLoader</name>
     <message>
         <source>The file cannot be opened: %1</source>
@@ -339,6 +419,105 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>The file holds no audio that can be read</source>
         <translation>O arquivo não contém áudio que possa ser lido</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet starts after the end of %2</source>
+        <translation>A faixa %1 da folha CUE começa depois do fim de %2</translation>
+    </message>
+</context>
+<context>
+    <name>MTETagReport</name>
+    <message>
+        <source>%1 files cannot hold “%2”</source>
+        <translation>Arquivos %1 não podem guardar “%2”</translation>
+    </message>
+    <message>
+        <source>%1 files hold no tags</source>
+        <translation>Arquivos %1 não têm etiquetas</translation>
+    </message>
+    <message>
+        <source>%1 files keep it shortened to “%2”</source>
+        <translation>Arquivos %1 o guardam encurtado como “%2”</translation>
+    </message>
+    <message>
+        <source>written as “%1”</source>
+        <translation>gravado como “%1”</translation>
+    </message>
+    <message>
+        <source>the cover was too large and was scaled</source>
+        <translation>a capa era grande demais e foi reduzida</translation>
+    </message>
+    <message>
+        <source>the cover was stored in another picture format</source>
+        <translation>a capa foi gravada em outro formato de imagem</translation>
+    </message>
+    <message>
+        <source>%1 files keep only the first picture</source>
+        <translation>Arquivos %1 guardam apenas a primeira imagem</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Artist</source>
+        <translation>Artista</translation>
+    </message>
+    <message>
+        <source>Album artist</source>
+        <translation>Artista do álbum</translation>
+    </message>
+    <message>
+        <source>Composer</source>
+        <translation>Compositor</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Data</translation>
+    </message>
+    <message>
+        <source>Grouping</source>
+        <translation>Agrupamento</translation>
+    </message>
+    <message>
+        <source>Genre</source>
+        <translation>Gênero</translation>
+    </message>
+    <message>
+        <source>Track number</source>
+        <translation>Número da faixa</translation>
+    </message>
+    <message>
+        <source>Disc number</source>
+        <translation>Número do disco</translation>
+    </message>
+    <message>
+        <source>Copyright</source>
+        <translation>Direitos autorais</translation>
+    </message>
+    <message>
+        <source>Publisher</source>
+        <translation>Editora</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentário</translation>
+    </message>
+    <message>
+        <source>Lyrics</source>
+        <translation>Letra</translation>
+    </message>
+    <message>
+        <source>Cover art</source>
+        <translation>Capa</translation>
     </message>
 </context>
 <context>
@@ -553,6 +732,29 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     </message>
 </context>
 <context>
+    <name>SXCueSheet</name>
+    <message>
+        <source>The cue sheet cannot be read as one</source>
+        <translation>A folha CUE não pode ser lida</translation>
+    </message>
+    <message>
+        <source>The cue sheet lists no tracks</source>
+        <translation>A folha CUE não lista faixas</translation>
+    </message>
+    <message>
+        <source>Track %1 of the cue sheet ends before it starts</source>
+        <translation>A faixa %1 da folha CUE termina antes de começar</translation>
+    </message>
+    <message>
+        <source>The cue sheet cannot be opened: %1</source>
+        <translation>Não é possível abrir a folha CUE: %1</translation>
+    </message>
+    <message>
+        <source>The audio file of the cue sheet is missing: %1</source>
+        <translation>O arquivo de áudio da folha CUE não existe: %1</translation>
+    </message>
+</context>
+<context>
     <name>SXFailureTexts</name>
     <message>
         <source>ffmpeg failed without giving a reason</source>
@@ -590,6 +792,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>Failed: %1</source>
         <translation>Falhou: %1</translation>
+    </message>
+    <message>
+        <source>Tags not kept:</source>
+        <translation>Etiquetas não mantidas:</translation>
     </message>
 </context>
 <context>
@@ -698,6 +904,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>Where</source>
         <translation>Local</translation>
     </message>
+    <message>
+        <source>Tags not kept</source>
+        <translation>Etiquetas não mantidas</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoViewController</name>
@@ -743,6 +953,26 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>Add to the music &amp;library</source>
         <translation>Adicionar à &amp;biblioteca de músicas</translation>
+    </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Etiquetas Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativadas</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Faixa</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>&amp;Normalise loudness</source>
+        <translation>Norma&amp;lizar volume</translation>
     </message>
 </context>
 <context>
@@ -811,6 +1041,20 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>Pause (Shift+Space)</source>
         <translation>Pausar (Shift+Espaço)</translation>
+    </message>
+</context>
+<context>
+    <name>SXListDrop</name>
+    <message numerus="yes">
+        <source>Following location(s) are not files on this computer and were not added!</source>
+        <translation>
+            <numerusform>Este local não é um arquivo deste computador e não foi adicionado:</numerusform>
+            <numerusform>Estes locais não são arquivos deste computador e não foram adicionados:</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>
@@ -1208,6 +1452,37 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>Output Folder of This Format</source>
         <translation>Pasta de saída deste formato</translation>
     </message>
+    <message>
+        <source>Replay&amp;Gain tags:</source>
+        <translation>Etiquetas Replay&amp;Gain:</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativadas</translation>
+    </message>
+    <message>
+        <source>Track</source>
+        <translation>Faixa</translation>
+    </message>
+    <message>
+        <source>Album</source>
+        <translation>Álbum</translation>
+    </message>
+    <message>
+        <source>Normali&amp;se loudness</source>
+        <translation>Norma&amp;lizar volume</translation>
+    </message>
+    <message>
+        <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
+        <translation>Converte com o ReplayGain medido (o do álbum no modo álbum), mantendo o pico real em −1 dBTP ou menos; a saída então não recebe etiquetas ReplayGain</translation>
+    </message>
+</context>
+<context>
+    <name>SXStateStripModel</name>
+    <message>
+        <source>Converting...</source>
+        <translation>Convertendo…</translation>
+    </message>
 </context>
 <context>
     <name>SXTimeText</name>
@@ -1364,6 +1639,13 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n arquivo não pôde manter todas as suas etiquetas.</numerusform>
+            <numerusform>%n arquivos não puderam manter todas as suas etiquetas.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
