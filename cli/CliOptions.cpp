@@ -14,6 +14,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/<format name>
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format's offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; "/" makes
+                          folders (default "{filename}": the source's own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: "skip" it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep "both" (number the new file), or "replace" an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --list-formats      print the catalogue: names, extensions, choices and defaults
       --info FILE         print what the file information panel shows for a file
@@ -44,6 +52,9 @@ struct Declared {
     QCommandLineOption channels{
         {QStringLiteral("c"), QStringLiteral("channels")}, QString(), QStringLiteral("V")};
     QCommandLineOption library{QStringLiteral("library")};
+    QCommandLineOption pattern{QStringLiteral("pattern"), QString(), QStringLiteral("PATTERN")};
+    QCommandLineOption mirror{QStringLiteral("mirror")};
+    QCommandLineOption existing{QStringLiteral("existing"), QString(), QStringLiteral("WHAT")};
     QCommandLineOption listFormats{QStringLiteral("list-formats")};
     QCommandLineOption info{QStringLiteral("info"), QString(), QStringLiteral("FILE")};
     QCommandLineOption dryRun{{QStringLiteral("n"), QStringLiteral("dry-run")}};
@@ -51,8 +62,8 @@ struct Declared {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}};
 
     QList<QCommandLineOption> all() const {
-        return {format,  output,      noOrganize, jobs,   bitrate, samplerate, channels,
-                library, listFormats, info,       dryRun, verbose, help};
+        return {format,  output, noOrganize, jobs,        bitrate, samplerate, channels, library,
+                pattern, mirror, existing,   listFormats, info,    dryRun,     verbose,  help};
     }
 };
 
@@ -122,6 +133,18 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
     options.samplerate = parser.value(declared.samplerate);
     options.channels = parser.value(declared.channels);
     options.library = parser.isSet(declared.library);
+    if (parser.isSet(declared.pattern))
+        options.pattern = parser.value(declared.pattern);
+    options.mirror = parser.isSet(declared.mirror);
+    if (parser.isSet(declared.existing)) {
+        options.existing = ConvertExistingNames::parse(parser.value(declared.existing));
+        if (!options.existing) {
+            *error = QCoreApplication::translate(
+                         "CliOptionsParser", "--existing takes skip, both or replace, not \"%1\"")
+                         .arg(parser.value(declared.existing));
+            return std::nullopt;
+        }
+    }
     options.dryRun = parser.isSet(declared.dryRun);
     options.inputs = parser.positionalArguments();
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/ConvertExisting.h"
+
 #include <QString>
 #include <QStringList>
 #include <optional>
@@ -17,6 +19,9 @@ struct CliOptions {
     QString samplerate;
     QString channels;
     bool library = false;
+    std::optional<QString> pattern; // empty: the container's stored pattern
+    bool mirror = false;
+    std::optional<ConvertExisting> existing; // empty: the stored preference
     bool dryRun = false;
     bool verbose = false;
     QString infoFile;

@@ -14,6 +14,7 @@
 
 SX_LOCKED_PROPERTY(int, eumCvtState, setEumCvtState, m_eumCvtState)
 SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
+SX_LOCKED_PROPERTY(bool, alreadyConverted, setAlreadyConverted, m_alreadyConverted)
 
 #undef SX_LOCKED_PROPERTY
 
@@ -30,6 +31,8 @@ SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
 SX_LOCKED_STRING(strLastModified, setStrLastModified, m_strLastModified)
 SX_LOCKED_STRING(strOutFileName, setStrOutFileName, m_strOutFileName)
 SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
+SX_LOCKED_STRING(addedFromFolder, setAddedFromFolder, m_addedFromFolder)
+SX_LOCKED_STRING(discNumber, setDiscNumber, m_discNumber)
 
 #undef SX_LOCKED_STRING
 
@@ -39,6 +42,9 @@ std::shared_ptr<LSMedia> LSMedia::copy() const {
     result->setEumCvtState(eumCvtState());
     result->setStrOutFileName(strOutFileName());
     result->setFailReason(failReason());
+    result->setAddedFromFolder(addedFromFolder());
+    result->setDiscNumber(discNumber());
+    result->setAlreadyConverted(alreadyConverted());
     result->setStrLastModified(strLastModified());
     result->setDFileSize(dFileSize());
     return result;
@@ -67,6 +73,9 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("vOACodecName"), QString());
     coder.encode(QStringLiteral("strOutFileExt"), QString());
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
+    // A file moved to another container keeps its place below the folder it came from.
+    coder.encode(QStringLiteral("addedFromFolder"), addedFromFolder());
+    coder.encode(QStringLiteral("discNumber"), discNumber());
 }
 
 void LSMedia::initWithCoder(const SXCoder& coder) {
@@ -78,6 +87,8 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
     setEumCvtState(coder.decodeInt(QStringLiteral("eumCvtState")));
     setEumMediaType(coder.decodeInt(QStringLiteral("eumMediaType")));
     setStrOutFileName(coder.decodeString(QStringLiteral("strOutFileName")));
+    setAddedFromFolder(coder.decodeString(QStringLiteral("addedFromFolder")));
+    setDiscNumber(coder.decodeString(QStringLiteral("discNumber")));
 }
 
 std::shared_ptr<LSMedia> LSMedia::decodeWithCoder(const SXCoder& coder) {

@@ -16,6 +16,8 @@ std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
     result->setStrImgFileName(m_strImgFileName);
     result->setOutputPath(m_outputPath);
     result->setEnumAddToLibrary(m_enumAddToLibrary);
+    result->setNamePattern(m_namePattern);
+    result->setMirrorFolders(m_mirrorFolders);
     return result;
 }
 

@@ -15,6 +15,8 @@ const QString kContainers = QStringLiteral("SXContainers");
 const QString kBitRate = QStringLiteral("bitRate");
 const QString kSampleRate = QStringLiteral("sampleRate");
 const QString kChannels = QStringLiteral("channels");
+const QString kNamePattern = QStringLiteral("namePattern");
+const QString kMirrorFolders = QStringLiteral("mirrorFolders");
 
 // Format names may hold blanks and slashes, which QSettings would read as groups; one JSON text
 // per format also avoids INI's habit of turning short lists into plain strings.
@@ -39,7 +41,9 @@ void storeChoices(const SXFormatSetting& setting) {
         return;
     const QJsonObject choices{{kBitRate, setting.bitRate()},
                               {kSampleRate, setting.sampleRate()},
-                              {kChannels, setting.channels()}};
+                              {kChannels, setting.channels()},
+                              {kNamePattern, setting.namePattern()},
+                              {kMirrorFolders, setting.mirrorFolders()}};
     SXSettings::setValue(choicesKey(setting.fmtName()),
                          QString::fromUtf8(QJsonDocument(choices).toJson(QJsonDocument::Compact)));
     SXSettings::synchronize();
@@ -56,6 +60,8 @@ void restoreChoices(SXFormatSetting& setting) {
                [&setting](const QString& value) { setting.setSampleRate(value); });
     restoreOne(stored, kChannels, setting.aryChannels(),
                [&setting](const QString& value) { setting.setChannels(value); });
+    setting.setNamePattern(stored.value(kNamePattern).toString());
+    setting.setMirrorFolders(stored.value(kMirrorFolders).toBool());
 }
 
 void storeContainers(const QStringList& labels) {

@@ -57,6 +57,7 @@ private Q_SLOTS:
     void cleanupTestCase();
     void convertsAFolderOrganisedByFormat();
     void neverReplacesAndChoicesReachTheFile();
+    void namesFromTagsMirrorAndExistingOutputs();
     void usageErrorsExitTwoWithOneLine_data();
     void usageErrorsExitTwoWithOneLine();
     void failuresAreNamedAndExitOne();
@@ -172,6 +173,47 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
     QCOMPARE(probe(out + u"/plain tone(1).mp3"_s), u"mp3,22050,1,64000"_s);
 }
 
+// Names from tags below mirrored folders; a second run leaves the earlier results as they are,
+// "both" numbers new ones, "replace" swaps in new files under the same names.
+void TestCli::namesFromTagsMirrorAndExistingOutputs() {
+    const QString in = fresh(u"tagged"_s);
+    const QString out = fresh(u"by artist"_s);
+    QVERIFY(SonoriaTest::makeTone(in + u"/A/x.flac"_s, 1.0,
+                                  {"-metadata", "artist=Nina", "-metadata", "title=One"}));
+    QVERIFY(SonoriaTest::makeTone(in + u"/B/x.flac"_s, 1.0));
+    const QStringList arguments{
+        "--no-organize", "--pattern", "{artist}/{title}", "--mirror", "-o", out, in};
+    const QStringList tree{u"A"_s, u"A/Nina"_s,           u"A/Nina/One.mp3"_s,
+                           u"B"_s, u"B/Unknown Artist"_s, u"B/Unknown Artist/x.mp3"_s};
+    CliResult result = runCli(arguments);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(filesBelow(out), tree);
+    QVERIFY2(result.out.contains(u"done: %1/A/x.flac -> %2/A/Nina/One.mp3"_s.arg(in, out)),
+             qPrintable(result.out));
+    const QByteArray first = SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s);
+
+    result = runCli(arguments);
+    QCOMPARE(result.exitCode, 0);
+    QVERIFY2(result.out.contains(
+                 u"already converted: %1/B/x.flac -> %2/B/Unknown Artist/x.mp3"_s.arg(in, out)),
+             qPrintable(result.out));
+    QCOMPARE(lines(result.out).filter(u"already converted: "_s).size(), 2);
+    QCOMPARE(filesBelow(out), tree);
+
+    result = runCli(arguments + QStringList{"--existing", "both"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(filesBelow(out),
+             (tree + QStringList{u"A/Nina/One(1).mp3"_s, u"B/Unknown Artist/x(1).mp3"_s}));
+    QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s), first);
+
+    // Replace, at 64 kbit/s so that the new file differs: the same names, new contents.
+    result = runCli(arguments + QStringList{"--existing", "replace", "-b", "64"});
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(filesBelow(out).size(), tree.size() + 2);
+    QCOMPARE(probe(out + u"/A/Nina/One.mp3"_s).section(u',', 3), u"64000"_s);
+    QCOMPARE(probe(out + u"/A/Nina/One(1).mp3"_s).section(u',', 3), u"128000"_s);
+}
+
 void TestCli::usageErrorsExitTwoWithOneLine_data() {
     QTest::addColumn<QStringList>("arguments");
     QTest::addColumn<QString>("reason");
@@ -187,6 +229,8 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
         << QStringList{"-f", "Ringtone", "--library", in} << "music library";
     QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
     QTest::newRow("missing value") << QStringList{"-f"} << "-f";
+    QTest::newRow("existing not offered")
+        << QStringList{"--existing", "overwrite", in} << "skip, both or replace";
     // A quoted argument cannot drive the terminal.
     QTest::newRow("hostile argument") << QStringList{"-f", "MP\x1b[2J3", in} << "MP\\e[2J3";
 }
