@@ -65,6 +65,8 @@ private:
 
 void TestOutputNaming::initTestCase() {
     QVERIFY(m_sources.isValid() && m_outputs.isValid());
+    for (const QString& folder : {u"Incoming/A"_s, u"Incoming/B/C"_s, u"loose"_s})
+        QVERIFY(QDir().mkpath(in(folder)));
     QVERIFY(SonoriaTest::makeTone(in(u"Incoming/A/x.flac"_s), 1.0,
                                   {"-metadata", "artist=Nina", "-metadata", "album=Live",
                                    "-metadata", "track=1", "-metadata", "title=One"}));
@@ -164,7 +166,7 @@ void TestOutputNaming::keepBothNumbersAndReplaceSwapsOnlyOurOwnOutputs() {
         2);
     const QString folder = out(u"both"_s);
     // q.mp3 is the user's own file (whole audio, newer than the source): never ours to replace.
-    QVERIFY(SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
+    QVERIFY(QDir().mkpath(folder) && SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
     const QByteArray users = SonoriaTest::readFile(folder + u"/q.mp3"_s);
     SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
     QVERIFY(runInto(workspace, folder));
@@ -194,6 +196,7 @@ void TestOutputNaming::replaceKeepsTheOldOutputWhenTheConversionFails() {
     QTemporaryDir sources;
     const QString good = sources.filePath(u"r.flac"_s);
     const QString deep = sources.filePath(u"tree/Deep/z.flac"_s);
+    QVERIFY(QDir().mkpath(QFileInfo(deep).path()));
     QVERIFY(SonoriaTest::makeTone(good, 1.0) && SonoriaTest::makeTone(deep, 1.0));
     SXWorkspace workspace;
     QCOMPARE(setUp(workspace, {good}, u"{filename}"_s, true), 1);
