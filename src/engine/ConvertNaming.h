@@ -36,7 +36,8 @@ public:
     // What a file system takes as one name, in bytes of UTF-8.
     static constexpr int kMaxNameBytes = 255;
 
-    // The pattern of a container that asks for nothing else: the source's own name.
+    // The pattern of a container that asks for nothing else: the source's own name (which the
+    // job builder then takes as it is, as outputs were always named).
     static QString defaultPattern() { return QStringLiteral("{filename}"); }
 
     // The path below the output folder, without extension, that `pattern` gives for `tags`:

@@ -37,10 +37,13 @@ QString SXJobBuilder::relativeOutput(const SXMusicInfo& item, const SXFormatSett
     const ConvertNameTags tags =
         ConvertNameTags::of(handle.get(), media->strOutFileName(), media->discNumber());
     const int reserved = int(setting.outputExtName().toUtf8().size()) + 1 + kCounterBytes;
-    const QString pattern = setting.namePattern().trimmed().isEmpty()
-                                ? ConvertNaming::defaultPattern()
-                                : setting.namePattern();
-    const QString named = ConvertNaming::expand(pattern, tags, reserved);
+    const QString pattern = setting.namePattern().trimmed();
+    // A container that asks for nothing else names its outputs exactly as it always has: after
+    // the source, whose name the file system already took ("-live.flac" stays "-live.mp3").
+    const bool asBefore = pattern.isEmpty() || pattern == ConvertNaming::defaultPattern();
+    const QString named = asBefore && !media->strOutFileName().isEmpty()
+                              ? media->strOutFileName()
+                              : ConvertNaming::expand(pattern, tags, reserved);
     const QString mirrored =
         setting.mirrorFolders()
             ? ConvertNaming::mirroredFolder(media->filePath(), media->addedFromFolder())

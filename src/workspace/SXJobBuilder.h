@@ -38,7 +38,8 @@ public:
                                 bool organizeByFormat);
 
     // The output's path below that folder, without extension, as the container's name pattern
-    // and mirrored folders make it for `item` ("Artist/Album/01 Title").
+    // and mirrored folders make it for `item` ("Artist/Album/01 Title"). Without a pattern of
+    // its own the name is the source's, unchanged.
     static QString relativeOutput(const SXMusicInfo& item, const SXFormatSetting& setting);
 
     // The job of `item`, which has a media record, in the container set up as `setting`.

@@ -178,6 +178,7 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
 void TestCli::namesFromTagsMirrorAndExistingOutputs() {
     const QString in = fresh(u"tagged"_s);
     const QString out = fresh(u"by artist"_s);
+    QVERIFY(QDir().mkpath(in + u"/A"_s) && QDir().mkpath(in + u"/B"_s));
     QVERIFY(SonoriaTest::makeTone(in + u"/A/x.flac"_s, 1.0,
                                   {"-metadata", "artist=Nina", "-metadata", "title=One"}));
     QVERIFY(SonoriaTest::makeTone(in + u"/B/x.flac"_s, 1.0));
@@ -202,16 +203,20 @@ void TestCli::namesFromTagsMirrorAndExistingOutputs() {
 
     result = runCli(arguments + QStringList{"--existing", "both"});
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(filesBelow(out),
-             (tree + QStringList{u"A/Nina/One(1).mp3"_s, u"B/Unknown Artist/x(1).mp3"_s}));
+    QStringList numbered =
+        tree + QStringList{u"A/Nina/One(1).mp3"_s, u"B/Unknown Artist/x(1).mp3"_s};
+    numbered.sort();
+    QCOMPARE(filesBelow(out), numbered);
     QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s), first);
 
-    // Replace, at 64 kbit/s so that the new file differs: the same names, new contents.
+    // Replace, at 64 kbit/s so that the new file differs: the same names, new contents; the
+    // numbered files are not what was planned and stay as they were.
+    const QByteArray second = SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s);
     result = runCli(arguments + QStringList{"--existing", "replace", "-b", "64"});
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(filesBelow(out).size(), tree.size() + 2);
+    QCOMPARE(filesBelow(out), numbered);
     QCOMPARE(probe(out + u"/A/Nina/One.mp3"_s).section(u',', 3), u"64000"_s);
-    QCOMPARE(probe(out + u"/A/Nina/One(1).mp3"_s).section(u',', 3), u"128000"_s);
+    QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s), second);
 }
 
 void TestCli::usageErrorsExitTwoWithOneLine_data() {
