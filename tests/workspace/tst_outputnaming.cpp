@@ -2,6 +2,8 @@
 
 #include "base/SXSettings.h"
 #include "engine/ConvertOutputFile.h"
+#include "workspace/SXFailureTexts.h"
+#include "workspace/SXItemRowLook.h"
 #include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXWorkspace.h"
 
@@ -135,6 +137,11 @@ void TestOutputNaming::patternAndMirrorMakeTheTreeAndASecondRunSkipsIt() {
         const auto item = finished.at(0).value<SXMusicInfoPtr>();
         QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFinished));
         QVERIFY(item->mediaInfo()->alreadyConverted());
+        // The row says so: its state and its tool tip.
+        QCOMPARE(
+            SXItemRowLookRules::rowLook(workspace.store(), item, false, false, true).state.toolTip,
+            u"already converted"_s);
+        QVERIFY(SXFailureTexts::rowToolTip(*item).contains(u"Already converted"_s));
         QVERIFY(
             before.join(u'\n').contains(QDir(folder).relativeFilePath(finished.at(1).toString())));
     }
