@@ -87,6 +87,10 @@ QString ConvertOutputFile::prepare(const ConvertJob& job, const QString& folder,
             removeMadeFolders();
             return problem;
         }
+        // The run cleared its output folder of killed runs' leftovers at Start; the folders
+        // below it that names lead into are only known now.
+        if (attempt == 0 && !job.outputSubfolder.isEmpty() && m_madeFolders.isEmpty())
+            removeLeftovers(folder);
         const QString name = QStringLiteral(".sonoria-part-%1-%2")
                                  .arg(QCoreApplication::applicationPid())
                                  .arg(g_temporaryCounter.fetch_add(1));

@@ -57,7 +57,6 @@ private Q_SLOTS:
     void cleanupTestCase();
     void convertsAFolderOrganisedByFormat();
     void neverReplacesAndChoicesReachTheFile();
-    void namesFromTagsMirrorAndExistingOutputs();
     void usageErrorsExitTwoWithOneLine_data();
     void usageErrorsExitTwoWithOneLine();
     void failuresAreNamedAndExitOne();
@@ -171,52 +170,6 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
     QCOMPARE(filesBelow(out), (QStringList{u"plain tone(1).mp3"_s, u"plain tone.mp3"_s}));
     QCOMPARE(SonoriaTest::readFile(out + u"/plain tone.mp3"_s), QByteArray("keep me"));
     QCOMPARE(probe(out + u"/plain tone(1).mp3"_s), u"mp3,22050,1,64000"_s);
-}
-
-// Names from tags below mirrored folders; a second run leaves the earlier results as they are,
-// "both" numbers new ones, "replace" swaps in new files under the same names.
-void TestCli::namesFromTagsMirrorAndExistingOutputs() {
-    const QString in = fresh(u"tagged"_s);
-    const QString out = fresh(u"by artist"_s);
-    QVERIFY(QDir().mkpath(in + u"/A"_s) && QDir().mkpath(in + u"/B"_s));
-    QVERIFY(SonoriaTest::makeTone(in + u"/A/x.flac"_s, 1.0,
-                                  {"-metadata", "artist=Nina", "-metadata", "title=One"}));
-    QVERIFY(SonoriaTest::makeTone(in + u"/B/x.flac"_s, 1.0));
-    const QStringList arguments{
-        "--no-organize", "--pattern", "{artist}/{title}", "--mirror", "-o", out, in};
-    const QStringList tree{u"A"_s, u"A/Nina"_s,           u"A/Nina/One.mp3"_s,
-                           u"B"_s, u"B/Unknown Artist"_s, u"B/Unknown Artist/x.mp3"_s};
-    CliResult result = runCli(arguments);
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(filesBelow(out), tree);
-    QVERIFY2(result.out.contains(u"done: %1/A/x.flac -> %2/A/Nina/One.mp3"_s.arg(in, out)),
-             qPrintable(result.out));
-    const QByteArray first = SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s);
-
-    result = runCli(arguments);
-    QCOMPARE(result.exitCode, 0);
-    QVERIFY2(result.out.contains(
-                 u"already converted: %1/B/x.flac -> %2/B/Unknown Artist/x.mp3"_s.arg(in, out)),
-             qPrintable(result.out));
-    QCOMPARE(lines(result.out).filter(u"already converted: "_s).size(), 2);
-    QCOMPARE(filesBelow(out), tree);
-
-    result = runCli(arguments + QStringList{"--existing", "both"});
-    QCOMPARE(result.exitCode, 0);
-    QStringList numbered =
-        tree + QStringList{u"A/Nina/One(1).mp3"_s, u"B/Unknown Artist/x(1).mp3"_s};
-    numbered.sort();
-    QCOMPARE(filesBelow(out), numbered);
-    QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s), first);
-
-    // Replace, at 64 kbit/s so that the new file differs: the same names, new contents; the
-    // numbered files are not what was planned and stay as they were.
-    const QByteArray second = SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s);
-    result = runCli(arguments + QStringList{"--existing", "replace", "-b", "64"});
-    QCOMPARE(result.exitCode, 0);
-    QCOMPARE(filesBelow(out), numbered);
-    QCOMPARE(probe(out + u"/A/Nina/One.mp3"_s).section(u',', 3), u"64000"_s);
-    QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s), second);
 }
 
 void TestCli::usageErrorsExitTwoWithOneLine_data() {
