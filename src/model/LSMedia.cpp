@@ -73,9 +73,13 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("vOACodecName"), QString());
     coder.encode(QStringLiteral("strOutFileExt"), QString());
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
-    // A file moved to another container keeps its place below the folder it came from.
-    coder.encode(QStringLiteral("addedFromFolder"), addedFromFolder());
-    coder.encode(QStringLiteral("discNumber"), discNumber());
+    // A file moved to another container keeps its place below the folder it came from and its
+    // disc number. Written only when there is one, so the archive of any other record keeps
+    // exactly the keys it always had.
+    if (const QString folder = addedFromFolder(); !folder.isEmpty())
+        coder.encode(QStringLiteral("addedFromFolder"), folder);
+    if (const QString disc = discNumber(); !disc.isEmpty())
+        coder.encode(QStringLiteral("discNumber"), disc);
 }
 
 void LSMedia::initWithCoder(const SXCoder& coder) {
