@@ -14,6 +14,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/<format name>
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format's offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; "/" makes
+                          folders (default "{filename}": the source's own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: "skip" it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep "both" (number the new file), or "replace" an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: "track",
                           or "album" for track and album values (off by default)
@@ -52,6 +60,9 @@ struct Declared {
     QCommandLineOption library{QStringLiteral("library")};
     QCommandLineOption replayGain{QStringLiteral("replaygain"), QString(), QStringLiteral("MODE")};
     QCommandLineOption normalise{QStringLiteral("normalise")};
+    QCommandLineOption pattern{QStringLiteral("pattern"), QString(), QStringLiteral("PATTERN")};
+    QCommandLineOption mirror{QStringLiteral("mirror")};
+    QCommandLineOption existing{QStringLiteral("existing"), QString(), QStringLiteral("WHAT")};
     QCommandLineOption listFormats{QStringLiteral("list-formats")};
     QCommandLineOption info{QStringLiteral("info"), QString(), QStringLiteral("FILE")};
     QCommandLineOption checkTags{QStringLiteral("check-tags")};
@@ -60,8 +71,9 @@ struct Declared {
     QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}};
 
     QList<QCommandLineOption> all() const {
-        return {format,     output,    noOrganize,  jobs, bitrate,   samplerate, channels, library,
-                replayGain, normalise, listFormats, info, checkTags, dryRun,     verbose,  help};
+        return {format,  output,     noOrganize, jobs,    bitrate, samplerate, channels,
+                library, replayGain, normalise,  pattern, mirror,  existing,   listFormats,
+                info,    checkTags,  dryRun,     verbose, help};
     }
 };
 
@@ -150,6 +162,18 @@ std::optional<CliOptions> CliOptionsParser::parse(const QStringList& arguments, 
         options.replayGain = *mode;
     }
     options.normalise = parser.isSet(declared.normalise);
+    if (parser.isSet(declared.pattern))
+        options.pattern = parser.value(declared.pattern);
+    options.mirror = parser.isSet(declared.mirror);
+    if (parser.isSet(declared.existing)) {
+        options.existing = ConvertExistingNames::parse(parser.value(declared.existing));
+        if (!options.existing) {
+            *error = QCoreApplication::translate(
+                         "CliOptionsParser", "--existing takes skip, both or replace, not \"%1\"")
+                         .arg(parser.value(declared.existing));
+            return std::nullopt;
+        }
+    }
     options.dryRun = parser.isSet(declared.dryRun);
     options.inputs = parser.positionalArguments();
 

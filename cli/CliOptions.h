@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/ConvertExisting.h"
 #include "model/SXConversionChoices.h"
 
 #include <QString>
@@ -21,6 +22,9 @@ struct CliOptions {
     bool library = false;
     SXReplayGainMode replayGain = SXReplayGainMode::Off;
     bool normalise = false;
+    std::optional<QString> pattern; // empty: the container's stored pattern
+    bool mirror = false;
+    std::optional<ConvertExisting> existing; // empty: the stored preference
     bool dryRun = false;
     bool verbose = false;
     QString infoFile;

@@ -49,7 +49,12 @@ void CliRun::prepareWorkspace() {
     m_workspace->tabs().addDefaultTabs();
     if (!m_workspace->tabs().selectContainer(m_setting->fmtName()))
         m_workspace->tabs().addContainerWithFormat(m_setting);
+    if (m_options.pattern)
+        m_setting->setNamePattern(*m_options.pattern);
+    if (m_options.mirror)
+        m_setting->setMirrorFolders(true);
     m_workspace->store().setFmtSetting(m_setting);
+    m_workspace->scheduler().setExistingOverride(m_options.existing);
     m_workspace->scheduler().setOrganizeByFormat(m_options.organize);
     m_workspace->scheduler().setOpenFolderWhenDone(false);
     int jobs = m_options.jobs.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask));
@@ -106,8 +111,7 @@ void CliRun::printDryRun() {
     const SXMusicInfoList loaded = items();
     QString text;
     for (const SXMusicInfoPtr& item : loaded) {
-        const LSMediaPtr media = item->mediaInfo();
-        const QString name = media ? media->strOutFileName() : QString();
+        const QString name = SXJobBuilder::relativeOutput(*item, *m_setting);
         const QString target =
             FileHelper::unusedPath(folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
         text += QCoreApplication::translate("CliRun", "would convert: %1 -> %2\n")
@@ -154,7 +158,11 @@ void CliRun::report(const SXMusicInfoPtr& item, const QString& outputFile) {
     const int state = media ? media->eumCvtState() : CvtStateReady;
     const QString path = CliOutput::escaped(item->strFilePath());
     QString line;
-    if (state == CvtStateFinished) {
+    if (state == CvtStateFinished && media->alreadyConverted()) {
+        ++m_done;
+        line = QCoreApplication::translate("CliRun", "already converted: %1 -> %2")
+                   .arg(path, CliOutput::escaped(outputFile));
+    } else if (state == CvtStateFinished) {
         ++m_done;
         line = outputFile.isEmpty() ? QCoreApplication::translate("CliRun", "done: %1").arg(path)
                                     : QCoreApplication::translate("CliRun", "done: %1 -> %2")

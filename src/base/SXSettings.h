@@ -24,6 +24,8 @@ inline const QString LibraryBackend = QStringLiteral("LibraryBackendKey");
 inline const QString MpdHost = QStringLiteral("MpdHostKey");
 inline const QString MpdPort = QStringLiteral("MpdPortKey");
 // MPD reveals its music folder only over its local socket; over TCP the user names it here.
+// What a run does with an output that is already there: "skip", "both" or "replace".
+inline const QString ExistingOutputs = QStringLiteral("ExistingOutputsKey");
 inline const QString MpdMusicDirectory = QStringLiteral("MpdMusicDirectoryKey");
 } // namespace SXSettingsKey
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "engine/ConvertExisting.h"
 #include "engine/ConvertLoudness.h"
 #include "model/SXConversionChoices.h"
 
@@ -34,6 +35,15 @@ struct ConvertJob {
     QString outputFolder;
     // The output's name without extension; a taken name gets the next counter.
     QString outputName;
+
+    // Output naming: the folders between outputFolder and the file ("Artist/Album", from the
+    // container's name pattern and mirrored folders; each part already safe, empty: none), made
+    // only right before the output is written. `existing` says what a taken name means; a job
+    // whose planned name an earlier item of the same run already plans keeps both whatever
+    // `existing` says, so that the file the first one writes never counts as the second one's.
+    QString outputSubfolder;
+    ConvertExisting existing = ConvertExisting::KeepBoth;
+    bool nameSharedInRun = false;
 
     // Library delivery once the file is whole: the music library script, and the player's
     // library with its playlist.

@@ -6,6 +6,7 @@
 #include "engine/ConvertCommandLine.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
+#include "engine/ConvertOutputPath.h"
 #include "engine/ConvertVerification.h"
 #include "engine/SXLibraryScript.h"
 #include "engine/ScriptBridgeHelper.h"
@@ -17,11 +18,13 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileInfo>
 #include <QMutexLocker>
 #include <QTimer>
 
 #include <csignal>
+#include <sys/stat.h>
 #include <sys/types.h>
 #include <utility>
 
@@ -49,6 +52,7 @@ ConvertOperation::ConvertOperation(const SXMusicInfoPtr& item, ConvertJob job)
     if (const LSMediaPtr media = item ? item->mediaInfo() : nullptr) {
         media->setEumCvtState(CvtStateReady);
         media->setFailReason(QString());
+        media->setAlreadyConverted(false);
     }
 }
 
@@ -110,6 +114,14 @@ void ConvertOperation::main() {
         tellFinish();
         return;
     }
+    if (const QString earlier = earlierResult(); !earlier.isEmpty()) {
+        SXLog::line(QStringLiteral("already converted: %1").arg(earlier));
+        setStrOutFilePath(earlier);
+        media->setAlreadyConverted(true);
+        setState(CvtStateFinished);
+        tellFinish();
+        return;
+    }
     if (m_job.loudness.wanted() && !m_job.loudness.failure.isEmpty()) {
         // A source that libav cannot decode for the meter would not convert either (ffmpeg reads
         // it with the same libraries), and an output without the gain the user asked for would
@@ -145,6 +157,27 @@ void ConvertOperation::main() {
     decideOutcome();
     deliverToLibrary(strOutFilePath());
     tellFinish();
+}
+
+QString ConvertOperation::earlierResult() const {
+    if (m_job.existing != ConvertExisting::Skip || m_job.nameSharedInRun || isCancelled())
+        return {};
+    const QString planned = ConvertOutputFile::plannedPath(m_job);
+    struct stat output {
+    }, source{};
+    if (::stat(QFile::encodeName(planned).constData(), &output) != 0 || !S_ISREG(output.st_mode) ||
+        ::stat(QFile::encodeName(m_job.sourcePath).constData(), &source) != 0)
+        return {};
+    // A name another conversion holds is being written right now; it is no earlier result.
+    const auto newer = [](const timespec& a, const timespec& b) {
+        return a.tv_sec != b.tv_sec ? a.tv_sec > b.tv_sec : a.tv_nsec > b.tv_nsec;
+    };
+    if (ConvertOutputPath::isClaimed(planned) || !newer(output.st_mtim, source.st_mtim))
+        return {};
+    // Whole means what a fresh output must be: the codec the encoder writes, the source's length.
+    const QString problem = ConvertVerification::check(
+        planned, m_job.encoder, m_job.sourceDurationExact ? m_job.sourceDuration : 0.0);
+    return problem.isEmpty() ? planned : QString();
 }
 
 void ConvertOperation::fail(const QString& reason) {

@@ -62,6 +62,9 @@ public:
 
 private:
     bool isRingtone() const;
+    // The planned output when the job skips what was converted before and it is there: a
+    // regular file newer than the source that reads back whole. Else empty.
+    QString earlierResult() const;
     void setStrOutFilePath(const QString& path);
     bool startChild(const QStringList& arguments);
     void waitForChild();

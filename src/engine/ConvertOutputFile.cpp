@@ -4,6 +4,7 @@
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertJob.h"
 #include "engine/ConvertOutputPath.h"
+#include "engine/ConvertOutputRecord.h"
 #include "model/LSMedia.h"
 
 #include <QCoreApplication>
@@ -17,6 +18,7 @@
 #include <csignal>
 #include <cstring>
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -39,8 +41,33 @@ ConvertOutputFile::~ConvertOutputFile() {
 }
 
 QString ConvertOutputFile::folderFor(const ConvertJob& job) {
-    return job.outputFolder.isEmpty() ? QFileInfo(job.sourcePath).absolutePath()
-                                      : QDir(job.outputFolder).absolutePath();
+    const QString base = job.outputFolder.isEmpty() ? QFileInfo(job.sourcePath).absolutePath()
+                                                    : QDir(job.outputFolder).absolutePath();
+    return job.outputSubfolder.isEmpty() ? base : base + QLatin1Char('/') + job.outputSubfolder;
+}
+
+QString ConvertOutputFile::plannedPath(const ConvertJob& job) {
+    return folderFor(job) + QLatin1Char('/') + withExtension(job.outputName, job.extension);
+}
+
+QString ConvertOutputFile::makeFolders(const QString& folder) {
+    QStringList missing;
+    for (QString at = QDir::cleanPath(folder); !QFileInfo::exists(at) && !QDir(at).isRoot();
+         at = QFileInfo(at).absolutePath())
+        missing.prepend(at);
+    for (const QString& at : std::as_const(missing)) {
+        if (::mkdir(QFile::encodeName(at).constData(), 0777) == 0)
+            m_madeFolders.append(at);
+        else if (errno != EEXIST)
+            return ConvertFailure::fromErrno(errno);
+    }
+    return {};
+}
+
+void ConvertOutputFile::removeMadeFolders() {
+    // rmdir(2) removes only an empty folder: one where another conversion put its file stays.
+    while (!m_madeFolders.isEmpty())
+        ::rmdir(QFile::encodeName(m_madeFolders.takeLast()).constData());
 }
 
 bool ConvertOutputFile::isTemporaryName(const QString& fileName) {
@@ -52,7 +79,18 @@ QString ConvertOutputFile::prepare(const ConvertJob& job, const QString& folder,
     discard();
     const QString finalExt = job.extension;
     const QString encodeAs = encodeExt.isEmpty() ? finalExt : encodeExt;
-    for (;;) {
+    // A folder made here can vanish again before the file is in it, when another conversion
+    // that made it fails and tidies up: then it is made once more.
+    for (int attempt = 0;; ++attempt) {
+        if (const QString problem = makeFolders(folder); !problem.isEmpty()) {
+            SXLog::line(QStringLiteral("can't make the output folder %1: %2").arg(folder, problem));
+            removeMadeFolders();
+            return problem;
+        }
+        // The run cleared its output folder of killed runs' leftovers at Start; the folders
+        // below it that names lead into are only known now.
+        if (attempt == 0 && !job.outputSubfolder.isEmpty() && m_madeFolders.isEmpty())
+            removeLeftovers(folder);
         const QString name = QStringLiteral(".sonoria-part-%1-%2")
                                  .arg(QCoreApplication::applicationPid())
                                  .arg(g_temporaryCounter.fetch_add(1));
@@ -64,20 +102,48 @@ QString ConvertOutputFile::prepare(const ConvertJob& job, const QString& folder,
             m_temporary = path;
             break;
         }
+        if (errno == ENOENT && attempt < 3)
+            continue;
         if (errno != EEXIST) {
             const int error = errno;
             SXLog::line(QStringLiteral("can't create output file in %1: %2")
                             .arg(folder, QString::fromLocal8Bit(std::strerror(error))));
+            removeMadeFolders();
             return ConvertFailure::fromErrno(error);
         }
     }
-    m_final = ConvertOutputPath::claim(
-        folder + QLatin1Char('/') + withExtension(job.outputName, finalExt), finalExt);
+    const QString planned = folder + QLatin1Char('/') + withExtension(job.outputName, finalExt);
+    m_replacing = job.existing == ConvertExisting::Replace && !job.nameSharedInRun &&
+                  ConvertOutputRecord::wroteThis(planned) && ConvertOutputPath::claimExact(planned);
+    m_final = m_replacing ? planned : ConvertOutputPath::claim(planned, finalExt);
     m_claimed = true;
     return {};
 }
 
+QString ConvertOutputFile::commitReplacing() {
+    const QByteArray source = QFile::encodeName(m_temporary);
+    // rename(2) swaps the new file in at once: at every moment the name holds either the old
+    // output or the new one, whole.
+    if (::rename(source.constData(), QFile::encodeName(m_final).constData()) != 0) {
+        const QString reason = ConvertFailure::notMoved(ConvertFailure::fromErrno(errno));
+        discard();
+        return reason;
+    }
+    SXLog::line(QStringLiteral("replaced the earlier output %1").arg(m_final));
+    ConvertOutputRecord::remember(m_final);
+    ConvertOutputPath::release(m_final);
+    m_claimed = false;
+    m_temporary.clear();
+    m_madeFolders.clear();
+    return {};
+}
+
 QString ConvertOutputFile::commit() {
+    // What stood there may have been changed or swapped for a file of the user's since prepare()
+    // looked: then it is kept and the new output numbered like any other.
+    if (m_replacing && ConvertOutputRecord::wroteThis(m_final))
+        return commitReplacing();
+    m_replacing = false;
     const QString ext = QFileInfo(m_final).suffix();
     QString wanted = m_final;
     for (int round = 0; round < kMaxMoveRounds; ++round) {
@@ -90,8 +156,10 @@ QString ConvertOutputFile::commit() {
                 m_final = wanted;
             }
             ConvertOutputPath::release(m_final);
+            ConvertOutputRecord::remember(m_final);
             m_claimed = false;
             m_temporary.clear();
+            m_madeFolders.clear();
             return {};
         }
         if (error != EEXIST) {
@@ -118,6 +186,8 @@ void ConvertOutputFile::discard() {
         ConvertOutputPath::release(m_final);
         m_claimed = false;
     }
+    m_replacing = false;
+    removeMadeFolders();
 }
 
 void ConvertOutputFile::removeLeftovers(const QString& folder) {

@@ -25,6 +25,14 @@ QString ConvertOutputPath::claim(const QString& path, const QString& ext) {
     return name;
 }
 
+bool ConvertOutputPath::claimExact(const QString& path) {
+    QMutexLocker locker(&g_claimsLock);
+    if (g_claims.contains(path))
+        return false;
+    g_claims.insert(path);
+    return true;
+}
+
 void ConvertOutputPath::release(const QString& path) {
     QMutexLocker locker(&g_claimsLock);
     g_claims.remove(path);

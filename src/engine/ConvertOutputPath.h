@@ -12,6 +12,9 @@ public:
     // FileHelper::unusedPath) that names nothing on disk and that no other
     // conversion of this process has claimed, and claims it until release().
     static QString claim(const QString& path, const QString& ext);
+    // Claims `path` itself, whether or not a file is there (an output to be replaced); false
+    // when another conversion of this process holds it.
+    static bool claimExact(const QString& path);
     static void release(const QString& path);
     static bool isClaimed(const QString& path);
 

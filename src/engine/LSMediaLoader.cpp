@@ -1,6 +1,7 @@
 #include "engine/LSMediaLoader.h"
 
 #include "base/SXLog.h"
+#include "engine/ConvertNaming.h"
 #include "framework/HVMediaInfo.h"
 #include "framework/MTEAudioFileMgr.h"
 #include "framework/MTETagCopy.h"
@@ -40,6 +41,8 @@ void fillProbedItem(SXMusicInfo& item, LSMedia& media) {
     std::shared_ptr<MTEAudioFile> handle = MTEAudioFileMgr::createAudioFileWithPath(path, true);
     if (!handle)
         SXLog::line(QStringLiteral("load %1 failed!").arg(path));
+    else
+        media.setDiscNumber(ConvertNaming::discOf(path));
     if (const std::optional<SXCueTrack> track = media.cueTrack(); track && handle)
         MTETagCopy::overrideWithCueTrack(*track, *handle);
     item.setMetHandler(handle);

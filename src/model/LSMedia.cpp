@@ -14,6 +14,7 @@
 
 SX_LOCKED_PROPERTY(int, eumCvtState, setEumCvtState, m_eumCvtState)
 SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
+SX_LOCKED_PROPERTY(bool, alreadyConverted, setAlreadyConverted, m_alreadyConverted)
 
 #undef SX_LOCKED_PROPERTY
 
@@ -30,6 +31,8 @@ SX_LOCKED_PROPERTY(double, dFileSize, setDFileSize, m_dFileSize)
 SX_LOCKED_STRING(strLastModified, setStrLastModified, m_strLastModified)
 SX_LOCKED_STRING(strOutFileName, setStrOutFileName, m_strOutFileName)
 SX_LOCKED_STRING(failReason, setFailReason, m_failReason)
+SX_LOCKED_STRING(addedFromFolder, setAddedFromFolder, m_addedFromFolder)
+SX_LOCKED_STRING(discNumber, setDiscNumber, m_discNumber)
 
 #undef SX_LOCKED_STRING
 
@@ -84,6 +87,9 @@ std::shared_ptr<LSMedia> LSMedia::copy() const {
     result->setEumCvtState(eumCvtState());
     result->setStrOutFileName(strOutFileName());
     result->setFailReason(failReason());
+    result->setAddedFromFolder(addedFromFolder());
+    result->setDiscNumber(discNumber());
+    result->setAlreadyConverted(alreadyConverted());
     result->setStrLastModified(strLastModified());
     result->setDFileSize(dFileSize());
     result->setCueTrack(cueTrack());
@@ -115,6 +121,13 @@ void LSMedia::encodeWithCoder(SXCoder& coder) const {
     coder.encode(QStringLiteral("strOutFileName"), strOutFileName());
     if (const std::optional<SXCueTrack> track = cueTrack())
         encodeCueTrack(coder, *track);
+    // A file moved to another container keeps its place below the folder it came from and its
+    // disc number. Written only when there is one, so the archive of any other record keeps
+    // exactly the keys it always had.
+    if (const QString folder = addedFromFolder(); !folder.isEmpty())
+        coder.encode(QStringLiteral("addedFromFolder"), folder);
+    if (const QString disc = discNumber(); !disc.isEmpty())
+        coder.encode(QStringLiteral("discNumber"), disc);
 }
 
 void LSMedia::initWithCoder(const SXCoder& coder) {
@@ -128,6 +141,8 @@ void LSMedia::initWithCoder(const SXCoder& coder) {
     setStrOutFileName(coder.decodeString(QStringLiteral("strOutFileName")));
     if (coder.containsValueForKey(QStringLiteral("cueSheet")))
         setCueTrack(decodeCueTrack(coder));
+    setAddedFromFolder(coder.decodeString(QStringLiteral("addedFromFolder")));
+    setDiscNumber(coder.decodeString(QStringLiteral("discNumber")));
 }
 
 std::shared_ptr<LSMedia> LSMedia::decodeWithCoder(const SXCoder& coder) {

@@ -44,6 +44,19 @@ public:
     std::optional<SXCueTrack> cueTrack() const;
     void setCueTrack(const std::optional<SXCueTrack>& track);
 
+    // The folder the user added when this file was found below it (empty: added on its own), so
+    // that a container that mirrors folders can keep the file's place below it.
+    QString addedFromFolder() const;
+    void setAddedFromFolder(const QString& value);
+    // The disc number the source's tags give, read with the probe (the tag handle has no field
+    // for it); output names may use it.
+    QString discNumber() const;
+    void setDiscNumber(const QString& value);
+    // The last run found this file's output already there, whole and newer than the source, and
+    // left it as it was. Cleared when a new run prepares the item.
+    bool alreadyConverted() const;
+    void setAlreadyConverted(bool value);
+
     std::shared_ptr<LSMedia> copy() const;
     QString description() const;
 
@@ -58,6 +71,9 @@ private:
     QString m_strOutFileName;
     QString m_failReason;
     std::optional<SXCueTrack> m_cueTrack;
+    QString m_addedFromFolder;
+    QString m_discNumber;
+    bool m_alreadyConverted = false;
 };
 
 using LSMediaPtr = std::shared_ptr<LSMedia>;

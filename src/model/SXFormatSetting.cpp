@@ -18,6 +18,8 @@ std::shared_ptr<SXFormatSetting> SXFormatSetting::copy() const {
     result->setEnumAddToLibrary(m_enumAddToLibrary);
     result->setReplayGain(m_replayGain);
     result->setNormalise(m_normalise);
+    result->setNamePattern(m_namePattern);
+    result->setMirrorFolders(m_mirrorFolders);
     return result;
 }
 

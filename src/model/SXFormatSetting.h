@@ -59,6 +59,13 @@ public:
     int enumAddToLibrary() const { return m_enumAddToLibrary; }
     void setEnumAddToLibrary(int value) { m_enumAddToLibrary = value; }
 
+    // How outputs are named (ConvertNaming's pattern; empty: after the source's own name), and
+    // whether a file added with a folder keeps its place below that folder in the output folder.
+    QString namePattern() const { return m_namePattern; }
+    void setNamePattern(const QString& pattern) { m_namePattern = pattern; }
+    bool mirrorFolders() const { return m_mirrorFolders; }
+    void setMirrorFolders(bool on) { m_mirrorFolders = on; }
+
     std::shared_ptr<SXFormatSetting> copy() const;
 
     // The generic text that names this object ("<SXFormatSetting: 0x...>"), not its fmtDescribe.
@@ -80,6 +87,8 @@ private:
     int m_enumAddToLibrary = 0;
     SXReplayGainMode m_replayGain = SXReplayGainMode::Off;
     bool m_normalise = false;
+    QString m_namePattern;
+    bool m_mirrorFolders = false;
 };
 
 using SXFormatSettingPtr = std::shared_ptr<SXFormatSetting>;

@@ -4,6 +4,8 @@
 #include "base/SXSettings.h"
 #include "online/SXServiceRequest.h"
 
+#include <QCoreApplication>
+
 namespace {
 const QString kMainWindowGeometry = QStringLiteral("SXMainWindowGeometry");
 const QString kWebsite = QStringLiteral("https://sonoria.app");
@@ -35,6 +37,34 @@ int SXPreferences::libraryFormatIndex() {
 void SXPreferences::setLibraryFormat(int chosenIndex) {
     SXSettings::setValue(SXSettingsKey::libraryFormat,
                          chosenIndex == 0 ? QStringLiteral("AAC") : QStringLiteral("MP3"));
+    SXSettings::synchronize();
+}
+
+QList<ConvertExisting> SXPreferences::existingOutputsChoices() {
+    return {ConvertExisting::Skip, ConvertExisting::KeepBoth, ConvertExisting::Replace};
+}
+
+QStringList SXPreferences::existingOutputsTitles() {
+    return {QCoreApplication::translate("SXPreferences", "Skip files already converted"),
+            QCoreApplication::translate("SXPreferences", "Keep both"),
+            QCoreApplication::translate("SXPreferences", "Replace")};
+}
+
+ConvertExisting SXPreferences::existingOutputs() {
+    return ConvertExistingNames::parse(SXSettings::stringForKey(SXSettingsKey::ExistingOutputs))
+        .value_or(ConvertExisting::Skip);
+}
+
+int SXPreferences::existingOutputsIndex() {
+    return int(existingOutputsChoices().indexOf(existingOutputs()));
+}
+
+void SXPreferences::setExistingOutputs(int chosenIndex) {
+    const QList<ConvertExisting> choices = existingOutputsChoices();
+    if (chosenIndex < 0 || chosenIndex >= choices.size())
+        return;
+    SXSettings::setValue(SXSettingsKey::ExistingOutputs,
+                         ConvertExistingNames::name(choices.at(chosenIndex)));
     SXSettings::synchronize();
 }
 

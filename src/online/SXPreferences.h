@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/ConvertExisting.h"
+
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
@@ -19,6 +21,15 @@ public:
     static QStringList libraryFormatTitles();
     static int libraryFormatIndex();
     static void setLibraryFormat(int chosenIndex);
+
+    // What a run does with an output whose planned name is taken: the pop-up offers "Skip files
+    // already converted" (the default), "Keep both" and "Replace", in the order of
+    // existingOutputsChoices().
+    static QList<ConvertExisting> existingOutputsChoices();
+    static QStringList existingOutputsTitles();
+    static ConvertExisting existingOutputs();
+    static int existingOutputsIndex();
+    static void setExistingOutputs(int chosenIndex);
 
     static QString playlistName();
     // Every keystroke of the playlist field is stored as the whole text.

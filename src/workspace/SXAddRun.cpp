@@ -90,8 +90,17 @@ void SXAddRun::loadAndParseFiles(const QStringList& paths) {
 SXMusicInfoList SXAddRun::makeBatch(const QStringList& paths, const QString& container,
                                     const SXMusicInfoList& current) {
     SXPathFailureList failures;
-    const QStringList candidates = dropPathsAlreadyIn(expandPaths(paths, &failures), current);
+    QHash<QString, QString> addedFrom;
+    const QStringList candidates =
+        dropPathsAlreadyIn(expandPaths(paths, &failures, &addedFrom), current);
     SXMusicInfoList batch = SXCueBatch::items(candidates, container, current);
+    for (const SXMusicInfoPtr& item : std::as_const(batch)) {
+        // A cue track is named "sheet.cue#03"; the folder it came from is the sheet's.
+        QString key = item->strFilePath();
+        if (!addedFrom.contains(key))
+            key = key.section(QLatin1Char('#'), 0, 0);
+        item->mediaInfo()->setAddedFromFolder(addedFrom.value(key));
+    }
     for (const SXPathFailure& failure : std::as_const(failures)) {
         const SXMusicInfoPtr item = SXMusicInfo::newForSource(failure.path, container);
         item->mediaInfo()->setFailReason(failure.reason);
@@ -100,7 +109,8 @@ SXMusicInfoList SXAddRun::makeBatch(const QStringList& paths, const QString& con
     return batch;
 }
 
-QStringList SXAddRun::expandPaths(const QStringList& paths, SXPathFailureList* failures) {
+QStringList SXAddRun::expandPaths(const QStringList& paths, SXPathFailureList* failures,
+                                  QHash<QString, QString>* addedFrom) {
     const bool acceptVob = SXSettings::boolForKey(SXSettingsKey::AppSupportVob, false);
     QStringList candidates;
     for (const QString& path : paths) {
@@ -113,8 +123,14 @@ QStringList SXAddRun::expandPaths(const QStringList& paths, SXPathFailureList* f
             continue;
         }
         if (S_ISDIR(status.st_mode)) {
-            candidates.append(
-                SXFolderScan::filesBelow(path, SXFolderScan::acceptedExtensions(), failures));
+            const QStringList found =
+                SXFolderScan::filesBelow(path, SXFolderScan::acceptedExtensions(), failures);
+            // A file named twice keeps the folder it was first found below.
+            for (const QString& file : found) {
+                if (addedFrom && !addedFrom->contains(file))
+                    addedFrom->insert(file, path);
+            }
+            candidates.append(found);
         } else if (QFileInfo(path).suffix().compare(QLatin1String("vob"), Qt::CaseInsensitive) ==
                    0) {
             if (acceptVob)

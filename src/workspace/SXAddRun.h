@@ -7,6 +7,7 @@
 #include "workspace/SXMetadataEditing.h"
 
 #include <QByteArray>
+#include <QHash>
 
 class SXWorkspacePreview;
 
@@ -35,8 +36,10 @@ public:
 
     // The candidate paths of an add run before de-duplication (lstat, folders, the "vob" rule).
     // Paths that cannot be taken (missing, unreadable folders, names that are not valid UTF-8)
-    // go to `failures` with their reason.
-    static QStringList expandPaths(const QStringList& paths, SXPathFailureList* failures = nullptr);
+    // go to `failures` with their reason; a file found below a named folder gets that folder in
+    // `addedFrom`.
+    static QStringList expandPaths(const QStringList& paths, SXPathFailureList* failures = nullptr,
+                                   QHash<QString, QString>* addedFrom = nullptr);
     // Drops from `candidates` the paths already in `current`, with the walk that skips the path
     // moving into a dropped one's place.
     static QStringList dropPathsAlreadyIn(QStringList candidates, const SXMusicInfoList& current);

@@ -20,6 +20,8 @@ const QString kNormalise = QStringLiteral("normalise");
 // The stored spellings of the ReplayGain modes, in the enumeration's order.
 const QStringList kReplayGainModes{QStringLiteral("off"), QStringLiteral("track"),
                                    QStringLiteral("album")};
+const QString kNamePattern = QStringLiteral("namePattern");
+const QString kMirrorFolders = QStringLiteral("mirrorFolders");
 
 // Format names may hold blanks and slashes, which QSettings would read as groups; one JSON text
 // per format also avoids INI's habit of turning short lists into plain strings.
@@ -46,7 +48,9 @@ void storeChoices(const SXFormatSetting& setting) {
                               {kSampleRate, setting.sampleRate()},
                               {kChannels, setting.channels()},
                               {kReplayGain, kReplayGainModes.at(int(setting.replayGain()))},
-                              {kNormalise, setting.normalise()}};
+                              {kNormalise, setting.normalise()},
+                              {kNamePattern, setting.namePattern()},
+                              {kMirrorFolders, setting.mirrorFolders()}};
     SXSettings::setValue(choicesKey(setting.fmtName()),
                          QString::fromUtf8(QJsonDocument(choices).toJson(QJsonDocument::Compact)));
     SXSettings::synchronize();
@@ -69,6 +73,8 @@ void restoreChoices(SXFormatSetting& setting) {
         setting.setReplayGain(SXReplayGainMode(mode));
     if (stored.value(kNormalise).isBool())
         setting.setNormalise(stored.value(kNormalise).toBool());
+    setting.setNamePattern(stored.value(kNamePattern).toString());
+    setting.setMirrorFolders(stored.value(kMirrorFolders).toBool());
 }
 
 void storeContainers(const QStringList& labels) {

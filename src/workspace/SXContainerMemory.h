@@ -5,9 +5,9 @@
 #include <QStringList>
 
 // What the settings store keeps of the containers between starts: each format's choices (bit
-// rate, sample rate, channels, ReplayGain tags, normalising), whichever window made them, and the
-// containers of the primary window in their order. Stored values that the catalogue no longer
-// offers are ignored.
+// rate, sample rate, channels, ReplayGain tags, normalising, name pattern, mirrored folders),
+// whichever window made them, and the containers of the primary window in their order. Stored
+// values that the catalogue no longer offers are ignored.
 namespace SXContainerMemory {
 
 void storeChoices(const SXFormatSetting& setting);

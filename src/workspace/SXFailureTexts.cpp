@@ -37,6 +37,10 @@ QString SXFailureTexts::runCounts(int succeeded, int failed, int notLoaded) {
 
 QString SXFailureTexts::rowToolTip(const SXMusicInfo& item) {
     const std::optional<SXPathFailure> failure = conversionFailure(item);
+    const LSMediaPtr media = item.mediaInfo();
+    if (!failure && media && media->eumCvtState() == CvtStateFinished && media->alreadyConverted())
+        return item.strFilePath() + QLatin1Char('\n') +
+               tr("Already converted: the output was there, whole and newer than this file");
     if (!failure) {
         const QStringList notKept = item.tagReport().lines();
         if (notKept.isEmpty())

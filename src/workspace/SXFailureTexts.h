@@ -24,6 +24,7 @@ public:
     // "Converted: 3. Failed: 2.", the body of the notification at the end of a run and the
     // last line of the command-line tool; files that did not load are counted when there are.
     static QString runCounts(int succeeded, int failed, int notLoaded = 0);
-    // A row's tool tip: the file's path, and for an item whose run failed the reason under it.
+    // A row's tool tip: the file's path, and under it the reason of a failed run or that the
+    // last run found the output already converted.
     static QString rowToolTip(const SXMusicInfo& item);
 };

@@ -64,6 +64,11 @@ SXItemRowLook SXItemRowLookRules::rowLook(const SXContainerStore& workspace,
     if (!item)
         return look;
     look.state = stateButtonLook(item->dConvertProgress());
+    // The same mark as a converted file, named for what happened: nothing had to be done.
+    if (const LSMediaPtr media = item->mediaInfo();
+        media && media->alreadyConverted() &&
+        int(item->dConvertProgress()) == int(SXProgress::Done))
+        look.state.toolTip = tr("already converted");
     const SXMusicInfoPtr playing = playingItem(workspace);
     const bool plays = playing && playing->isEqualToMusic(*item);
     const bool converting = workspace.enumAppState() == AppStateConverting;

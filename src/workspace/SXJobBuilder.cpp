@@ -2,11 +2,21 @@
 
 #include "base/SXBundle.h"
 #include "base/SXSettings.h"
+#include "engine/ConvertNaming.h"
+#include "engine/ConvertOutputFile.h"
+#include "framework/MTEAudioFile.h"
+#include "online/SXPreferences.h"
 
-SXJobBuilder::Run SXJobBuilder::Run::fromSettings(const QString& startFolder,
-                                                  bool organizeByFormat) {
+namespace {
+// Room the last part of a name keeps for ".extension" and a counter "(12345)".
+constexpr int kCounterBytes = 7;
+} // namespace
+
+SXJobBuilder::Run SXJobBuilder::Run::fromSettings(const QString& startFolder, bool organizeByFormat,
+                                                  std::optional<ConvertExisting> existing) {
     Run run{startFolder, organizeByFormat, SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary),
-            SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName)};
+            SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+            existing.value_or(SXPreferences::existingOutputs())};
     if (run.playlist.isEmpty())
         run.playlist = SXBundle::productName();
     return run;
@@ -17,6 +27,28 @@ QString SXJobBuilder::outputFolder(const SXFormatSetting& setting, const QString
     if (!setting.outputPath().isEmpty())
         return setting.outputPath();
     return organizeByFormat ? startFolder + QLatin1Char('/') + setting.fmtName() : startFolder;
+}
+
+QString SXJobBuilder::relativeOutput(const SXMusicInfo& item, const SXFormatSetting& setting) {
+    const LSMediaPtr media = item.mediaInfo();
+    if (!media)
+        return {};
+    const std::shared_ptr<MTEAudioFile> handle = item.metHandler();
+    const ConvertNameTags tags =
+        ConvertNameTags::of(handle.get(), media->strOutFileName(), media->discNumber());
+    const int reserved = int(setting.outputExtName().toUtf8().size()) + 1 + kCounterBytes;
+    const QString pattern = setting.namePattern().trimmed();
+    // A container that asks for nothing else names its outputs exactly as it always has: after
+    // the source, whose name the file system already took ("-live.flac" stays "-live.mp3").
+    const bool asBefore = pattern.isEmpty() || pattern == ConvertNaming::defaultPattern();
+    const QString named = asBefore && !media->strOutFileName().isEmpty()
+                              ? media->strOutFileName()
+                              : ConvertNaming::expand(pattern, tags, reserved);
+    const QString mirrored =
+        setting.mirrorFolders()
+            ? ConvertNaming::mirroredFolder(media->filePath(), media->addedFromFolder())
+            : QString();
+    return mirrored.isEmpty() ? named : mirrored + QLatin1Char('/') + named;
 }
 
 ConvertJob SXJobBuilder::build(const SXMusicInfo& item, const SXFormatSetting& setting,
@@ -39,7 +71,16 @@ ConvertJob SXJobBuilder::build(const SXMusicInfo& item, const SXFormatSetting& s
     job.extension = setting.outputExtName();
     job.formatName = item.getStrMusicType();
     job.outputFolder = outputFolder(setting, run.startFolder, run.organizeByFormat);
-    job.outputName = media->strOutFileName();
+    const QString relative = relativeOutput(item, setting);
+    const qsizetype slash = relative.lastIndexOf(QLatin1Char('/'));
+    job.outputSubfolder = slash < 0 ? QString() : relative.left(slash);
+    job.outputName = relative.mid(slash + 1);
+    job.existing = run.existing;
+    if (run.planned) {
+        const QString planned = ConvertOutputFile::plannedPath(job);
+        job.nameSharedInRun = run.planned->contains(planned);
+        run.planned->insert(planned);
+    }
     job.runLibraryScript = run.runLibraryScript;
     job.addToLibrary = setting.enumAddToLibrary() == 1;
     job.playlist = run.playlist;

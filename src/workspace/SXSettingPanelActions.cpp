@@ -51,6 +51,29 @@ void SXSettingPanelActions::setAddToLibrary(SXContainerStore& workspace, bool on
     }
 }
 
+void SXSettingPanelActions::setNamePattern(SXContainerStore& workspace, const QString& pattern) {
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
+        setting->setNamePattern(pattern);
+        SXContainerMemory::storeChoices(*setting);
+    }
+}
+
+void SXSettingPanelActions::setMirrorFolders(SXContainerStore& workspace, bool on) {
+    if (const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting()) {
+        setting->setMirrorFolders(on);
+        SXContainerMemory::storeChoices(*setting);
+    }
+}
+
+QString SXSettingPanelActions::namePreview(const SXContainerStore& workspace) {
+    const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
+    const SXMusicInfoList items = workspace.getCurTableDatasource();
+    if (!setting || items.isEmpty())
+        return {};
+    return SXJobBuilder::relativeOutput(*items.first(), *setting) + QLatin1Char('.') +
+           setting->outputExtName();
+}
+
 void SXSettingPanelActions::setOutputFolder(SXContainerStore& workspace, const QString& folder) {
     const SXFormatSettingPtr setting = workspace.getSelectedTabFormatSetting();
     if (setting && !folder.isEmpty())

@@ -19,6 +19,13 @@ public:
     static void setNormalise(SXContainerStore& workspace, bool on);
     // Refills the panel afterwards, as the setting now reads.
     static void setAddToLibrary(SXContainerStore& workspace, bool on);
+    // How the selected container names its outputs (ConvertNaming) and whether it keeps the
+    // files' places below the folders they were added with; stored for the next start too.
+    static void setNamePattern(SXContainerStore& workspace, const QString& pattern);
+    static void setMirrorFolders(SXContainerStore& workspace, bool on);
+    // The path below the output folder that the selected container's first item gets, with its
+    // extension, as the panel's example; empty when the container holds no item.
+    static QString namePreview(const SXContainerStore& workspace);
     // The folder the selected container's runs write into from now on, whatever Start chooses.
     static void setOutputFolder(SXContainerStore& workspace, const QString& folder);
     // The folder the selected container's next run writes into: its own folder when one was

@@ -111,7 +111,8 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
     m_totalConvertOps = getTotalNeedConvertMusic();
     startConvertOperation();
-    const SXJobBuilder::Run run = SXJobBuilder::Run::fromSettings(folder, m_bOrganized);
+    const SXJobBuilder::Run run =
+        SXJobBuilder::Run::fromSettings(folder, m_bOrganized, m_existingOverride);
 
     // Every item is queued again at each Start, whatever an earlier run made of it.
     QList<Pending> pending;

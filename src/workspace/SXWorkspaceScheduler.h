@@ -59,6 +59,9 @@ public:
     // The run's parallelism instead of the stored maximum, without storing it (nullopt: the
     // stored maximum again). Kept until changed.
     void setMaxConcurrentOverride(std::optional<int> count) { m_maxConcurrentOverride = count; }
+    // What to do with outputs already there, instead of the stored preference (the command
+    // line's --existing).
+    void setExistingOverride(std::optional<ConvertExisting> policy) { m_existingOverride = policy; }
     // The two check boxes of the folder chooser, as the last Start left them.
     bool organizeByFormat() const { return m_bOrganized; }
     void setOrganizeByFormat(bool on) { m_bOrganized = on; }
@@ -129,6 +132,7 @@ private:
     QMutex m_queueLock; // held while the queue's operations are searched
     std::optional<int> m_maxConcurrentOverride;
     SXLoudnessSurvey* m_survey = nullptr; // owned (a child); only while loudness is measured
+    std::optional<ConvertExisting> m_existingOverride;
     bool m_bOrganized = true;
     bool m_bOverOpen = false;
     int m_totalConvertOps = 0;

@@ -190,6 +190,8 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
         << QStringList{"--replaygain", "loud", in} << "--replaygain";
     QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
     QTest::newRow("missing value") << QStringList{"-f"} << "-f";
+    QTest::newRow("existing not offered")
+        << QStringList{"--existing", "overwrite", in} << "skip, both or replace";
     // A quoted argument cannot drive the terminal.
     QTest::newRow("hostile argument") << QStringList{"-f", "MP\x1b[2J3", in} << "MP\\e[2J3";
 }

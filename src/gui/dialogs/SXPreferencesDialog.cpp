@@ -30,12 +30,20 @@ SXPreferencesDialog::SXPreferencesDialog(QWidget* parent)
     pbtnMaxTasks = new QComboBox(this);
     pbtnMaxTasks->setObjectName(QStringLiteral("pbtnMaxTasks"));
     pbtnMaxTasks->addItems(SXPreferences::maxTasksTitles());
+    pbtnExistingOutputs = new QComboBox(this);
+    pbtnExistingOutputs->setObjectName(QStringLiteral("pbtnExistingOutputs"));
+    pbtnExistingOutputs->addItems(SXPreferences::existingOutputsTitles());
     pbtnLibraryFormat = new QComboBox(this);
     pbtnLibraryFormat->setObjectName(QStringLiteral("pbtnLibraryFormat"));
     pbtnLibraryFormat->addItems(SXPreferences::libraryFormatTitles());
     fdPlaylistName = new QLineEdit(this);
     fdPlaylistName->setObjectName(QStringLiteral("fdPlaylistName"));
     form->addRow(caption(tr("Con&versions at once:"), pbtnMaxTasks, this), pbtnMaxTasks);
+    form->addRow(caption(tr("&Existing outputs:"), pbtnExistingOutputs, this), pbtnExistingOutputs);
+    pbtnExistingOutputs->setToolTip(
+        tr("What a conversion does when a file with its output's name is already there: leave an "
+           "earlier result that is whole and newer than its source, number the new file, or "
+           "replace an output Sonoria wrote (never a file of yours)."));
     form->addRow(caption(tr("Music &library format:"), pbtnLibraryFormat, this), pbtnLibraryFormat);
     form->addRow(caption(tr("&Playlist name:"), fdPlaylistName, this), fdPlaylistName);
     chkServiceConsent =
@@ -64,6 +72,7 @@ SXPreferencesDialog::SXPreferencesDialog(QWidget* parent)
     windowDidLoad();
 
     connect(pbtnMaxTasks, &QComboBox::textActivated, this, &SXPreferences::setMaxTasks);
+    connect(pbtnExistingOutputs, &QComboBox::activated, this, &SXPreferences::setExistingOutputs);
     connect(pbtnLibraryFormat, &QComboBox::activated, this, &SXPreferences::setLibraryFormat);
     connect(fdPlaylistName, &QLineEdit::textEdited, this, &SXPreferences::controlTextDidChange);
     connect(chkServiceConsent, &QCheckBox::toggled, this, &SXPreferences::setServiceConsent);
@@ -71,8 +80,9 @@ SXPreferencesDialog::SXPreferencesDialog(QWidget* parent)
 
 void SXPreferencesDialog::windowDidLoad() {
     const QSignalBlocker a(pbtnMaxTasks), b(pbtnLibraryFormat), c(fdPlaylistName),
-        d(chkServiceConsent);
+        d(chkServiceConsent), e(pbtnExistingOutputs);
     pbtnMaxTasks->setCurrentIndex(SXPreferences::maxTasksIndex());
+    pbtnExistingOutputs->setCurrentIndex(SXPreferences::existingOutputsIndex());
     pbtnLibraryFormat->setCurrentIndex(SXPreferences::libraryFormatIndex());
     fdPlaylistName->setText(SXPreferences::playlistName());
     chkServiceConsent->setChecked(SXPreferences::serviceConsent());

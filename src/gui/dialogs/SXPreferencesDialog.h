@@ -6,7 +6,8 @@ class QCheckBox;
 class QComboBox;
 class QLineEdit;
 
-// The preferences: how many conversions run at once, the music library's format, the
+// The preferences: how many conversions run at once, what a run does with outputs that are
+// already there, the music library's format, the
 // playlist's name and the consent to the start-up requests. A small window of its own; every
 // change is stored at once, there is no OK, only Close (also Escape and Ctrl+W).
 class SXPreferencesDialog final : public QWidget {
@@ -18,6 +19,7 @@ public:
 
 private:
     QComboBox* pbtnMaxTasks = nullptr;
+    QComboBox* pbtnExistingOutputs = nullptr;
     QComboBox* pbtnLibraryFormat = nullptr;
     QLineEdit* fdPlaylistName = nullptr;
     QCheckBox* chkServiceConsent = nullptr;

@@ -1,5 +1,6 @@
 #include "gui/panels/SXSettingsPanel.h"
 
+#include "engine/ConvertNaming.h"
 #include "gui/panels/SXIcons.h"
 #include "gui/panels/SXPopUps.h"
 #include "workspace/SXContainerStore.h"
@@ -11,6 +12,7 @@
 #include <QFileDialog>
 #include <QGridLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 
 SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
@@ -26,6 +28,7 @@ SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     // In the order of SXReplayGainMode.
     _popReplayGain->addItems({tr("Off"), tr("Track"), tr("Album")});
     buildButtons();
+    buildNaming();
 
     connect(_popBitRate, &QComboBox::activated, this, [this] {
         SXSettingPanelActions::setBitRate(m_store, SXPopUps::selectedTitle(_popBitRate));
@@ -46,7 +49,16 @@ SXSettingsPanel::SXSettingsPanel(SXContainerStore& store, QWidget* parent)
     connect(_btnSavePath, &QPushButton::clicked, this, &SXSettingsPanel::clickSavePath);
     connect(_btnReveal, &QPushButton::clicked, this,
             [this] { SXSettingPanelActions::revealOutputFolder(m_store); });
+    connect(_fdNamePattern, &QLineEdit::textEdited, this, [this](const QString& pattern) {
+        SXSettingPanelActions::setNamePattern(m_store, pattern);
+        showNamePreview();
+    });
+    connect(_btnMirrorFolders, &QCheckBox::clicked, this, [this](bool on) {
+        SXSettingPanelActions::setMirrorFolders(m_store, on);
+        showNamePreview();
+    });
     connect(&m_store, &SXContainerStore::formatSettingShown, this, &SXSettingsPanel::showSetting);
+    connect(&m_store, &SXContainerStore::listChanged, this, &SXSettingsPanel::showNamePreview);
 }
 
 QComboBox* SXSettingsPanel::addPopUp(const QString& label, const QString& name) {
@@ -88,6 +100,34 @@ void SXSettingsPanel::buildButtons() {
     grid->setColumnStretch(column + 2, 1);
 }
 
+void SXSettingsPanel::buildNaming() {
+    auto* grid = static_cast<QGridLayout*>(layout());
+    _fdNamePattern = new QLineEdit(this);
+    _fdNamePattern->setObjectName(QStringLiteral("fdNamePattern"));
+    _fdNamePattern->setAccessibleName(tr("Name pattern"));
+    _fdNamePattern->setPlaceholderText(ConvertNaming::defaultPattern());
+    _fdNamePattern->setToolTip(tr("{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, "
+                                  "{disc}, {year}, {genre} and {filename}; \"/\" makes folders"));
+    auto* caption = new QLabel(tr("Name pa&ttern:"), this);
+    caption->setBuddy(_fdNamePattern);
+    _lblNamePreview = new QLabel(this);
+    _lblNamePreview->setObjectName(QStringLiteral("lblNamePreview"));
+    _lblNamePreview->setTextFormat(Qt::PlainText);
+    _btnMirrorFolders = new QCheckBox(tr("&Keep the layout of added folders"), this);
+    _btnMirrorFolders->setObjectName(QStringLiteral("btnMirrorFolders"));
+    grid->addWidget(caption, 2, 0);
+    grid->addWidget(_fdNamePattern, 2, 1, 1, 2);
+    grid->addWidget(_btnMirrorFolders, 2, 3, 1, 2);
+    grid->addWidget(_lblNamePreview, 3, 0, 1, 5);
+}
+
+void SXSettingsPanel::showNamePreview() {
+    const QString preview = SXSettingPanelActions::namePreview(m_store);
+    _lblNamePreview->setText(preview.isEmpty() ? QString()
+                                               : tr("The first file becomes: %1").arg(preview));
+    _lblNamePreview->setAccessibleName(_lblNamePreview->text());
+}
+
 void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     if (!setting)
         return;
@@ -103,12 +143,16 @@ void SXSettingsPanel::showSetting(const SXFormatSettingPtr& setting) {
     _btnAddToLibrary->setChecked(setting->enumAddToLibrary() == 1);
     _btnSavePath->setToolTip(
         QDir::toNativeSeparators(SXSettingPanelActions::containerOutputFolder(m_store)));
+    if (_fdNamePattern->text() != setting->namePattern())
+        _fdNamePattern->setText(setting->namePattern());
+    _btnMirrorFolders->setChecked(setting->mirrorFolders());
+    showNamePreview();
 }
 
 void SXSettingsPanel::setSettingPanelEnable(bool enabled) {
-    for (QWidget* control :
-         std::initializer_list<QWidget*>{_popBitRate, _popSmpRate, _popChannel, _popReplayGain,
-                                         _btnNormalise, _btnAddToLibrary, _btnSavePath})
+    for (QWidget* control : std::initializer_list<QWidget*>{
+             _popBitRate, _popSmpRate, _popChannel, _popReplayGain, _btnNormalise, _btnAddToLibrary,
+             _btnSavePath, _fdNamePattern, _btnMirrorFolders})
         control->setEnabled(enabled);
 }
 

@@ -6,13 +6,16 @@
 
 class QCheckBox;
 class QComboBox;
+class QLabel;
+class QLineEdit;
 class QPushButton;
 class SXContainerStore;
 
 // The settings of the selected container under the list: bit rate, sample rate and channels,
 // the ReplayGain tags and "Normalise loudness",
 // the music-library box (hidden for a format without the option), the container's output
-// folder and the reveal button. It mirrors formatSettingShown and writes
+// folder and the reveal button; under them the name pattern with the first item's resulting
+// name, and whether added folders are mirrored. It mirrors formatSettingShown and writes
 // each change through SXSettingPanelActions.
 class SXSettingsPanel final : public QWidget {
     Q_OBJECT
@@ -25,6 +28,8 @@ public:
 private:
     QComboBox* addPopUp(const QString& label, const QString& name);
     void buildButtons();
+    void buildNaming();
+    void showNamePreview();
     void clickSavePath();
 
     SXContainerStore& m_store;
@@ -37,4 +42,7 @@ private:
     QCheckBox* _btnAddToLibrary = nullptr;
     QPushButton* _btnSavePath = nullptr;
     QPushButton* _btnReveal = nullptr;
+    QLineEdit* _fdNamePattern = nullptr;
+    QLabel* _lblNamePreview = nullptr;
+    QCheckBox* _btnMirrorFolders = nullptr;
 };
