@@ -111,6 +111,14 @@
         <translation>keine Eingabe: Geben Sie mindestens eine DATEI oder einen ORDNER an (siehe --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain erwartet „track“ oder „album“, nicht „%1“</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags erwartet zwei Dateien: QUELLE und AUSGABE</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,15 @@ Audio- und Videodateien in Audioformate konvertieren.
       --no-organize       direkt in ORDNER schreiben statt in ORDNER/&lt;Formatname&gt;
   -j, --jobs N            gleichzeitige Konvertierungen (Vorgabe: das gespeicherte Maximum, 5)
   -b, --bitrate W  -r, --samplerate W  -c, --channels W   eine der Möglichkeiten, die das Format anbietet
+      --pattern MUSTER    Ausgaben nach ihren Tags benennen: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; „/“ legt Ordner
+                          an (Vorgabe „{filename}“: der eigene Name der Quelle)
+      --mirror            den Platz jeder Datei unterhalb des ORDNERS beibehalten, in dem sie lag
+      --existing WAS      eine Ausgabe mit dem geplanten Namen ist schon da: „skip“ überspringt sie,
+                          wenn sie vollständig und neuer als ihre Quelle ist (Vorgabe: die
+                          gespeicherte Einstellung, sonst skip), „both“ behält beide (die neue
+                          Datei wird nummeriert), „replace“ ersetzt eine von diesem Programm
+                          geschriebene Ausgabe (nie eine andere Datei)
       --library           fertige Dateien an die Musikbibliothek und die Wiedergabeliste übergeben
       --replaygain MODUS  die Lautheit messen und die Ausgaben mit ReplayGain versehen: „track“,
                           oder „album“ für Titel- und Albumwerte (standardmäßig aus)
@@ -169,12 +194,8 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain erwartet „track“ oder „album“, nicht „%1“</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags erwartet zwei Dateien: QUELLE und AUSGABE</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing erwartet skip, both oder replace, nicht „%1“</translation>
     </message>
 </context>
 <context>
@@ -241,6 +262,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>tags: %1: %2</source>
         <translation>Tags: %1: %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>bereits konvertiert: %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -378,6 +403,37 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>Die Lautheit der Quelle ließ sich nicht messen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Unbekannter Interpret</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Unbekanntes Album</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Unbekannter Titel</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Unbekannte Titelnummer</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Unbekannte CD</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Unbekanntes Jahr</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Unbekanntes Genre</translation>
     </message>
 </context>
 <context>
@@ -797,6 +853,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
         <source>Tags not kept:</source>
         <translation>Nicht erhaltene Tags:</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Bereits konvertiert: Die Ausgabe war schon da, vollständig und neuer als diese Datei</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1018,6 +1078,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>converting</source>
         <translation>Wird konvertiert</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>bereits konvertiert</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1384,21 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Bereits konvertierte Dateien überspringen</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Beide behalten</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Ersetzen</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1344,6 +1423,14 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>Sonoria teilt %1 dann bei jedem Start seine Version, die Version des Systems und eine zufällige Installationsnummer mit und fragt, welche Funktionen eingeschaltet werden sollen.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>&amp;Vorhandene Ausgaben:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>Was eine Konvertierung tut, wenn eine Datei mit dem Namen ihrer Ausgabe schon da ist: ein früheres Ergebnis stehen lassen, das vollständig und neuer als seine Quelle ist, die neue Datei nummerieren oder eine von Sonoria geschriebene Ausgabe ersetzen (nie eine Ihrer Dateien).</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1562,26 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Konvertiert mit dem gemessenen ReplayGain (im Album-Modus dem des Albums), der True Peak bleibt bei höchstens −1 dBTP; die Ausgabe erhält dann keine ReplayGain-Tags</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Namensmuster</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} und {filename}; „/“ legt Ordner an</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>Nam&amp;ensmuster:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>&amp;Ordnerstruktur hinzugefügter Ordner beibehalten</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>Die erste Datei wird zu: %1</translation>
     </message>
 </context>
 <context>

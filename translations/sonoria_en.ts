@@ -111,6 +111,14 @@
         <translation>no input: give at least one FILE or FOLDER (see --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags takes two files: SOURCE and OUTPUT</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -169,12 +193,8 @@ cancels the run; partial outputs are removed).
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags takes two files: SOURCE and OUTPUT</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing takes skip, both or replace, not &quot;%1&quot;</translation>
     </message>
 </context>
 <context>
@@ -241,6 +261,10 @@ cancels the run; partial outputs are removed).
     <message>
         <source>tags: %1: %2</source>
         <translation>tags: %1: %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>already converted: %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -378,6 +402,37 @@ cancels the run; partial outputs are removed).
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>The loudness of the source could not be measured: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Unknown Artist</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Unknown Album</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Unknown Title</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Unknown Track</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Unknown Disc</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Unknown Year</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Unknown Genre</translation>
     </message>
 </context>
 <context>
@@ -797,6 +852,10 @@ cancels the run; partial outputs are removed).
         <source>Tags not kept:</source>
         <translation>Tags not kept:</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Already converted: the output was there, whole and newer than this file</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1018,6 +1077,10 @@ cancels the run; partial outputs are removed).
     <message>
         <source>converting</source>
         <translation>Converting</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>already converted</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1383,21 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Skip files already converted</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Keep both</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Replace</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1344,6 +1422,14 @@ cancels the run; partial outputs are removed).
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>&amp;Existing outputs:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1561,26 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below −1 dBTP; the output then gets no ReplayGain tags</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Name pattern</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>Name pa&amp;ttern:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>&amp;Keep the layout of added folders</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>The first file becomes: %1</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,14 @@
         <translation>no hay entrada: indique al menos un ARCHIVO o una CARPETA (consulte --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain admite «track» o «album», no «%1»</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags necesita dos archivos: ORIGEN y SALIDA</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,15 @@ Convierte archivos de audio y vídeo a formatos de audio.
       --no-organize       escribir en la propia CARPETA en lugar de en CARPETA/&lt;nombre del formato&gt;
   -j, --jobs N            conversiones simultáneas (predeterminado: el máximo guardado, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   una de las opciones que ofrece el formato
+      --pattern PATRÓN    nombrar las salidas según sus etiquetas: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; «/» crea carpetas
+                          (por omisión «{filename}»: el nombre del propio origen)
+      --mirror            mantener el lugar de cada archivo bajo la CARPETA donde se encontró
+      --existing QUÉ      ya existe una salida con el nombre previsto: «skip» la deja si está
+                          completa y es más reciente que su origen (por omisión: la preferencia
+                          guardada, si no skip), «both» conserva ambas (numera el archivo nuevo),
+                          «replace» reemplaza una salida escrita por este programa (nunca
+                          otro archivo)
       --library           entregar los archivos terminados a la biblioteca musical y a la lista de reproducción
       --replaygain MODO   medir la sonoridad y etiquetar las salidas con ReplayGain: «track»,
                           o «album» para valores de pista y de álbum (desactivado por omisión)
@@ -169,12 +194,8 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain admite «track» o «album», no «%1»</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags necesita dos archivos: ORIGEN y SALIDA</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing admite skip, both o replace, no «%1»</translation>
     </message>
 </context>
 <context>
@@ -241,6 +262,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>tags: %1: %2</source>
         <translation>etiquetas: %1: %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>ya convertido: %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -378,6 +403,37 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>No se pudo medir la sonoridad del origen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Artista desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Álbum desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Título desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Pista desconocida</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Disco desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Año desconocido</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Género desconocido</translation>
     </message>
 </context>
 <context>
@@ -797,6 +853,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>Tags not kept:</source>
         <translation>Etiquetas no conservadas:</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Ya convertido: la salida ya existía, completa y más reciente que este archivo</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1018,6 +1078,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>converting</source>
         <translation>Convirtiendo</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>ya convertido</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1384,21 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Omitir los archivos ya convertidos</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Conservar ambos</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Reemplazar</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1344,6 +1423,14 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>Entonces, en cada inicio, Sonoria comunica a %1 su versión, la versión del sistema y un número de instalación aleatorio, y pregunta qué funciones activar.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>&amp;Salidas existentes:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>Qué hace una conversión cuando ya existe un archivo con el nombre de su salida: dejar un resultado anterior completo y más reciente que su origen, numerar el archivo nuevo o reemplazar una salida escrita por Sonoria (nunca un archivo suyo).</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1562,26 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Convierte con el ReplayGain medido (el del álbum en modo álbum), manteniendo el pico real en −1 dBTP o menos; la salida no recibe entonces etiquetas ReplayGain</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Patrón de nombre</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} y {filename}; «/» crea carpetas</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>&amp;Patrón de nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>&amp;Mantener la estructura de las carpetas añadidas</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>El primer archivo será: %1</translation>
     </message>
 </context>
 <context>

@@ -111,6 +111,14 @@
         <translation>aucune entrée&#xa0;: indiquez au moins un FICHIER ou un DOSSIER (voir --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain attend « track » ou « album », pas « %1 »</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags attend deux fichiers : SOURCE et SORTIE</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,15 @@ Convertit des fichiers audio et vidéo en formats audio.
       --no-organize       écrire directement dans DOSSIER au lieu de DOSSIER/&lt;nom du format&gt;
   -j, --jobs N            conversions simultanées (par défaut&#xa0;: le maximum enregistré, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   l’un des choix proposés par le format
+      --pattern MODÈLE    nommer les sorties d’après leurs étiquettes : {artist} {albumartist} {album}
+                          {title} {track} {track:02} {disc} {year} {genre} {filename} ; « / » crée
+                          des dossiers (par défaut « {filename} » : le nom de la source)
+      --mirror            garder la place de chaque fichier sous le DOSSIER où il a été trouvé
+      --existing QUOI     une sortie portant le nom prévu existe déjà : « skip » la laisse si elle
+                          est complète et plus récente que sa source (par défaut : la préférence
+                          enregistrée, sinon skip), « both » garde les deux (le nouveau fichier est
+                          numéroté), « replace » remplace une sortie écrite par ce programme
+                          (jamais un autre fichier)
       --library           envoyer les fichiers terminés vers la bibliothèque musicale et la liste de lecture
       --replaygain MODE   mesurer le volume sonore et écrire les étiquettes ReplayGain&#xa0;: « track »,
                           ou « album » pour les valeurs de piste et d’album (désactivé par défaut)
@@ -170,12 +195,8 @@ partielles sont supprimées).
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain attend « track » ou « album », pas « %1 »</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags attend deux fichiers : SOURCE et SORTIE</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing attend skip, both ou replace, pas « %1 »</translation>
     </message>
 </context>
 <context>
@@ -242,6 +263,10 @@ partielles sont supprimées).
     <message>
         <source>tags: %1: %2</source>
         <translation>étiquettes : %1 : %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>déjà converti : %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -379,6 +404,37 @@ partielles sont supprimées).
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>Impossible de mesurer le volume sonore de la source : %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Artiste inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Album inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Titre inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Piste inconnue</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Disque inconnu</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Année inconnue</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Genre inconnu</translation>
     </message>
 </context>
 <context>
@@ -798,6 +854,10 @@ partielles sont supprimées).
         <source>Tags not kept:</source>
         <translation>Étiquettes non conservées :</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Déjà converti : la sortie existait déjà, complète et plus récente que ce fichier</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1019,6 +1079,10 @@ partielles sont supprimées).
     <message>
         <source>converting</source>
         <translation>Conversion en cours</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>déjà converti</translation>
     </message>
 </context>
 <context>
@@ -1321,6 +1385,21 @@ partielles sont supprimées).
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Ignorer les fichiers déjà convertis</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Garder les deux</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Remplacer</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1345,6 +1424,14 @@ partielles sont supprimées).
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>Sonoria communique alors à %1, à chaque démarrage, sa version, celle du système et un numéro d’installation aléatoire, et demande quelles fonctionnalités activer.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>S&amp;orties existantes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>Ce que fait une conversion quand un fichier portant le nom de sa sortie existe déjà : laisser un résultat antérieur complet et plus récent que sa source, numéroter le nouveau fichier, ou remplacer une sortie écrite par Sonoria (jamais l’un de vos fichiers).</translation>
     </message>
 </context>
 <context>
@@ -1476,6 +1563,26 @@ partielles sont supprimées).
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Convertit au ReplayGain mesuré (celui de l’album en mode album), en gardant le pic réel à −1&#xa0;dBTP au plus ; la sortie ne reçoit alors pas d’étiquettes ReplayGain</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Modèle de nom</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} et {filename} ; « / » crée des dossiers</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>Modèle de no&amp;m&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>Conserver l’arborescence des dossiers a&amp;joutés</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>Le premier fichier devient : %1</translation>
     </message>
 </context>
 <context>

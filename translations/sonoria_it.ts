@@ -111,6 +111,14 @@
         <translation>nessun input: indicare almeno un FILE o una CARTELLA (consultare --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain accetta «track» o «album», non «%1»</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags richiede due file: ORIGINE e USCITA</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,15 @@ Converte file audio e video in formati audio.
       --no-organize       scrive direttamente in CARTELLA anziché in CARTELLA/&lt;nome del formato&gt;
   -j, --jobs N            conversioni simultanee (predefinito: il massimo memorizzato, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   una delle scelte offerte dal formato
+      --pattern MODELLO   dà nome alle uscite dai loro tag: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; «/» crea cartelle
+                          (predefinito «{filename}»: il nome dell&apos;origine)
+      --mirror            mantiene la posizione di ogni file sotto la CARTELLA in cui è stato trovato
+      --existing COSA     esiste già un&apos;uscita con il nome previsto: «skip» la lascia se è
+                          completa e più recente della sua origine (predefinito: la preferenza
+                          salvata, altrimenti skip), «both» le mantiene entrambe (numera il nuovo
+                          file), «replace» sostituisce un&apos;uscita scritta da questo programma
+                          (mai un altro file)
       --library           consegna i file completati alla libreria musicale e alla scaletta
       --replaygain MODO   misura il volume percepito e aggiunge i tag ReplayGain: «track»,
                           o «album» per i valori di traccia e di album (disattivato di norma)
@@ -169,12 +194,8 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain accetta «track» o «album», non «%1»</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags richiede due file: ORIGINE e USCITA</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing accetta skip, both o replace, non «%1»</translation>
     </message>
 </context>
 <context>
@@ -241,6 +262,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>tags: %1: %2</source>
         <translation>tag: %1: %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>già convertito: %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -378,6 +403,37 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>Impossibile misurare il volume percepito dell&apos;origine: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Artista sconosciuto</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Album sconosciuto</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Titolo sconosciuto</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Traccia sconosciuta</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Disco sconosciuto</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Anno sconosciuto</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Genere sconosciuto</translation>
     </message>
 </context>
 <context>
@@ -797,6 +853,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>Tags not kept:</source>
         <translation>Tag non mantenuti:</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Già convertito: l&apos;uscita c&apos;era già, completa e più recente di questo file</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1018,6 +1078,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>converting</source>
         <translation>Conversione in corso</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>già convertito</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1384,21 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Salta i file già convertiti</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Mantieni entrambi</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Sostituisci</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1344,6 +1423,14 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>A ogni avvio Sonoria comunica quindi a %1 la propria versione, la versione del sistema e un numero di installazione casuale, e chiede quali funzionalità attivare.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>Uscite &amp;esistenti:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>Cosa fa una conversione quando esiste già un file con il nome della sua uscita: lasciare un risultato precedente completo e più recente della sua origine, numerare il nuovo file o sostituire un&apos;uscita scritta da Sonoria (mai un tuo file).</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1562,26 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Converte al ReplayGain misurato (quello dell&apos;album in modalità album), mantenendo il picco reale a −1 dBTP o meno; l&apos;uscita non riceve poi tag ReplayGain</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Modello del nome</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} e {filename}; «/» crea cartelle</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>Modello del nom&amp;e:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>Mantieni la &amp;struttura delle cartelle aggiunte</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>Il primo file diventa: %1</translation>
     </message>
 </context>
 <context>

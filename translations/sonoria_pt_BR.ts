@@ -111,6 +111,14 @@
         <translation>nenhuma entrada: informe ao menos um ARQUIVO ou uma PASTA (veja --help)</translation>
     </message>
     <message>
+        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
+        <translation>--replaygain aceita “track” ou “album”, não “%1”</translation>
+    </message>
+    <message>
+        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
+        <translation>--check-tags precisa de dois arquivos: ORIGEM e SAÍDA</translation>
+    </message>
+    <message>
         <source>Usage: sonoria-cli [options] FILE|FOLDER...
 Convert audio and video files to audio formats.
 
@@ -119,6 +127,14 @@ Convert audio and video files to audio formats.
       --no-organize       write into DIR itself instead of DIR/&lt;format name&gt;
   -j, --jobs N            simultaneous conversions (default: the stored maximum, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   one of the format&apos;s offered choices
+      --pattern PATTERN   name outputs from their tags: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; &quot;/&quot; makes
+                          folders (default &quot;{filename}&quot;: the source&apos;s own name)
+      --mirror            keep the place of each file below the FOLDER it was found in
+      --existing WHAT     an output with the planned name is already there: &quot;skip&quot; it when it is
+                          whole and newer than its source (default: the stored preference,
+                          else skip), keep &quot;both&quot; (number the new file), or &quot;replace&quot; an
+                          output this program wrote (never any other file)
       --library           deliver finished files to the music library and playlist
       --replaygain MODE   measure the loudness and tag the outputs with ReplayGain: &quot;track&quot;,
                           or &quot;album&quot; for track and album values (off by default)
@@ -147,6 +163,15 @@ Converte arquivos de áudio e vídeo para formatos de áudio.
       --no-organize       grava na própria PASTA em vez de em PASTA/&lt;nome do formato&gt;
   -j, --jobs N            conversões simultâneas (padrão: o máximo armazenado, 5)
   -b, --bitrate V  -r, --samplerate V  -c, --channels V   uma das opções oferecidas pelo formato
+      --pattern PADRÃO    nomear as saídas pelas etiquetas: {artist} {albumartist} {album} {title}
+                          {track} {track:02} {disc} {year} {genre} {filename}; “/” cria pastas
+                          (padrão “{filename}”: o nome da própria origem)
+      --mirror            manter o lugar de cada arquivo abaixo da PASTA onde foi encontrado
+      --existing O-QUÊ    já existe uma saída com o nome previsto: “skip” a deixa se ela estiver
+                          completa e for mais recente que a origem (padrão: a preferência
+                          salva, senão skip), “both” mantém as duas (numera o novo arquivo),
+                          “replace” substitui uma saída gravada por este programa (nunca
+                          outro arquivo)
       --library           entrega os arquivos concluídos à biblioteca de músicas e à lista de reprodução
       --replaygain MODO   medir a sonoridade e marcar as saídas com ReplayGain: “track”,
                           ou “album” para valores de faixa e de álbum (desativado por padrão)
@@ -169,12 +194,8 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
 </translation>
     </message>
     <message>
-        <source>--replaygain takes &quot;track&quot; or &quot;album&quot;, not &quot;%1&quot;</source>
-        <translation>--replaygain aceita “track” ou “album”, não “%1”</translation>
-    </message>
-    <message>
-        <source>--check-tags takes two files: SOURCE and OUTPUT</source>
-        <translation>--check-tags precisa de dois arquivos: ORIGEM e SAÍDA</translation>
+        <source>--existing takes skip, both or replace, not &quot;%1&quot;</source>
+        <translation>--existing aceita skip, both ou replace, não “%1”</translation>
     </message>
 </context>
 <context>
@@ -241,6 +262,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>tags: %1: %2</source>
         <translation>etiquetas: %1: %2</translation>
+    </message>
+    <message>
+        <source>already converted: %1 -&gt; %2</source>
+        <translation>já convertido: %1 -&gt; %2</translation>
     </message>
 </context>
 <context>
@@ -378,6 +403,37 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>The loudness of the source could not be measured: %1</source>
         <translation>Não foi possível medir a sonoridade da origem: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ConvertNaming</name>
+    <message>
+        <source>Unknown Artist</source>
+        <translation>Artista desconhecido</translation>
+    </message>
+    <message>
+        <source>Unknown Album</source>
+        <translation>Álbum desconhecido</translation>
+    </message>
+    <message>
+        <source>Unknown Title</source>
+        <translation>Título desconhecido</translation>
+    </message>
+    <message>
+        <source>Unknown Track</source>
+        <translation>Faixa desconhecida</translation>
+    </message>
+    <message>
+        <source>Unknown Disc</source>
+        <translation>Disco desconhecido</translation>
+    </message>
+    <message>
+        <source>Unknown Year</source>
+        <translation>Ano desconhecido</translation>
+    </message>
+    <message>
+        <source>Unknown Genre</source>
+        <translation>Gênero desconhecido</translation>
     </message>
 </context>
 <context>
@@ -797,6 +853,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>Tags not kept:</source>
         <translation>Etiquetas não mantidas:</translation>
     </message>
+    <message>
+        <source>Already converted: the output was there, whole and newer than this file</source>
+        <translation>Já convertido: a saída já existia, completa e mais recente que este arquivo</translation>
+    </message>
 </context>
 <context>
     <name>SXFileInfoText</name>
@@ -1018,6 +1078,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>converting</source>
         <translation>Convertendo</translation>
+    </message>
+    <message>
+        <source>already converted</source>
+        <translation>já convertido</translation>
     </message>
 </context>
 <context>
@@ -1320,6 +1384,21 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     </message>
 </context>
 <context>
+    <name>SXPreferences</name>
+    <message>
+        <source>Skip files already converted</source>
+        <translation>Pular arquivos já convertidos</translation>
+    </message>
+    <message>
+        <source>Keep both</source>
+        <translation>Manter os dois</translation>
+    </message>
+    <message>
+        <source>Replace</source>
+        <translation>Substituir</translation>
+    </message>
+</context>
+<context>
     <name>SXPreferencesDialog</name>
     <message>
         <source>Preferences</source>
@@ -1344,6 +1423,14 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>At each start Sonoria then tells %1 its version, the system&apos;s version and a random installation number, and asks which features to switch on.</source>
         <translation>A cada inicialização, o Sonoria informa a %1 a versão dele, a versão do sistema e um número de instalação aleatório, e pergunta quais recursos ativar.</translation>
+    </message>
+    <message>
+        <source>&amp;Existing outputs:</source>
+        <translation>&amp;Saídas existentes:</translation>
+    </message>
+    <message>
+        <source>What a conversion does when a file with its output&apos;s name is already there: leave an earlier result that is whole and newer than its source, number the new file, or replace an output Sonoria wrote (never a file of yours).</source>
+        <translation>O que uma conversão faz quando já existe um arquivo com o nome da sua saída: deixar um resultado anterior completo e mais recente que a origem, numerar o novo arquivo ou substituir uma saída gravada pelo Sonoria (nunca um arquivo seu).</translation>
     </message>
 </context>
 <context>
@@ -1475,6 +1562,26 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>Converts at the measured ReplayGain (the album&apos;s in album mode), keeping the true peak at or below -1 dBTP; the output then gets no ReplayGain tags</source>
         <translation>Converte com o ReplayGain medido (o do álbum no modo álbum), mantendo o pico real em −1 dBTP ou menos; a saída então não recebe etiquetas ReplayGain</translation>
+    </message>
+    <message>
+        <source>Name pattern</source>
+        <translation>Padrão de nome</translation>
+    </message>
+    <message>
+        <source>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} and {filename}; &quot;/&quot; makes folders</source>
+        <translation>{artist}, {albumartist}, {album}, {title}, {track}, {track:02}, {disc}, {year}, {genre} e {filename}; “/” cria pastas</translation>
+    </message>
+    <message>
+        <source>Name pa&amp;ttern:</source>
+        <translation>&amp;Padrão de nome:</translation>
+    </message>
+    <message>
+        <source>&amp;Keep the layout of added folders</source>
+        <translation>Manter a estrutura das pastas a&amp;dicionadas</translation>
+    </message>
+    <message>
+        <source>The first file becomes: %1</source>
+        <translation>O primeiro arquivo vira: %1</translation>
     </message>
 </context>
 <context>
