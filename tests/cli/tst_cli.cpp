@@ -215,7 +215,7 @@ void TestCli::failuresAreNamedAndExitOne() {
     QCOMPARE(result.exitCode, 1);
     // Each file that did not load, with its folder and why.
     for (const QString& expected :
-         {u"Following file(s) load failed!\n"_s,
+         {u"The following files could not be added:\n"_s,
           u"failed to load: %1: The file holds no audio that can be read\n"_s.arg(m_textAsMp3),
           u"failed to load: %1: No such file or directory\n"_s.arg(fresh(u"no such.wav"_s))})
         QVERIFY2(result.err.contains(expected), qPrintable(result.err));
