@@ -307,6 +307,7 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     QVERIFY(addFiles(workspace, u"MP3"_s, longSources));
     const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
     const SXMusicInfoPtr outsider = makeWorkspaceItem(u"/nowhere/else.wav"_s, u"MP3"_s);
+    QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider)); // no queue yet
     workspace.scheduler().setMaxConcurrentOverride(1);
     QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
     workspace.scheduler().doRealConverterTask(freshFolder(u"cancelled"_s));
