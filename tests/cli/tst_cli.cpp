@@ -1,7 +1,6 @@
 #include "support/TestSupport.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
@@ -10,6 +9,7 @@
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
+using SonoriaTest::filesBelow;
 
 namespace {
 
@@ -22,17 +22,6 @@ struct CliResult {
 // The source tree: awkward names, a sub-folder, and several input kinds.
 const QStringList kSources{u"plain tone.wav"_s, u"sub/it's \"quoted\" $HOME;ls.flac"_s,
                            u"-leading dash.mp3"_s, u"sub/ünïcødé 日本.m4a"_s};
-
-// Files and folders below `dir`, relative and sorted.
-QStringList filesBelow(const QString& dir) {
-    QStringList files;
-    QDirIterator it(dir, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext())
-        files.append(QDir(dir).relativeFilePath(it.next()));
-    files.sort();
-    return files;
-}
 
 // "codec,sample rate,channels,bit rate" of the first audio stream, as ffprobe reads it.
 QString probe(const QString& path) {
@@ -155,7 +144,7 @@ void TestCli::convertsAFolderOrganisedByFormat() {
     }
     // The format's folder and its four files, nothing else.
     made.sort();
-    QCOMPARE(filesBelow(out), made);
+    QCOMPARE(filesBelow(out, true), made);
 }
 
 void TestCli::neverReplacesAndChoicesReachTheFile() {
@@ -168,7 +157,7 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.out.contains(u"done: %1 -> %2/plain tone(1).mp3"_s.arg(wav, out)),
              qPrintable(result.out));
-    QCOMPARE(filesBelow(out), (QStringList{u"plain tone(1).mp3"_s, u"plain tone.mp3"_s}));
+    QCOMPARE(filesBelow(out, true), (QStringList{u"plain tone(1).mp3"_s, u"plain tone.mp3"_s}));
     QCOMPARE(SonoriaTest::readFile(out + u"/plain tone.mp3"_s), QByteArray("keep me"));
     QCOMPARE(probe(out + u"/plain tone(1).mp3"_s), u"mp3,22050,1,64000"_s);
 }
@@ -199,13 +188,13 @@ void TestCli::usageErrorsExitTwoWithOneLine_data() {
 void TestCli::usageErrorsExitTwoWithOneLine() {
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);
-    const QStringList before = filesBelow(m_work.path());
+    const QStringList before = filesBelow(m_work.path(), true);
     const CliResult result = runCli(arguments);
     QCOMPARE(result.exitCode, 2);
     QVERIFY(result.out.isEmpty());
     QCOMPARE(lines(result.err).size(), 1);
     QVERIFY2(result.err.contains(reason), qPrintable(result.err));
-    QCOMPARE(filesBelow(m_work.path()), before);
+    QCOMPARE(filesBelow(m_work.path(), true), before);
 }
 
 void TestCli::failuresAreNamedAndExitOne() {
@@ -222,7 +211,7 @@ void TestCli::failuresAreNamedAndExitOne() {
     // -v mirrors the log lines to standard error.
     QVERIFY(result.err.contains(u"finish complete load media....."_s));
     // The loadable file is still converted.
-    QCOMPARE(filesBelow(out), (QStringList{u"MP3"_s, u"MP3/plain tone.mp3"_s}));
+    QCOMPARE(filesBelow(out, true), (QStringList{u"MP3"_s, u"MP3/plain tone.mp3"_s}));
 
     // An output folder that cannot be made (a regular file stands there): no child starts, and
     // the folder is named with the reason.
@@ -350,10 +339,10 @@ void TestCli::unreadableFoldersAndBadNamesFailTheRun() {
 void TestCli::dryRunCreatesNothing() {
     const QString out = fresh(u"dry"_s);
     QVERIFY(SonoriaTest::writeFile(out + u"/MP3/plain tone.mp3"_s, {}));
-    const QStringList before = filesBelow(m_work.path());
+    const QStringList before = filesBelow(m_work.path(), true);
     const CliResult result = runCli({"--dry-run", "-o", out, m_sources});
     QCOMPARE(result.exitCode, 0);
-    QCOMPARE(filesBelow(m_work.path()), before);
+    QCOMPARE(filesBelow(m_work.path(), true), before);
     const QStringList shown = lines(result.out);
     QCOMPARE(shown.size(), kSources.size() + 1);
     // The name a file would get now, next to the one that is taken.

@@ -23,10 +23,6 @@ private:
     QProcessEnvironment environment() const;
     QString fresh(const QString& name) const { return m_work.path() + u'/' + name; }
     QString source(const QString& name) const { return fresh(name); }
-    static QStringList filesBelow(const QString& dir) {
-        return QDir(dir).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                                   QDir::Name);
-    }
 
     QTemporaryDir m_work;
     QTemporaryDir m_config;
@@ -106,7 +102,7 @@ void TestCliInterrupt::closedOutputPipeDoesNotStopTheRun() {
     QCOMPARE(process.readAllStandardOutput(), QByteArray("d")); // of "done: "
     QCOMPARE(process.exitCode(), 0);
     // Every file whole: as long as its source.
-    QCOMPARE(filesBelow(out),
+    QCOMPARE(SonoriaTest::filesBelow(out, true),
              (QStringList{u"long.mp3"_s, u"plain tone.mp3"_s, u"second tone.mp3"_s}));
     const QList<std::pair<QString, double>> durations{
         {u"long.mp3"_s, 60.0}, {u"plain tone.mp3"_s, 1.0}, {u"second tone.mp3"_s, 2.0}};

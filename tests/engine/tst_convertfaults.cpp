@@ -63,10 +63,6 @@ private:
     void (*m_handler)(int) = nullptr;
 };
 
-QStringList visibleAndHidden(const QString& folder) {
-    return QDir(folder).entryList(QDir::Files | QDir::Hidden | QDir::System, QDir::Name);
-}
-
 } // namespace
 
 class ConvertFaultsTest : public QObject {
@@ -156,7 +152,7 @@ private Q_SLOTS:
         QVERIFY2(
             said.contains(QRegularExpression(reason, QRegularExpression::CaseInsensitiveOption)),
             qPrintable(said));
-        QCOMPARE(visibleAndHidden(folder), QStringList());
+        QCOMPARE(entries(folder), QStringList());
         QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
         QCOMPARE(recorder.count(u"finish"_s), 1);
     }
@@ -177,7 +173,7 @@ private Q_SLOTS:
         bool sawTemporary = false;
         QSet<qint64> finalSizes; // every size the final name was seen with
         while (queue.operationCount() > 0) {
-            for (const QString& name : visibleAndHidden(folder)) {
+            for (const QString& name : entries(folder)) {
                 if (ConvertOutputFile::isTemporaryName(name))
                     sawTemporary = true;
                 else
@@ -188,7 +184,7 @@ private Q_SLOTS:
         queue.waitUntilAllOperationsAreFinished();
         QVERIFY(sawTemporary);
         QCOMPARE(stateOf(item), int(CvtStateFinished));
-        QCOMPARE(visibleAndHidden(folder), QStringList{u"long.flac"_s});
+        QCOMPARE(entries(folder), QStringList{u"long.flac"_s});
         // A rename shows the whole file at once: never a smaller one under the final name.
         QVERIFY(finalSizes.size() <= 1);
         for (const qint64 size : std::as_const(finalSizes))
@@ -221,7 +217,7 @@ private Q_SLOTS:
         QCOMPARE(stateOf(item), int(CvtStateFailed));
         QVERIFY2(item->mediaInfo()->failReason().contains(u"signal 9"_s),
                  qPrintable(item->mediaInfo()->failReason()));
-        QCOMPARE(visibleAndHidden(folder), QStringList());
+        QCOMPARE(entries(folder), QStringList());
     }
 
     // A killed run's temporary file is removed by the next run into that folder; one whose
@@ -243,7 +239,7 @@ private Q_SLOTS:
         alive.waitForFinished();
         QStringList expected{own, live, u".sonoria-partly.mp3"_s, u"song.mp3"_s};
         expected.sort();
-        QCOMPARE(visibleAndHidden(dir.path()), expected);
+        QCOMPARE(entries(dir.path()), expected);
     }
 };
 

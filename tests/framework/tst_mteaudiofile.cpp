@@ -10,12 +10,10 @@
 #include <taglib/fileref.h>
 #include <taglib/flacfile.h>
 #include <taglib/id3v2tag.h>
-#include <taglib/infotag.h>
 #include <taglib/mpegfile.h>
 #include <taglib/textidentificationframe.h>
 #include <taglib/tpropertymap.h>
 #include <taglib/unsynchronizedlyricsframe.h>
-#include <taglib/wavfile.h>
 #include <taglib/xiphcomment.h>
 
 // Tag handles of every kind a conversion can produce: written, read back through fresh handles
@@ -297,59 +295,6 @@ private Q_SLOTS:
         QCOMPARE(open(file)->lyric(), QStringLiteral("edited"));
         QVERIFY(!MTEAudioFile::decodeWithCoder(SXCoder(false)) &&
                 !MTEAudioFile::decodeWithCoder(SXCoder()));
-    }
-
-    // The tag copy into the kinds the conversion matrix leaves out: what ffmpeg wrote goes, the
-    // record and the other well-known fields arrive once each, a private field stays behind.
-    void tagCopyReplacesWhatTheOutputCarried_data() {
-        QTest::addColumn<QString>("extension");
-        QTest::addColumn<QStringList>("encoding");
-        QTest::newRow("wav") << "wav" << QStringList{"-c:a", "pcm_s16le"};
-        QTest::newRow("aiff") << "aiff" << QStringList{"-c:a", "pcm_s16be", "-write_id3v2", "1"};
-        QTest::newRow("wma") << "wma" << QStringList{"-c:a", "wmav2"};
-        QTest::newRow("wv") << "wv" << QStringList{"-c:a", "wavpack"};
-    }
-    void tagCopyReplacesWhatTheOutputCarried() {
-        QFETCH(QString, extension);
-        QFETCH(QStringList, encoding);
-        const QString source = makeTagged(QStringLiteral("copy-source.flac"));
-        {
-            TagLib::FLAC::File flac(QFile::encodeName(source).constData());
-            flac.xiphComment()->addField("DISCNUMBER", "1/2");
-            flac.xiphComment()->addField("REPLAYGAIN_TRACK_GAIN", "-6.50 dB");
-            flac.xiphComment()->addField("PRIVATEFIELD", "stays behind");
-            QVERIFY(flac.save());
-        }
-        const QString output = path(QStringLiteral("copied.") + extension);
-        const QStringList stale{"-metadata",   "title=stale", "-metadata",
-                                "album=stale", "-metadata",   "private=stale"};
-        QVERIFY(SonoriaTest::makeTone(output, 1.0, encoding + stale));
-        QVERIFY(MTETagCopy::copy(open(source).get(), *open(output, false), output));
-
-        // Every value, the names of what the map leaves out (other programs' fields) and, in
-        // WAV files, the RIFF INFO list beside the ID3v2 chunk.
-        const TagLib::FileRef ref(QFile::encodeName(output).constData());
-        const TagLib::PropertyMap properties = ref.file()->properties();
-        QStringList values;
-        for (const auto& [name, list] : properties) {
-            for (const TagLib::String& value : list)
-                values.append(QString::fromStdString(value.to8Bit(true)));
-        }
-        for (const TagLib::String& name : properties.unsupportedData())
-            values.append(QString::fromStdString(name.to8Bit(true)).toLower());
-        if (auto* wav = dynamic_cast<TagLib::RIFF::WAV::File*>(ref.file())) {
-            for (const auto& [id, text] : wav->InfoTag()->fieldListMap())
-                values.append(QString::fromStdString(text.to8Bit(true)));
-        }
-        for (const Field& field : kFields)
-            QVERIFY2(values.count(field.value) == 1, field.name);
-        for (const char* stray : {"stale", "stays behind", "private", "privatefield"})
-            QVERIFY2(!values.contains(stray), qPrintable(values.join(" | ")));
-        QCOMPARE(properties["DISCNUMBER"], TagLib::StringList("1/2"));
-        // ASF has no attribute of its own for ReplayGain.
-        QVERIFY(properties["REPLAYGAIN_TRACK_GAIN"] == TagLib::StringList("-6.50 dB") ||
-                properties.unsupportedData().contains("replaygain_track_gain"));
-        QCOMPARE(open(output)->albumImg(), extension == "wv" ? m_covers.mid(0, 1) : m_covers);
     }
 
     // A value with a NUL inside ("before\0after") keeps what follows the NUL, as a space, in

@@ -4,6 +4,7 @@
 
 #include <QCryptographicHash>
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
@@ -25,6 +26,17 @@ void prepareEnvironment() {
             qFatal("no temporary home could be made");
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+QStringList filesBelow(const QString& folder, bool withFolders) {
+    QStringList entries;
+    const QDir::Filters filters = QDir::Files | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot |
+                                  (withFolders ? QDir::Dirs : QDir::Filters());
+    QDirIterator it(folder, filters, QDirIterator::Subdirectories);
+    while (it.hasNext())
+        entries.append(QDir(folder).relativeFilePath(it.next()));
+    entries.sort();
+    return entries;
 }
 
 const TemporaryHome& temporaryHome() {

@@ -40,6 +40,9 @@ QString writeScript(const QString& dir, const QString& name, const QString& body
 bool writeFile(const QString& path, const QByteArray& bytes);
 // Cuts a FLAC file right after its metadata blocks: a header that promises audio and has none.
 bool cutFlacAfterMetadata(const QString& path);
+// Every file below `folder` (with `withFolders` the folders too), hidden ones included, relative
+// to it and sorted: what a run left on disk, or what must be as it was before.
+QStringList filesBelow(const QString& folder, bool withFolders = false);
 // A file's bytes, "" when it cannot be read.
 QByteArray readFile(const QString& path);
 

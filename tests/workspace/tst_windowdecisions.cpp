@@ -12,7 +12,6 @@
 
 #include "WorkspaceTestPresenter.h"
 
-#include <QDirIterator>
 #include <QLocale>
 #include <QSettings>
 
@@ -77,17 +76,6 @@ CommandAnswers answersFor(const SXCommandContext& context) {
     }
     answers.enabled.sort();
     return answers;
-}
-
-// Every file and folder below `folder`, hidden ones too: what a test must not have created.
-QStringList entriesBelow(const QString& folder) {
-    QStringList entries;
-    QDirIterator it(folder, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext())
-        entries.append(it.next());
-    entries.sort();
-    return entries;
 }
 
 SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
@@ -419,7 +407,7 @@ void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
     }
     if (exists)
         QVERIFY(QDir().mkpath(folder));
-    const QStringList before = entriesBelow(home.processHome());
+    const QStringList before = SonoriaTest::filesBelow(home.processHome(), true);
 
     WorkspaceTestPresenter presenter;
     SXWorkspace workspace;
@@ -437,7 +425,7 @@ void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
     workspace.scheduler().toggleRun();
     QCOMPARE(presenter.folderRequests.size(), 1);
     QCOMPARE(presenter.folderRequests.first().startFolder, base);
-    QCOMPARE(entriesBelow(home.processHome()), before);
+    QCOMPARE(SonoriaTest::filesBelow(home.processHome(), true), before);
 }
 
 SONORIA_TEST_MAIN(TestWindowDecisions)

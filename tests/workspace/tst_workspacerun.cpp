@@ -43,7 +43,6 @@ private Q_SLOTS:
     void startGivesEachContainersChoicesAndFolderToItsFiles();
     void overrideAndUnorganisedFolderAndRequeue();
     void summaryOfSuccessesAndFailures();
-    void summaryTexts();
     void emptyRunEndsAtTheFirstRefresh();
     void totalProgressWeights();
     void rightClickCancelsItsOwnRowThenStopEndsTheRun();
@@ -107,8 +106,6 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     aac->setBiteRate(u"Use Source"_s);
     aac->setSampleRate(u"Use Source"_s);
     aac->setChannels(u"Stereo"_s);
-    QCOMPARE(workspace.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(),
-             u"Use Source"_s);
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
     QVERIFY(addFiles(workspace, u"AAC"_s, {source(u"m44.flac"_s)}));
     QVERIFY(addFiles(workspace, u"FLAC"_s, {source(u"s48.wav"_s)}));
@@ -116,14 +113,11 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     const QString own = freshFolder(u"own AAC"_s);
     QVERIFY(workspace.tabs().selectContainer(u"AAC"_s));
     SXSettingPanelActions::setOutputFolder(workspace.store(), own);
-    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), own);
 
     const QString folder = freshFolder(u"start"_s);
     m_presenter.folderAnswer = SXOutputFolderChoice{folder, true, true};
-    LogCapture log;
     QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
     QSignalSpy totals(&workspace.scheduler(), &SXWorkspaceScheduler::totalProgressChanged);
-    QSignalSpy redraws(&workspace.scheduler(), &SXWorkspaceScheduler::rowsRedrawRequested);
     QSignalSpy itemsDone(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
     workspace.scheduler().toggleRun();
     QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
@@ -138,7 +132,6 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     QCOMPARE(request.startFolder, SXFileLocalManager::getDefaultUpperOutputDir());
     QVERIFY(request.organizeByFormat && !request.openWhenDone);
     QCOMPARE(request.message, u"Please choose output folder:"_s);
-    QVERIFY(log.contains(u"thepath = "_s + request.startFolder));
     QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), folder);
     QVERIFY(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false));
 
@@ -149,7 +142,6 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     QCOMPARE(m_presenter.openedFolders, QStringList{folder});
     QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     QCOMPARE(totals.first().first().toDouble(), 0.0);
-    QVERIFY(redraws.count() > 0);
     QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 1.0);
 
     // Organised by format, except the container with a folder of its own.
@@ -166,8 +158,8 @@ void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     // Numbers, "Use Source", "Stereo" and "Lossless", as the files on disk have them (the
     // mono 44.1 kHz source in AAC, the stereo 48 kHz one in MP3 and FLAC).
     const ProbeReference m1 = ProbeReference::read(folder + u"/MP3/s48.mp3"_s);
-    QVERIFY(m1.ok && m1.sampleRate == 22050 && m1.channels == 1 && m1.bitRate == 128000);
-    QCOMPARE(m1.codecName, u"mp3"_s);
+    QVERIFY(m1.ok && m1.sampleRate == 22050 && m1.channels == 1 && m1.bitRate == 128000 &&
+            m1.codecName == "mp3"_L1);
     const ProbeReference m2 = ProbeReference::read(own + u"/m44.m4a"_s);
     QVERIFY(m2.ok && m2.sampleRate == 44100 && m2.channels == 2);
     const ProbeReference m3 = ProbeReference::read(folder + u"/FLAC/s48.flac"_s);
@@ -241,26 +233,17 @@ void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
     const QString expected = u"2 files has been successfully converted."
                              "except 1 files failed,including: \ns48: "_s +
                              reason;
-    QCOMPARE(summary.at(0).toString(), expected);
-    QCOMPARE(m_presenter.alerts.last().details, source(u"s48.wav"_s) + u": "_s + reason);
-    QCOMPARE(summary.at(1).toInt(), 2);
-    QCOMPARE(summary.at(2).toInt(), 1);
+    QCOMPARE(summary, (QList<QVariant>{expected, 2, 1}));
     QCOMPARE(m_presenter.alerts.last().messageText, expected);
+    QCOMPARE(m_presenter.alerts.last().details, source(u"s48.wav"_s) + u": "_s + reason);
     QCOMPARE(workspace.store().getDataForFormat(u"AAC"_s).first()->dConvertProgress(),
              SXProgress::Failed);
     // The failed item stays in its container.
     QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 3);
-}
 
-void TestWorkspaceRun::summaryTexts() {
-    QCOMPARE(SXWorkspaceScheduler::summaryMessage(0, {}),
-             u"0 files has been successfully converted."_s);
     SXPathFailureList failures;
     for (const QString& name : {u"a"_s, u"b"_s, u"c"_s, u"d"_s, u"e"_s})
         failures.append({u"/music/"_s + name + u".flac"_s, u"reason "_s + name});
-    QCOMPARE(SXWorkspaceScheduler::summaryMessage(4, failures.mid(0, 3)),
-             u"4 files has been successfully converted."
-             "except 3 files failed,including: \na: reason a \nb: reason b \nc: reason c"_s);
     // The message stops after three; the alert's details hold them all.
     QCOMPARE(SXWorkspaceScheduler::summaryMessage(0, failures),
              u"0 files has been successfully converted."
@@ -324,7 +307,7 @@ void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     QVERIFY(addFiles(workspace, u"MP3"_s, longSources));
     const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
     const SXMusicInfoPtr outsider = makeWorkspaceItem(u"/nowhere/else.wav"_s, u"MP3"_s);
-    QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider));
+    QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider)); // no queue yet
     workspace.scheduler().setMaxConcurrentOverride(1);
     QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
     workspace.scheduler().doRealConverterTask(freshFolder(u"cancelled"_s));
@@ -415,7 +398,6 @@ void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
     QVERIFY(addFiles(workspace, u"MP3"_s,
                      {source(u"s48.wav"_s), source(u"mid.flac"_s), source(u"m44.flac"_s)}));
     const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
-    QCOMPARE(fileNames(items), (QStringList{u"s48.wav"_s, u"mid.flac"_s, u"m44.flac"_s}));
     workspace.store().setSelectedRows({0, 1, 2});
     workspace.scheduler().setMaxConcurrentOverride(1);
     const QString folder = freshFolder(u"kept"_s);

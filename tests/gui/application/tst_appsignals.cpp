@@ -2,27 +2,12 @@
 #include "support/TestSupport.h"
 
 #include <QDir>
-#include <QDirIterator>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>
 #include <csignal>
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-// Every file below `folder` (folders themselves do not count: Start makes the format's folder
-// before the first conversion, and Stop leaves it).
-QStringList filesBelow(const QString& folder) {
-    QStringList files;
-    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        files.append(it.next());
-    return files;
-}
-
-} // namespace
 
 // The real `sonoria` program, converting, is sent a termination signal: it does what Stop does
 // in its window and ends, leaving neither a child nor a partial file.
@@ -86,7 +71,7 @@ void TestAppSignals::signalStopsTheRunAndEndsTheProgram() {
 
     // Converting: both ffmpeg children run and have their output files.
     QTRY_COMPARE_WITH_TIMEOUT(SonoriaTest::childProcesses(program.processId()).size(), 2, 60000);
-    QTRY_COMPARE_WITH_TIMEOUT(filesBelow(out).size(), 2, 10000);
+    QTRY_COMPARE_WITH_TIMEOUT(SonoriaTest::filesBelow(out).size(), 2, 10000);
     const QList<qint64> children = SonoriaTest::childProcesses(program.processId());
 
     ::kill(static_cast<pid_t>(program.processId()), signalNumber);
@@ -96,7 +81,7 @@ void TestAppSignals::signalStopsTheRunAndEndsTheProgram() {
     for (const qint64 child : children)
         QVERIFY(!SonoriaTest::processIsAlive(child));
     QCOMPARE(SonoriaTest::processesMentioning(out), QList<qint64>());
-    QCOMPARE(filesBelow(out), QStringList());
+    QCOMPARE(SonoriaTest::filesBelow(out), QStringList());
 }
 
 SONORIA_TEST_MAIN(TestAppSignals)

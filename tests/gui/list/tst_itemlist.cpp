@@ -5,7 +5,6 @@
 #include "gui/dialogs/SXLoadingSheet.h"
 #include "gui/panels/SXHelpView.h"
 #include "gui/window/SXContainerTabBar.h"
-#include "gui/window/SXWindowPresenter.h"
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
@@ -19,16 +18,15 @@
 using namespace Qt::StringLiterals;
 using namespace ItemListTest;
 
-// Adding files to the list (drops of files and folders, the add dialog, the loading sheet and
-// its alerts) and moving rows by drag and drop within a list, onto tabs and between windows.
+// What the list widgets add to the core's list decisions (tested in tests/workspace): real drops
+// of files and rows reaching the core from the list, the tabs and other windows, the add dialog,
+// the loading sheet, alerts shown as message boxes, and rows read aloud.
 class TestItemList : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void droppedFilesAndFoldersBecomeRows();
-    void failedFilesAreNamedInOneAlert_data();
-    void failedFilesAreNamedInOneAlert();
+    void droppedFilesBecomeRowsReadAloud();
     void addDialogTakesFilesAndFoldersTogether();
     void loadingSheetShowsProgressAndCancels();
     void rowsMoveWithinTheListOntoTabsAndIntoOtherWindows();
@@ -38,24 +36,15 @@ private:
     QString path(const QString& name) const { return m_media.filePath(name); }
     static int tabCount(SXMainAppController* window, const QString& label);
 
-    QTemporaryDir m_home;
     QTemporaryDir m_media;
 };
 
 void TestItemList::initTestCase() {
-    // Everything that follows a home lands in a folder of this test.
-    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME", "XDG_MUSIC_DIR"})
-        qputenv(name, QFile::encodeName(m_home.filePath(QString::fromLatin1(name))));
     QVERIFY(QDir(m_media.path()).mkpath(u"folder/sub"_s));
     QVERIFY(QDir(m_media.path()).mkpath(u"many"_s));
     QVERIFY(SonoriaTest::makeTone(path(u"a.mp3"_s), 1, {u"-metadata"_s, u"artist=Ann"_s}));
-    for (const QString& name :
-         {u"b.wav"_s, u"c.flac"_s, u"folder/d.ogg"_s, u"folder/sub/e.vob"_s, u"f.VOB"_s})
+    for (const QString& name : {u"b.wav"_s, u"c.flac"_s, u"folder/d.ogg"_s, u"folder/sub/e.vob"_s})
         QVERIFY(SonoriaTest::makeTone(path(name), 1));
-    QVERIFY(SonoriaTest::writeFile(path(u"folder/notes.txt"_s), "not media\n"));
-    for (int i = 1; i <= 12; ++i)
-        QVERIFY(SonoriaTest::writeFile(path(u"bad/bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'))),
-                                       "no audio\n"));
     // A batch long enough to be cancelled while it loads.
     for (int i = 0; i < 2000; ++i)
         QVERIFY(
@@ -72,23 +61,23 @@ int TestItemList::tabCount(SXMainAppController* window, const QString& label) {
     return name.section(u", "_s, 1).section(u' ', 0, 0).toInt();
 }
 
-void TestItemList::droppedFilesAndFoldersBecomeRows() {
+void TestItemList::droppedFilesBecomeRowsReadAloud() {
     const auto window = openWindow();
     QVERIFY(window);
     SXItemListView* view = listOf(window.get());
     QAbstractItemModelTester tester(view->model(),
                                     QAbstractItemModelTester::FailureReportingMode::QtTest);
 
-    // A file, a folder (scanned for accepted extensions, "vob" included), a "vob" file named on
-    // its own (ignored while the preference is off) and a remote address (refused aloud).
+    // A file, a folder and a remote address: the core's refusal reaches the user as a
+    // window-modal message box.
     QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
     const std::unique_ptr<QMimeData> data(
-        uriList(localUrls({path(u"a.mp3"_s), path(u"folder"_s), path(u"f.VOB"_s)}) +
+        uriList(localUrls({path(u"a.mp3"_s), path(u"folder"_s)}) +
                 QList<QUrl>{QUrl(u"https://example.org/x.mp3"_s)}));
     QVERIFY(dragAndDrop(view->viewport(), QPoint(10, 10), data.get()));
     auto* refusal = SonoriaGuiTest::openDialog<QMessageBox>(window.get());
     QVERIFY(refusal);
-    QVERIFY(refusal->text().contains(u"not files on this computer"_s));
+    QCOMPARE(refusal->windowModality(), Qt::WindowModal);
     QCOMPARE(refusal->informativeText(), u"https://example.org/x.mp3\n"_s);
     QVERIFY(SonoriaGuiTest::clickMessageButton(refusal, u"OK"_s));
     QVERIFY(finished.count() > 0 || finished.wait(60000));
@@ -103,14 +92,11 @@ void TestItemList::droppedFilesAndFoldersBecomeRows() {
     for (int i = 0; i < list->childCount(); ++i)
         spoken.append(list->child(i)->text(QAccessible::Name));
     QCOMPARE(spoken, rowNames(view));
-    QCOMPARE(window->workspace().store().selectedRows(), QList<int>{0});
     QCOMPARE(tabCount(window.get(), u"MP3"_s), 3);
     auto* help = window->findChild<SXHelpView*>();
     QVERIFY(help->tipsStr().startsWith(u"3 files"_s));
 
-    // The same file again keeps one row; a file dropped anywhere else in the window is added.
-    QVERIFY(dropFilesOnList(window.get(), {path(u"a.mp3"_s)}));
-    QCOMPARE(view->model()->rowCount(), 3);
+    // A file dropped anywhere else in the window is added too.
     finished.clear();
     const std::unique_ptr<QMimeData> more(uriList(localUrls({path(u"b.wav"_s)})));
     const QPoint onHelpBar = help->mapTo(window.get(), help->rect().center());
@@ -120,33 +106,6 @@ void TestItemList::droppedFilesAndFoldersBecomeRows() {
     QCOMPARE(view->model()->rowCount(), 4);
     QCOMPARE(tabCount(window.get(), u"MP3"_s), 4);
     QVERIFY(help->tipsStr().startsWith(u"4 files"_s));
-}
-
-void TestItemList::failedFilesAreNamedInOneAlert_data() {
-    QTest::addColumn<int>("failures");
-    QTest::newRow("11 files") << 11;
-    QTest::newRow("12 files") << 12;
-}
-
-void TestItemList::failedFilesAreNamedInOneAlert() {
-    QFETCH(int, failures);
-    const auto window = openWindow();
-    QVERIFY(window);
-    QStringList paths{path(u"c.flac"_s)};
-    QStringList expected;
-    for (int i = 1; i <= failures; ++i) {
-        paths.append(path(u"bad/bad%1.mp3"_s.arg(i, 2, 10, QLatin1Char('0'))));
-        if (i <= 11)
-            expected.append(QFileInfo(paths.last()).fileName());
-    }
-    QVERIFY(dropFilesOnList(window.get(), paths));
-    auto* alert = SonoriaGuiTest::openDialog<QMessageBox>(window.get());
-    QVERIFY(alert);
-    QCOMPARE(alert->text(), u"Following file(s) load failed!"_s);
-    QCOMPARE(alert->informativeText(), expected.join(u'\n') + u"\n..."_s);
-    QVERIFY(SonoriaGuiTest::clickMessageButton(alert, u"OK"_s));
-    QCOMPARE(rowNames(listOf(window.get())), QStringList{u"c.flac"_s});
-    QCOMPARE(window->workspace().store().enumAppState(), int(AppStateIdle));
 }
 
 void TestItemList::addDialogTakesFilesAndFoldersTogether() {
@@ -199,8 +158,6 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
     QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
     QCOMPARE(sheet->windowModality(), Qt::WindowModal);
     QCOMPARE(workspace.store().currentTabItemCount(), 0);
-    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
-    QVERIFY(!SonoriaGuiTest::openDialog<QMessageBox>(window.get()));
 }
 
 void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
@@ -223,17 +180,13 @@ void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
     QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"a.mp3"_s, u"b.wav"_s}));
     QCOMPARE(first->workspace().store().selectedRows(), (QList<int>{1, 2}));
 
-    // Onto another container's tab: appended there, waiting, and gone from the source
-    // container of every window.
+    // Onto the tab under the pointer; the other window's list redraws without the row.
     rows = dragRows(view, {1});
     const QRect aac =
         first->tabBar().tabRect(int(first->workspace().store().tabLabels().indexOf(u"AAC"_s)));
     QVERIFY(dragAndDrop(&first->tabBar(), aac.center(), rows.get()));
     QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"b.wav"_s}));
-    const SXMusicInfoList moved = first->workspace().store().getDataForFormat(u"AAC"_s);
-    QCOMPARE(moved.size(), 1);
-    QCOMPARE(moved.first()->getStrMusicType(), u"AAC"_s);
-    QCOMPARE(moved.first()->dConvertProgress(), SXProgress::Waiting);
+    QCOMPARE(first->workspace().store().getDataForFormat(u"AAC"_s).size(), 1);
     QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
     QCOMPARE(tabCount(first.get(), u"MP3"_s), 2);
     QCOMPARE(tabCount(first.get(), u"AAC"_s), 1);
@@ -248,7 +201,6 @@ void TestItemList::rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
     QVERIFY(dragAndDrop(other->viewport(), pointBeforeRow(other, 0), rows.get()));
     QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
     QCOMPARE(rowNames(view), QStringList{u"c.flac"_s});
-    QVERIFY(second->workspace().store().getDataForFormat(u"MP3"_s).isEmpty());
     QCOMPARE(tabCount(second.get(), u"AAC"_s), 1);
     QCOMPARE(tabCount(second.get(), u"MP3"_s), 0);
     QVERIFY(first->findChild<SXHelpView*>()->tipsStr().startsWith(u"2 files"_s));
@@ -269,30 +221,6 @@ void TestItemList::dropsAreRefusedDuringARun() {
     QVERIFY(!dragAndDrop(window.get(), QPoint(5, 5), files.get()));
     const QRect aac = window->tabBar().tabRect(1);
     QVERIFY(!dragAndDrop(&window->tabBar(), aac.center(), rows.get()));
-    // The list's own keys remove nothing either.
-    QSignalSpy beeps(&window->presenter(), &SXWindowPresenter::beeped);
-    window->workspace().store().setSelectedRows({0, 1});
-    view->setFocus();
-    QTest::keyClick(view, Qt::Key_Delete);
-    QTest::keyClick(view, Qt::Key_Backspace);
-    QCOMPARE(beeps.count(), 2);
-    QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
-    QVERIFY(window->workspace()
-                .store()
-                .getDataForFormat(window->workspace().store().tabLabels().at(1))
-                .isEmpty());
-
-    // A move in another window takes the file out of every container of its name, but not out
-    // of a window whose items are converting.
-    const auto other = openWindow();
-    QVERIFY(other);
-    QVERIFY(dropFilesOnList(other.get(), {path(u"a.mp3"_s)}));
-    const std::unique_ptr<QMimeData> moved = dragRows(listOf(other.get()), {0});
-    const QRect otherAac =
-        other->tabBar().tabRect(int(other->workspace().store().tabLabels().indexOf(u"AAC"_s)));
-    QVERIFY(dragAndDrop(&other->tabBar(), otherAac.center(), moved.get()));
-    QCOMPARE(other->workspace().store().getDataForFormat(u"AAC"_s).size(), 1);
-    QVERIFY(other->workspace().store().getDataForFormat(u"MP3"_s).isEmpty());
     QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
     window->workspace().store().setAppState(AppStateIdle);
 }

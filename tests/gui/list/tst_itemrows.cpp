@@ -64,7 +64,6 @@ private:
     bool blank(const QRect& rect) const;
     void refill();
 
-    QTemporaryDir m_home;
     QTemporaryDir m_media;
     QTemporaryDir m_output;
     QStringList m_files;
@@ -73,8 +72,6 @@ private:
 };
 
 void TestItemRows::initTestCase() {
-    for (const char* name : {"HOME", "XDG_DATA_HOME", "XDG_CACHE_HOME"})
-        qputenv(name, QFile::encodeName(m_home.filePath(QString::fromLatin1(name))));
     const QString first = m_media.filePath(u"Morning Song.mp3"_s);
     QVERIFY(SonoriaTest::makeTone(first, 20, {u"-metadata"_s, u"artist=Ann Artist"_s}));
     m_files.append(first);

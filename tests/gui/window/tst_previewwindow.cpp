@@ -8,6 +8,7 @@
 #include "gui/panels/SXItemStateView.h"
 #include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowToolbar.h"
+#include "workspace/SXFileInfoText.h"
 #include "workspace/SXMetadataEditing.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/WorkspaceTestPresenter.h"
@@ -111,14 +112,10 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
     QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
 
-    workspace.store().setSelectedRows({1}); // it follows the selection
-    const QList<QPair<QString, QString>> fallbacks{
-        {u"tfInfoAlbum"_s, u"Unknow"_s},        {u"tfInfoArtist"_s, u"Unknow"_s},
-        {u"tfInfoChannels"_s, u"5.1"_s},        {u"tfInfoChannelsMod"_s, u"6"_s},
-        {u"tfInfoFileSize"_s, u"3.0 MB"_s},     {u"tfInfoTitle"_s, u"surround"_s},
-        {u"tfInfoKind"_s, u"FLAC audio file"_s}};
-    for (const auto& [label, text] : fallbacks)
-        QCOMPARE(panel->labelText(label), text);
+    // It follows the selection, with the core's texts for the row (tst_fileinfotext).
+    workspace.store().setSelectedRows({1});
+    for (const SXFileInfoLine& line : SXFileInfoText::linesForItem(*rows.at(1)))
+        QCOMPARE(panel->labelText(line.labelName), line.text);
     QVERIFY(panel->findChild<QLabel*>(u"ivInfoArtwork"_s)->pixmap().isNull());
 
     workspace.store().setAppState(AppStateConverting); // its toolbar item is disabled: it closes

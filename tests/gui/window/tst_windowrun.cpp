@@ -15,7 +15,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDialogButtonBox>
-#include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -67,7 +66,6 @@ private Q_SLOTS:
     void cleanup();
     void runFromStartToTheSummary();
     void stopCancelsEveryItemAndLeavesNoFile();
-    void nothingLeavesTheListDuringARun();
     void closingDuringARunCancelsItAndLeavesNoFile();
 
 private:
@@ -75,7 +73,6 @@ private:
     void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
     // Presses Start and answers the folder sheet with `folder`, organised by format.
     void startInto(const QString& folder, bool byEnterOnTheList = false);
-    static QStringList filesUnder(const QString& folder);
     QAction* startAction() const;
 
     SonoriaTest::PrivateSessionBus m_bus;
@@ -157,15 +154,6 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
 }
 
-QStringList TestWindowRun::filesUnder(const QString& folder) {
-    QStringList files;
-    QDirIterator it(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext())
-        files.append(QDir(folder).relativeFilePath(it.next()));
-    files.sort();
-    return files;
-}
-
 void TestWindowRun::runFromStartToTheSummary() {
     addSources({QStringLiteral("one.wav"), QStringLiteral("two.wav"), QStringLiteral("gone.wav")},
                2.0);
@@ -203,7 +191,7 @@ void TestWindowRun::runFromStartToTheSummary() {
     QCOMPARE(startAction()->text(), QStringLiteral("Start"));
     QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
 
-    QCOMPARE(filesUnder(m_output->path()),
+    QCOMPARE(SonoriaTest::filesBelow(m_output->path()),
              (QStringList{QStringLiteral("MP3/one.mp3"), QStringLiteral("MP3/two.mp3")}));
     QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), m_output->path());
 
@@ -235,64 +223,48 @@ void TestWindowRun::runFromStartToTheSummary() {
              QStringLiteral("app.sonoria.Sonoria"));
 }
 
+// Stop during a run: the rows stay, nothing leaves the list while the children run, and no
+// file is left behind.
 void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
     // Long enough that Stop comes while the first conversions run and the last still wait.
     const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
                             QStringLiteral("c.wav"), QStringLiteral("d.wav")};
     addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
-    startInto(m_output->path(), true);
-    QTRY_VERIFY_WITH_TIMEOUT(!filesUnder(m_output->path()).isEmpty(), 20000);
-    // Enter is Start only: during a run it beeps and the run goes on.
-    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
-    QTest::keyClick(m_window->findChild<SXItemListView*>(), Qt::Key_Enter);
-    QCOMPARE(beeps.count(), 1);
-    QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
-    startAction()->trigger(); // it reads Stop now
-    for (const SXMusicInfoPtr& item : m_window->workspace().store().getCurTableDatasource())
-        QCOMPARE(item->dConvertProgress(), -3.0);
-
-    QMessageBox* summary = nullptr;
-    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
-    QCOMPARE(summary->text(), QStringLiteral("0 files has been successfully converted."));
-    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(filesUnder(m_output->path()), QStringList());
-    QVERIFY(m_window->tabBar().addButton()->isVisible());
-}
-
-void TestWindowRun::nothingLeavesTheListDuringARun() {
-    addSources({QStringLiteral("a.wav"), QStringLiteral("b.wav")}, 240.0,
-               {QStringLiteral("-ar"), QStringLiteral("22050")});
     SXWorkspace& ws = m_window->workspace();
     auto* list = m_window->findChild<SXItemListView*>();
     auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
     auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
     ws.store().setSelectedRows({0, 1});
-    startInto(m_output->path());
+    startInto(m_output->path(), true);
+    QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
     QVERIFY(!remove->isEnabled() && !clear->isEnabled());
 
-    // The keys reach the workspace, which refuses aloud; the greyed buttons take no click.
+    // Enter is Start only, and the removing keys reach the workspace: during a run each beeps
+    // and the run goes on; the greyed buttons take no click.
     QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
     list->setFocus();
-    QTest::keyClick(list, Qt::Key_Delete);
-    QTest::keyClick(list, Qt::Key_Backspace);
-    QCOMPARE(beeps.count(), 2);
+    for (Qt::Key key : {Qt::Key_Enter, Qt::Key_Delete, Qt::Key_Backspace})
+        QTest::keyClick(list, key);
+    QCOMPARE(beeps.count(), 3);
     QTest::mouseClick(remove, Qt::LeftButton);
     QTest::mouseClick(clear, Qt::LeftButton);
-    QCOMPARE(list->model()->rowCount(), 2);
-    QCOMPARE(ws.store().currentTabItemCount(), 2);
-    QCOMPARE(ws.scheduler().queueConvertTask()->operationCount(), 2);
+    QCOMPARE(list->model()->rowCount(), 4);
+    QCOMPARE(ws.store().enumAppState(), int(AppStateConverting));
+    startAction()->trigger(); // it reads Stop now
+    for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
+        QCOMPARE(item->dConvertProgress(), -3.0);
 
-    // Stop still reaches both children, and the summary comes with both rows in place.
-    startAction()->trigger();
+    // The summary comes with every row in place; every child was reached.
     QMessageBox* summary = nullptr;
     QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
-    QCOMPARE(list->model()->rowCount(), 2);
+    QCOMPARE(summary->text(), QStringLiteral("0 files has been successfully converted."));
+    QCOMPARE(list->model()->rowCount(), 4);
     for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
         QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
     QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
     QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
+    QVERIFY(m_window->tabBar().addButton()->isVisible());
     QVERIFY(remove->isEnabled() && clear->isEnabled());
     QTest::mouseClick(clear, Qt::LeftButton);
     QCOMPARE(list->model()->rowCount(), 0);
@@ -302,7 +274,7 @@ void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
     addSources({QStringLiteral("long.wav"), QStringLiteral("longer.wav")}, 240.0,
                {QStringLiteral("-ar"), QStringLiteral("22050")});
     startInto(m_output->path());
-    QTRY_VERIFY_WITH_TIMEOUT(!filesUnder(m_output->path()).isEmpty(), 20000);
+    QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
 
     m_window->close();
     QMessageBox* question = openDialog<QMessageBox>(m_window.get());
@@ -312,7 +284,7 @@ void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
     QTRY_VERIFY(!m_window->isVisible());
     // The children were waited for: nothing half-written is left, and no summary follows.
     QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(filesUnder(m_output->path()), QStringList());
+    QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
     QTest::qWait(600);
     QVERIFY(!m_window->findChild<QMessageBox*>());
     for (const QString& name : {QStringLiteral("long.wav"), QStringLiteral("longer.wav")})
