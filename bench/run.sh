@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
-#   bench/run.sh [all|flac|wav|load|memory]     (ROUNDS=3 by default; BASELINE_CLI=path to an
+#   bench/run.sh [all|flac|wav|load|memory|again]     (ROUNDS=3 by default; BASELINE_CLI=path to an
 #   earlier sonoria-cli adds it to the conversion and loading benchmarks)
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
@@ -158,6 +158,26 @@ bench_memory() {
          "2000 files ${m} KB: $(awk -v o="$o" -v m="$m" 'BEGIN { printf "%.1f", (m - o) / 2000 }') KB per item (target <= 16)"
 }
 
+# A second run over outputs that are already there: with the default (skip what is whole and
+# newer than its source) it probes every output and converts nothing.
+bench_again() {
+    mkdir -p "$work/again"
+    ffm -f lavfi -i "sine=f=440:d=1" -ac 2 "$work/again/clip0001.wav"
+    for i in $(seq 2 1000); do cp "$work/again/clip0001.wav" "$work/again/clip$(printf %04d "$i").wav"; done
+    local first=() second=() c1=() c2=() i a b
+    for ((i = 1; i <= rounds; i++)); do
+        rm -rf "$work/outA"; mkdir -p "$work/outA"
+        measure first c1 "$cli" -f MP3 -b 128 -j 2 --no-organize -o "$work/outA" "$work/again"
+        measure second c2 "$cli" -f MP3 -b 128 -j 2 --no-organize -o "$work/outA" "$work/again"
+        [ "$(find "$work/outA" -type f | wc -l)" -eq 1000 ] || { echo "8. the second run wrote files" >&2; exit 1; }
+    done
+    a=$(printf '%s\n' "${first[@]}" | median)
+    b=$(printf '%s\n' "${second[@]}" | median)
+    echo "8. 1,000 WAV x 1 s -> MP3, then again over the same outputs: first ${a} ms, second ${b} ms," \
+         "second / first $(ratio "$b" "$a") (target <= 0.05)"
+    echo "    rounds: first ${first[*]} / second ${second[*]}"
+}
+
 echo "machine: $(nproc) cores, $(grep -m1 'model name' /proc/cpuinfo | cut -d: -f2 | sed 's/^ //'); load: $(cut -d' ' -f1-3 /proc/loadavg)"
 case "$which" in
     all) bench_flac; bench_wav; bench_load; bench_memory ;;
@@ -165,6 +185,7 @@ case "$which" in
     wav) bench_wav ;;
     load) bench_load ;;
     memory) bench_memory ;;
+    again) bench_again ;;
     *) echo "unknown benchmark: $which" >&2; exit 2 ;;
 esac
 echo "load after: $(cut -d' ' -f1-3 /proc/loadavg)"

@@ -1,5 +1,7 @@
 #include "CliRun.h"
 
+#include "engine/ConvertOutputFile.h"
+
 #include "CliOutput.h"
 #include "base/FileHelper.h"
 #include "base/SXBundle.h"
@@ -108,12 +110,21 @@ void CliRun::printDryRun() {
     const QString folder =
         SXJobBuilder::outputFolder(*m_setting, m_outputFolder, m_options.organize);
     const QString ext = m_setting->outputExtName();
-    const SXMusicInfoList loaded = items();
+    const SXJobBuilder::Run run =
+        SXJobBuilder::Run::fromSettings(m_outputFolder, m_options.organize, m_options.existing);
     QString text;
-    for (const SXMusicInfoPtr& item : loaded) {
-        const QString name = SXJobBuilder::relativeOutput(*item, *m_setting);
-        const QString target =
-            FileHelper::unusedPath(folder + QLatin1Char('/') + name + QLatin1Char('.') + ext, ext);
+    int converting = 0;
+    for (const SXMusicInfoPtr& item : items()) {
+        // The same job a run would make, so an output a run would leave is named as such.
+        const ConvertJob job = SXJobBuilder::build(*item, *m_setting, run);
+        if (const QString earlier = ConvertOutputFile::earlierResult(job); !earlier.isEmpty()) {
+            text += QCoreApplication::translate("CliRun", "already converted: %1 -> %2")
+                        .arg(CliOutput::escaped(item->strFilePath()), CliOutput::escaped(earlier)) +
+                    QLatin1Char('\n');
+            continue;
+        }
+        ++converting;
+        const QString target = FileHelper::unusedPath(ConvertOutputFile::plannedPath(job), ext);
         text += QCoreApplication::translate("CliRun", "would convert: %1 -> %2\n")
                     .arg(CliOutput::escaped(item->strFilePath()), CliOutput::escaped(target));
     }
@@ -121,7 +132,7 @@ void CliRun::printDryRun() {
         QCoreApplication::translate("CliRun",
                                     "%n files would be converted to %1 in %2 (each with the "
                                     "name it would get now; nothing was converted or created)\n",
-                                    nullptr, int(loaded.size()))
+                                    nullptr, converting)
             .arg(m_setting->fmtName(), CliOutput::escaped(folder));
     CliOutput::write(stdout, text);
 }

@@ -160,24 +160,7 @@ void ConvertOperation::main() {
 }
 
 QString ConvertOperation::earlierResult() const {
-    if (m_job.existing != ConvertExisting::Skip || m_job.nameSharedInRun || isCancelled())
-        return {};
-    const QString planned = ConvertOutputFile::plannedPath(m_job);
-    struct stat output {
-    }, source{};
-    if (::stat(QFile::encodeName(planned).constData(), &output) != 0 || !S_ISREG(output.st_mode) ||
-        ::stat(QFile::encodeName(m_job.sourcePath).constData(), &source) != 0)
-        return {};
-    // A name another conversion holds is being written right now; it is no earlier result.
-    const auto newer = [](const timespec& a, const timespec& b) {
-        return a.tv_sec != b.tv_sec ? a.tv_sec > b.tv_sec : a.tv_nsec > b.tv_nsec;
-    };
-    if (ConvertOutputPath::isClaimed(planned) || !newer(output.st_mtim, source.st_mtim))
-        return {};
-    // Whole means what a fresh output must be: the codec the encoder writes, the source's length.
-    const QString problem = ConvertVerification::check(
-        planned, m_job.encoder, m_job.sourceDurationExact ? m_job.sourceDuration : 0.0);
-    return problem.isEmpty() ? planned : QString();
+    return isCancelled() ? QString() : ConvertOutputFile::earlierResult(m_job);
 }
 
 void ConvertOperation::fail(const QString& reason) {

@@ -5,6 +5,7 @@
 #include "engine/ConvertJob.h"
 #include "engine/ConvertOutputPath.h"
 #include "engine/ConvertOutputRecord.h"
+#include "engine/ConvertVerification.h"
 #include "model/LSMedia.h"
 
 #include <QCoreApplication>
@@ -206,4 +207,25 @@ void ConvertOutputFile::removeLeftovers(const QString& folder) {
         if (QFile::remove(dir.filePath(name)))
             SXLog::line(QStringLiteral("removed the leftover %1").arg(dir.filePath(name)));
     }
+}
+
+QString ConvertOutputFile::earlierResult(const ConvertJob& job) {
+    if (job.existing != ConvertExisting::Skip || job.nameSharedInRun)
+        return {};
+    const QString planned = plannedPath(job);
+    struct stat output {
+    }, source{};
+    if (::stat(QFile::encodeName(planned).constData(), &output) != 0 || !S_ISREG(output.st_mode) ||
+        ::stat(QFile::encodeName(job.sourcePath).constData(), &source) != 0)
+        return {};
+    // A name another conversion holds is being written right now; it is no earlier result.
+    const auto newer = [](const timespec& a, const timespec& b) {
+        return a.tv_sec != b.tv_sec ? a.tv_sec > b.tv_sec : a.tv_nsec > b.tv_nsec;
+    };
+    if (ConvertOutputPath::isClaimed(planned) || !newer(output.st_mtim, source.st_mtim))
+        return {};
+    // Whole means what a fresh output must be: the codec the encoder writes, the source's length.
+    const QString problem = ConvertVerification::check(
+        planned, job.encoder, job.sourceDurationExact ? job.sourceDuration : 0.0);
+    return problem.isEmpty() ? planned : QString();
 }

@@ -24,6 +24,11 @@ public:
     static QString folderFor(const ConvertJob& job);
     // The name the job's output has when nothing is in its way.
     static QString plannedPath(const ConvertJob& job);
+    // The planned output when it is an earlier result the job skips: the job skips existing
+    // outputs, no other item of its run plans that name, and the file there is a regular file
+    // no running conversion holds, newer than the source and as whole as a fresh output must be.
+    // Empty otherwise.
+    static QString earlierResult(const ConvertJob& job);
 
     // Claims the job's final name in `folder` (the planned one itself when the job replaces an
     // earlier output of ours there), makes the folders missing on the way and creates the

@@ -95,6 +95,16 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
              qPrintable(result.out));
     const QByteArray first = SonoriaTest::readFile(out + u"/A/Nina/One.mp3"_s);
 
+    // A dry run says what a run would leave, and counts only what it would convert.
+    result = runCli(QStringList{"-n"} + arguments);
+    QCOMPARE(result.exitCode, 0);
+    QCOMPARE(lines(result.out).filter(u"already converted: "_s).size(), 2);
+    QVERIFY2(result.out.contains(u"0 files would be converted"_s), qPrintable(result.out));
+    QVERIFY2(
+        runCli(QStringList{"-n", "--existing", "both"} + arguments)
+            .out.contains(u"would convert: %1/A/x.flac -> %2/A/Nina/One(1).mp3"_s.arg(in, out)),
+        "keep both plans a numbered name");
+
     result = runCli(arguments);
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.out.contains(
