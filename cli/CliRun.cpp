@@ -9,6 +9,7 @@
 #include "base/SXSettings.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
+#include "workspace/SXRunSummary.h"
 #include "workspace/SXWorkspace.h"
 
 #include <QCoreApplication>
@@ -236,6 +237,8 @@ void CliRun::runFinished(int succeeded) {
     }
     // The window's summary, built again from the escaped names so that none can break a line.
     CliOutput::line(stdout, SXWorkspaceScheduler::summaryMessage(succeeded, failures));
+    if (const QString more = SXRunSummary::of(items()).informativeText(); !more.isEmpty())
+        CliOutput::line(stdout, more);
     if (!failures.isEmpty() || m_loadFailures > 0)
         CliOutput::line(stdout,
                         SXFailureTexts::runCounts(succeeded, int(failures.size()), m_loadFailures));

@@ -1510,6 +1510,23 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n Datei war bereits konvertiert und blieb unverändert.</numerusform>
+            <numerusform>%n Dateien waren bereits konvertiert und blieben unverändert.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n Datei konnte nicht alle Tags behalten.</numerusform>
+            <numerusform>%n Dateien konnten nicht alle Tags behalten.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1746,13 +1763,6 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n Datei konnte nicht alle Tags behalten.</numerusform>
-            <numerusform>%n Dateien konnten nicht alle Tags behalten.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -1509,6 +1509,23 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n file was already converted and was left as it was.</numerusform>
+            <numerusform>%n files were already converted and were left as they were.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n file could not keep all its tags.</numerusform>
+            <numerusform>%n files could not keep all their tags.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1745,13 +1762,6 @@ cancels the run; partial outputs are removed).
     <message>
         <source>Please choose output folder:</source>
         <translation>Choose the output folder:</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n file could not keep all its tags.</numerusform>
-            <numerusform>%n files could not keep all their tags.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

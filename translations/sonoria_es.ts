@@ -1510,6 +1510,23 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n archivo ya estaba convertido y se dejó como estaba.</numerusform>
+            <numerusform>%n archivos ya estaban convertidos y se dejaron como estaban.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n archivo no pudo conservar todas sus etiquetas.</numerusform>
+            <numerusform>%n archivos no pudieron conservar todas sus etiquetas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1746,13 +1763,6 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n archivo no pudo conservar todas sus etiquetas.</numerusform>
-            <numerusform>%n archivos no pudieron conservar todas sus etiquetas.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -1511,6 +1511,23 @@ partielles sont supprimées).
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n fichier était déjà converti et a été laissé tel quel.</numerusform>
+            <numerusform>%n fichiers étaient déjà convertis et ont été laissés tels quels.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n fichier n’a pas pu garder toutes ses étiquettes.</numerusform>
+            <numerusform>%n fichiers n’ont pas pu garder toutes leurs étiquettes.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1747,13 +1764,6 @@ partielles sont supprimées).
     <message>
         <source>%1: %2</source>
         <translation>%1&#xa0;: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n fichier n’a pas pu garder toutes ses étiquettes.</numerusform>
-            <numerusform>%n fichiers n’ont pas pu garder toutes leurs étiquettes.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

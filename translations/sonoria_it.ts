@@ -1510,6 +1510,23 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n file era già convertito ed è stato lasciato com&apos;era.</numerusform>
+            <numerusform>%n file erano già convertiti e sono stati lasciati com&apos;erano.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n file non ha potuto mantenere tutti i suoi tag.</numerusform>
+            <numerusform>%n file non hanno potuto mantenere tutti i loro tag.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1746,13 +1763,6 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n file non ha potuto mantenere tutti i suoi tag.</numerusform>
-            <numerusform>%n file non hanno potuto mantenere tutti i loro tag.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -1510,6 +1510,23 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     </message>
 </context>
 <context>
+    <name>SXRunSummary</name>
+    <message numerus="yes">
+        <source>%n files were already converted and were left as they were.</source>
+        <translation>
+            <numerusform>%n arquivo já estava convertido e foi deixado como estava.</numerusform>
+            <numerusform>%n arquivos já estavam convertidos e foram deixados como estavam.</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n files could not keep all their tags.</source>
+        <translation>
+            <numerusform>%n arquivo não pôde manter todas as suas etiquetas.</numerusform>
+            <numerusform>%n arquivos não puderam manter todas as suas etiquetas.</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>SXSettingsPanel</name>
     <message>
         <source>&amp;Bit rate:</source>
@@ -1746,13 +1763,6 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     <message>
         <source>%1: %2</source>
         <translation>%1: %2</translation>
-    </message>
-    <message numerus="yes">
-        <source>%n files could not keep all their tags.</source>
-        <translation>
-            <numerusform>%n arquivo não pôde manter todas as suas etiquetas.</numerusform>
-            <numerusform>%n arquivos não puderam manter todas as suas etiquetas.</numerusform>
-        </translation>
     </message>
 </context>
 <context>

@@ -8,6 +8,7 @@
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
 #include "workspace/SXLoudnessSurvey.h"
+#include "workspace/SXRunSummary.h"
 #include "workspace/SXWorkspacePreview.h"
 
 #include <QCoreApplication>
@@ -246,37 +247,14 @@ void SXWorkspaceScheduler::finishRun() {
         QMetaObject::invokeMethod(
             this, [this] { setConvertOperationFinished(); }, Qt::QueuedConnection);
 
-    int succeeded = 0;
-    SXPathFailureList failures;
-    SXPathFailureList tagLosses;
-    for (const QString& name : containerNames()) {
-        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
-            const LSMediaPtr media = item->mediaInfo();
-            if (media && media->eumCvtState() == CvtStateFinished) {
-                ++succeeded;
-                for (const QString& line : item->tagReport().lostLines())
-                    tagLosses.append({item->strFilePath(), line});
-            } else if (const std::optional<SXPathFailure> failure =
-                           SXFailureTexts::conversionFailure(*item))
-                failures.append(*failure);
-        }
-    }
-    const QString message = summaryMessage(succeeded, failures);
-    // Every failure, with its folder and reason, where the user can scroll through them.
-    // Outputs that could not keep all their tags are named too, behind the same details.
-    QSet<QString> losers;
-    for (const SXPathFailure& loss : std::as_const(tagLosses))
-        losers.insert(loss.path);
-    const QString tagsLine = losers.isEmpty() ? QString()
-                                              : tr("%n files could not keep all their tags.",
-                                                   nullptr, int(losers.size()));
-    QString details = SXFailureTexts::detailLines(failures);
-    if (!tagLosses.isEmpty())
-        details += (details.isEmpty() ? QString() : QStringLiteral("\n")) +
-                   SXFailureTexts::detailLines(tagLosses);
-    runAlert({message, tagsLine, {tr("OK")}, details});
+    SXMusicInfoList items;
+    for (const QString& name : containerNames())
+        items += getDataForFormat(name);
+    const SXRunSummary summary = SXRunSummary::of(items);
+    const QString message = summaryMessage(summary.converted, summary.failures);
+    runAlert({message, summary.informativeText(), {tr("OK")}, summary.details()});
     Q_EMIT rowsRedrawRequested();
-    Q_EMIT runFinished(message, succeeded, int(failures.size()));
+    Q_EMIT runFinished(message, summary.converted, int(summary.failures.size()));
     if (m_bOverOpen && m_store.presenter())
         m_store.presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
 }

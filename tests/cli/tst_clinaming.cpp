@@ -111,6 +111,9 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
                  u"already converted: %1/B/x.flac -> %2/B/Unknown Artist/x.mp3"_s.arg(in, out)),
              qPrintable(result.out));
     QCOMPARE(lines(result.out).filter(u"already converted: "_s).size(), 2);
+    // The summary does not count them as converted now.
+    QVERIFY2(result.out.contains(u"0 files have been converted.\n2 files were already converted"_s),
+             qPrintable(result.out));
     QCOMPARE(filesBelow(out), tree);
 
     result = runCli(arguments + QStringList{"--existing", "both"});
