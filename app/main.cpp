@@ -48,7 +48,10 @@ bool answeredWithoutDisplay(QCommandLineParser& parser, int argc, char** argv) {
         QCommandLineParser translated;
         declareOptions(translated);
         QString help = translated.helpText();
-        help.replace(QStringLiteral("<executable_name>"), QFileInfo(arguments.first()).fileName());
+        // The usage line names the program as it was called; people type its bare name.
+        const QString called = arguments.first();
+        if (const qsizetype at = help.indexOf(called); at >= 0 && called.contains(QLatin1Char('/')))
+            help.replace(at, called.size(), QFileInfo(called).fileName());
         std::fputs(qPrintable(help), stdout);
         return true;
     }

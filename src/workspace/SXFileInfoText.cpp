@@ -137,8 +137,8 @@ QList<SXFileInfoLine> SXFileInfoText::linesForItem(const SXMusicInfo& item) {
         {QStringLiteral("tfInfoDateMdf"), tr("Date modified"),
          media ? media->strLastModified() : QString()},
         {QStringLiteral("tfInfoWhere"), tr("Where"), path},
-        failureLine(item),
         tagReportLine(item),
+        failureLine(item),
     };
 }
 

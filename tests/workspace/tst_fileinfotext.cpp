@@ -35,7 +35,7 @@ void TestFileInfoText::fallbacksWithoutTags() {
     media->setStrAudioCodecName(u"flac"_s);
 
     const QList<SXFileInfoLine> lines = SXFileInfoText::linesForItem(*item);
-    QCOMPARE(lines.size(), 18);
+    QCOMPARE(lines.size(), 19);
     QCOMPARE(lines.first().labelName, u"tfInfoTitle"_s);
     QCOMPARE(lines.at(16).labelName, u"tfInfoWhere"_s);
     // Why the last run failed: only for a failed item, with a general reason when none came.

@@ -197,7 +197,8 @@ void TestWorkspaceRun::overrideAndUnorganisedFolderAndRequeue() {
     for (int run = 0; run < 2; ++run) {
         const QList<QVariant> summary = runInto(workspace, folder);
         QVERIFY(!summary.isEmpty());
-        QCOMPARE(summary.at(1).toInt(), 1);
+        // The second run finds the first one's output and converts nothing.
+        QCOMPARE(summary.at(1).toInt(), run == 0 ? 1 : 0);
         QCOMPARE(workspace.scheduler().queueConvertTask()->maxConcurrentOperationCount(), 1);
         QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
     }
