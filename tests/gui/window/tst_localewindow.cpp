@@ -1,5 +1,8 @@
 #include "base/SXPathFailure.h"
 #include "base/SXTranslations.h"
+#include "gui/dialogs/SXFormatChooserDialog.h"
+#include "gui/dialogs/SXPreferencesDialog.h"
+#include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWorkspace.h"
@@ -8,12 +11,14 @@
 #include <QLocale>
 #include <QMessageBox>
 #include <QTemporaryDir>
+#include <QToolButton>
 #include <QTranslator>
 
 using namespace SonoriaGuiTest;
 
-// The window and the run's summary in every language the program has a catalogue for: each
-// is grabbed for a person to look at, and no text may be cut off (German and French run long).
+// The window, the run's summary, the format chooser and the preferences in every language the
+// program has a catalogue for: each is grabbed for a person to look at, and no text may be cut
+// off (German and French run long).
 class TestLocaleWindow : public QObject {
     Q_OBJECT
 
@@ -91,6 +96,24 @@ void TestLocaleWindow::everyTextFits() {
     QVERIFY2(alertClipped.isEmpty(), qPrintable(alertClipped.join(QLatin1Char('\n'))));
     QTest::keyClick(summary, Qt::Key_Return);
     QTRY_VERIFY(!summary->isVisible());
+
+    // The dialogs with the most words: the format chooser and the preferences.
+    QTest::mouseClick(window.tabBar().addButton(), Qt::LeftButton);
+    auto* chooser = openDialog<SXFormatChooserDialog>(&window);
+    QVERIFY(chooser);
+    QVERIFY(QTest::qWaitForWindowExposed(chooser));
+    grab(chooser, QStringLiteral("locale-chooser-") + language);
+    const QStringList chooserClipped = clippedTexts(chooser);
+    QVERIFY2(chooserClipped.isEmpty(), qPrintable(chooserClipped.join(QLatin1Char('\n'))));
+    QTest::keyClick(chooser, Qt::Key_Escape);
+    QTRY_VERIFY(!chooser->isVisible());
+
+    SXPreferencesDialog preferences;
+    preferences.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&preferences));
+    grab(&preferences, QStringLiteral("locale-preferences-") + language);
+    const QStringList preferencesClipped = clippedTexts(&preferences);
+    QVERIFY2(preferencesClipped.isEmpty(), qPrintable(preferencesClipped.join(QLatin1Char('\n'))));
 }
 
 SONORIA_GUI_TEST_MAIN(TestLocaleWindow)
