@@ -136,7 +136,8 @@ void TestPreviewWindow::stripShowsThePreviewPlayedFromTheKeyboard() {
     auto* list = m_window->findChild<SXItemListView*>();
     list->setFocus();
     QTest::keyClick(list, Qt::Key_Space);
-    QCOMPARE(workspace.store().enumAppState(), int(AppStatePlaying));
+    // The player reports its start from its own thread; a loaded machine takes a moment.
+    QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStatePlaying), 5000);
     QVERIFY(progress.wait(5000) && progress.wait(5000));
 
     SXItemStateView* strip = m_window->toolbar().stateView();
