@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
-#   bench/run.sh [all|flac|wav|load|memory|again]     (ROUNDS=3 by default; BASELINE_CLI=path to an
+#   bench/run.sh [all|flac|wav|load|memory|again|replaygain]     (ROUNDS=3 by default; BASELINE_CLI=path to an
 #   earlier sonoria-cli adds it to the conversion and loading benchmarks)
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
@@ -178,6 +178,25 @@ bench_again() {
     echo "    rounds: first ${first[*]} / second ${second[*]}"
 }
 
+# The cost of ReplayGain: the same run with and without measuring the sources (album mode).
+bench_replaygain() {
+    mkdir -p "$work/rg"
+    ffm -f lavfi -i "anoisesrc=color=pink:duration=180" -f lavfi -i "sine=f=440:d=180" \
+        -filter_complex amix -ac 2 "$work/rg/song001.flac"
+    for i in $(seq 2 "${RG_FILES:-100}"); do cp "$work/rg/song001.flac" "$work/rg/song$(printf %03d "$i").flac"; done
+    local plain=() gain=() c1=() c2=() i a b
+    for ((i = 1; i <= rounds; i++)); do
+        rm -rf "$work/outA" "$work/outB"; mkdir -p "$work/outA" "$work/outB"
+        measure plain c1 "$cli" -f MP3 -j 2 --no-organize -o "$work/outA" "$work/rg"
+        measure gain c2 "$cli" -f MP3 -j 2 --no-organize --replaygain album -o "$work/outB" "$work/rg"
+    done
+    a=$(printf '%s\n' "${plain[@]}" | median)
+    b=$(printf '%s\n' "${gain[@]}" | median)
+    echo "9. ${RG_FILES:-100} FLAC x 180 s -> MP3, 2 jobs: without ReplayGain ${a} ms, with" \
+         "--replaygain album ${b} ms, ratio $(ratio "$b" "$a") (target <= 1.25)"
+    echo "    rounds: plain ${plain[*]} / replaygain ${gain[*]}; CPU ms plain ${c1[*]} / replaygain ${c2[*]}"
+}
+
 echo "machine: $(nproc) cores, $(grep -m1 'model name' /proc/cpuinfo | cut -d: -f2 | sed 's/^ //'); load: $(cut -d' ' -f1-3 /proc/loadavg)"
 case "$which" in
     all) bench_flac; bench_wav; bench_load; bench_memory ;;
@@ -186,6 +205,7 @@ case "$which" in
     load) bench_load ;;
     memory) bench_memory ;;
     again) bench_again ;;
+    replaygain) bench_replaygain ;;
     *) echo "unknown benchmark: $which" >&2; exit 2 ;;
 esac
 echo "load after: $(cut -d' ' -f1-3 /proc/loadavg)"
