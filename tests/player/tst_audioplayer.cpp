@@ -60,7 +60,6 @@ private Q_SLOTS:
 private:
     QString path(const QString& name) const { return m_dir.filePath(name); }
 
-    SonoriaTest::PulseServer m_pulse;
     QTemporaryDir m_dir;
     std::unique_ptr<SXWorkspace> m_workspace;
     SXAudioPlayer* m_player = nullptr;
@@ -75,7 +74,7 @@ void TestAudioPlayer::initTestCase() {
                                    {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=3"_s, u"-c:v"_s,
                                     u"mpeg4"_s, u"-c:a"_s, u"aac"_s, u"-ac"_s, u"6"_s}));
     QString why;
-    if (!m_pulse.start(&why))
+    if (!SonoriaTest::PulseServer::forThisProcess().start(&why))
         QSKIP(qPrintable(u"no PulseAudio to play into: "_s + why));
     m_player = SXAudioPlayer::shareAudioPlayer();
     QCOMPARE(SXAudioPlayer::shareAudioPlayer(), m_player);

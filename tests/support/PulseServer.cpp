@@ -19,6 +19,11 @@ PulseServer::~PulseServer() {
     }
 }
 
+PulseServer& PulseServer::forThisProcess() {
+    static PulseServer server;
+    return server;
+}
+
 bool PulseServer::start(QString* why) {
     const QString program = QStandardPaths::findExecutable(QStringLiteral("pulseaudio"));
     if (program.isEmpty()) {

@@ -20,6 +20,11 @@ public:
     // False with *why set when PulseAudio is missing or does not come up.
     bool start(QString* why);
 
+    // The server of this test process. It is destroyed after main() returns, so after the
+    // application and Qt's audio engine have let go of it: a server stopped under a connected
+    // client makes the PulseAudio client library abort at exit.
+    static PulseServer& forThisProcess();
+
 private:
     QTemporaryDir m_runtime;
     QProcess m_server;

@@ -42,7 +42,6 @@ private:
     SXMusicInfoList addFiles(const QStringList& names);
 
     QTemporaryDir m_dir;
-    SonoriaTest::PulseServer m_pulse;
     QString m_noSound;
     std::unique_ptr<SXMainAppController> m_window;
     WorkspaceTestPresenter m_presenter;
@@ -55,7 +54,7 @@ void TestPreviewWindow::initTestCase() {
         {u"-metadata"_s, u"title=Morning"_s, u"-metadata"_s, u"artist=Ann"_s}));
     QVERIFY(SonoriaTest::makeMedia(m_dir.filePath(u"surround.flac"_s),
                                    u"sine=duration=1:sample_rate=48000"_s, {u"-ac"_s, u"6"_s}));
-    if (!m_pulse.start(&m_noSound))
+    if (!SonoriaTest::PulseServer::forThisProcess().start(&m_noSound))
         m_noSound.prepend(u"no PulseAudio to play into: "_s);
 }
 
