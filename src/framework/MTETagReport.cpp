@@ -129,11 +129,9 @@ QMap<QString, QString> MTETagReport::recordOf(const MTEAudioFile& handle) {
 
 QStringList MTETagReport::lines() const {
     QStringList lines;
-    for (const QList<Entry>* entries : {&changed, &dropped}) {
-        for (const Entry& entry : *entries)
-            lines.append(tr("%1: %2").arg(fieldName(entry.field), entry.reason));
-    }
-    return lines;
+    for (const Entry& entry : changed)
+        lines.append(tr("%1: %2").arg(fieldName(entry.field), entry.reason));
+    return lines + lostLines();
 }
 
 QStringList MTETagReport::lostLines() const {

@@ -7,6 +7,8 @@
 #include "framework/MTEAudioFile.h"
 #include "online/SXPreferences.h"
 
+#include <algorithm>
+
 namespace {
 // Room the last part of a name keeps for ".extension" and a counter "(12345)".
 constexpr int kCounterBytes = 7;
@@ -41,9 +43,14 @@ QString SXJobBuilder::relativeOutput(const SXMusicInfo& item, const SXFormatSett
     // A container that asks for nothing else names its outputs exactly as it always has: after
     // the source, whose name the file system already took ("-live.flac" stays "-live.mp3").
     const bool asBefore = pattern.isEmpty() || pattern == ConvertNaming::defaultPattern();
-    const QString named = asBefore && !media->strOutFileName().isEmpty()
-                              ? media->strOutFileName()
-                              : ConvertNaming::expand(pattern, tags, reserved);
+    QString named = asBefore && !media->strOutFileName().isEmpty()
+                        ? media->strOutFileName()
+                        : ConvertNaming::expand(pattern, tags, reserved);
+    // A cue track's own name is made from the sheet's title, which no file system has checked:
+    // it gets the same length limit as a name from tags.
+    if (asBefore && media->cueTrack())
+        named = ConvertNaming::safeComponent(named,
+                                             std::max(1, ConvertNaming::kMaxNameBytes - reserved));
     const QString mirrored =
         setting.mirrorFolders()
             ? ConvertNaming::mirroredFolder(media->filePath(), media->addedFromFolder())

@@ -1,7 +1,9 @@
 #include "support/TestSupport.h"
 
 #include "framework/MTEAudioFileMgr.h"
+#include "model/SXDataEngine.h"
 #include "workspace/SXItemRowLook.h"
+#include "workspace/SXJobBuilder.h"
 #include "workspace/SXWorkspace.h"
 
 #include "WorkspaceTestPresenter.h"
@@ -93,6 +95,7 @@ private Q_SLOTS:
     void sheetsAreOfferedTrackByTrack();
     void eachTrackIsConvertedToExactlyItsRange_data();
     void eachTrackIsConvertedToExactlyItsRange();
+    void aLongTitleStillMakesAFileName();
 
 private:
     QString path(const QString& name) const { return m_dir.filePath(name); }
@@ -246,6 +249,22 @@ void TestCueTracks::eachTrackIsConvertedToExactlyItsRange() {
         QCOMPARE(tags->genre(), u"Ambient"_s);
     }
     QCOMPARE(SonoriaTest::fileHash(path(u"album/Trois Tons.flac"_s)), m_sourceHash);
+}
+
+// A sheet's title is nobody's file name yet: a long one is cut to what a file system takes,
+// with room left for the extension and a counter, at a whole character.
+void TestCueTracks::aLongTitleStillMakesAFileName() {
+    SXCueTrack track;
+    track.number = 4;
+    track.title = QString(200, u'é');
+    track.file = path(u"three tones.flac"_s);
+    track.sheet = path(u"album.cue"_s);
+    const SXFormatSettingPtr mp3 = SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+    const QString name =
+        SXJobBuilder::relativeOutput(*SXMusicInfo::newForCueTrack(track, u"MP3"_s), *mp3);
+    QVERIFY(name.startsWith(u"04 éé"_s));
+    QVERIFY2(name.toUtf8().size() + 4 + 7 <= 255, qPrintable(name));
+    QVERIFY(!name.contains(QChar::ReplacementCharacter));
 }
 
 SONORIA_TEST_MAIN(TestCueTracks)
