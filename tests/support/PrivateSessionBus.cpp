@@ -1,5 +1,8 @@
 #include "support/PrivateSessionBus.h"
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace SonoriaTest {
 
 PrivateSessionBus::~PrivateSessionBus() {
@@ -11,6 +14,9 @@ PrivateSessionBus::~PrivateSessionBus() {
 
 bool PrivateSessionBus::start() {
     m_daemon.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    // A test that crashes runs no destructor: the daemon, holding the test's output pipe, would
+    // keep CTest waiting for the end of a test that is long dead.
+    m_daemon.setChildProcessModifier([] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); });
     m_daemon.start(QStringLiteral("dbus-daemon"),
                    {QStringLiteral("--session"), QStringLiteral("--nofork"),
                     QStringLiteral("--nopidfile"), QStringLiteral("--print-address=1")});

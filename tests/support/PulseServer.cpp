@@ -5,6 +5,9 @@
 #include <QStandardPaths>
 #include <QThread>
 
+#include <csignal>
+#include <sys/prctl.h>
+
 namespace SonoriaTest {
 
 PulseServer::~PulseServer() {
@@ -37,6 +40,9 @@ bool PulseServer::start(QString* why) {
     environment.insert(QStringLiteral("XDG_CONFIG_HOME"), m_runtime.path());
     m_server.setProcessEnvironment(environment);
     m_server.setProcessChannelMode(QProcess::MergedChannels);
+    // A crashed test runs no destructor; the server and its keeper end with it all the same.
+    const auto endWithTheTest = [] { ::prctl(PR_SET_PDEATHSIG, SIGKILL); };
+    m_server.setChildProcessModifier(endWithTheTest);
     m_server.start(
         program, {QStringLiteral("-n"), QStringLiteral("--daemonize=no"),
                   QStringLiteral("--exit-idle-time=-1"), QStringLiteral("--disable-shm=yes"),
@@ -61,6 +67,7 @@ bool PulseServer::start(QString* why) {
     if (!pacat.isEmpty()) {
         m_keeper.setProcessEnvironment(environment);
         m_keeper.setStandardInputFile(QStringLiteral("/dev/zero"));
+        m_keeper.setChildProcessModifier(endWithTheTest);
         m_keeper.start(pacat, {QStringLiteral("--server=unix:") + socket,
                                QStringLiteral("--latency-msec=20"), QStringLiteral("--raw")});
         m_keeper.waitForStarted();
