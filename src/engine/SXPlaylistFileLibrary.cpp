@@ -1,6 +1,7 @@
 #include "engine/SXPlaylistFileLibrary.h"
 
 #include "base/SXLog.h"
+#include "framework/MTETagFileKind.h"
 
 #include <QDir>
 #include <QFile>
@@ -61,6 +62,7 @@ private:
 QByteArray extinfLine(const QString& file) {
     QString title;
     int seconds = -1;
+    MTETagFileKind::prepareForThreads();
     const TagLib::FileRef ref(QFile::encodeName(file).constData(), true,
                               TagLib::AudioProperties::Fast);
     if (!ref.isNull()) {

@@ -11,6 +11,8 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <mutex>
+
 #include <taglib/aifffile.h>
 #include <taglib/apefile.h>
 #include <taglib/asffile.h>
@@ -22,6 +24,7 @@
 #include <taglib/oggflacfile.h>
 #include <taglib/opusfile.h>
 #include <taglib/speexfile.h>
+#include <taglib/textidentificationframe.h>
 #include <taglib/tfilestream.h>
 #include <taglib/trueaudiofile.h>
 #include <taglib/vorbisfile.h>
@@ -83,7 +86,16 @@ const MTETagFamilyGeneric kGeneric;
 
 } // namespace
 
+void MTETagFileKind::prepareForThreads() {
+    // TagLib 1.13 fills the table of ID3v2 "involved people" keys on its first use without a
+    // lock; two conversions saving tags at the same moment then insert into one map at once
+    // and corrupt it (seen as a crash in a run of two items). Filled here once, it is only read.
+    static std::once_flag once;
+    std::call_once(once, [] { TagLib::ID3v2::TextIdentificationFrame::involvedPeopleMap(); });
+}
+
 std::unique_ptr<TagLib::FileRef> MTETagFileKind::open(const QString& path, bool readProperties) {
+    prepareForThreads();
     // TagLib would happily open a folder and read nothing; ask only about regular files.
     if (!QFileInfo(path).isFile())
         return nullptr;

@@ -20,6 +20,9 @@ public:
     // Without `readProperties` only the tags are parsed, which is all a picture fetch or a save
     // needs.
     static std::unique_ptr<TagLib::FileRef> open(const QString& path, bool readProperties = true);
+    // Builds TagLib's lazily filled tables once, on one thread, before files are opened on
+    // several at the same time (open() calls it; so must any other user of TagLib).
+    static void prepareForThreads();
 
     // The handle's file kind code (MTEAudioFile::FileType).
     static int fileTypeOf(TagLib::File& file);

@@ -1,5 +1,7 @@
 #include "framework/SXCueSheet.h"
 
+#include "framework/MTETagFileKind.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -259,6 +261,7 @@ SXCueSheetResult SXCueSheet::embedded(const QString& audioPath) {
         extension != QLatin1String("ape"))
         return {};
     const QByteArray encoded = QFile::encodeName(audioPath);
+    MTETagFileKind::prepareForThreads();
     TagLib::FileRef ref(encoded.constData(), false);
     if (ref.isNull())
         return {};
