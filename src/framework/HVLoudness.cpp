@@ -1,6 +1,7 @@
 #include "framework/HVLoudness.h"
 
 #include "framework/HVSampleReader.h"
+#include "framework/HVTruePeak.h"
 
 #include <QCoreApplication>
 
@@ -53,11 +54,12 @@ std::optional<HVLoudnessMeasurement> HVLoudness::measure(const QString& path, bo
     if (!reader.open(path, error))
         return std::nullopt;
     const int channels = reader.channels();
-    std::shared_ptr<void> meter(ebur128_init(unsigned(channels), unsigned(reader.sampleRate()),
-                                             EBUR128_MODE_I | EBUR128_MODE_TRUE_PEAK),
-                                [](void* state) { destroyMeter(state); });
+    std::shared_ptr<void> meter(
+        ebur128_init(unsigned(channels), unsigned(reader.sampleRate()), EBUR128_MODE_I),
+        [](void* state) { destroyMeter(state); });
     auto* state = static_cast<ebur128_state*>(meter.get());
-    if (!state) {
+    HVTruePeak truePeak(channels, reader.sampleRate());
+    if (!state || !truePeak.isValid()) {
         if (error)
             *error = QCoreApplication::translate("HVLoudness", "its loudness cannot be measured");
         return std::nullopt;
@@ -72,6 +74,7 @@ std::optional<HVLoudnessMeasurement> HVLoudness::measure(const QString& path, bo
     const bool read = reader.readAll(
         [&](const float* samples, std::size_t frames) {
             added = added && ebur128_add_frames_float(state, samples, frames) == EBUR128_SUCCESS;
+            truePeak.add(samples, frames);
         },
         cancel, error);
     if (!read)
@@ -85,11 +88,7 @@ std::optional<HVLoudnessMeasurement> HVLoudness::measure(const QString& path, bo
     double loudness = 0;
     const int result = ebur128_loudness_global(state, &loudness);
     measurement.integrated = gated(result, loudness);
-    for (int i = 0; i < channels; ++i) {
-        double peak = 0;
-        if (ebur128_true_peak(state, unsigned(i), &peak) == EBUR128_SUCCESS)
-            measurement.truePeak = std::max(measurement.truePeak, peak);
-    }
+    measurement.truePeak = truePeak.finish();
     if (keepMeter)
         measurement.meter = std::move(meter);
     return measurement;

@@ -53,25 +53,32 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("filter");
         QTest::addColumn<bool>("dualMono");
+        QTest::addColumn<QString>("source");
+        const QString sine = u"sine=frequency=1000:duration=6"_s;
         QTest::newRow("stereo 1 kHz, flac")
-            << u"a.flac"_s << u"volume=4,aformat=channel_layouts=stereo"_s << false;
+            << u"a.flac"_s << u"volume=4,aformat=channel_layouts=stereo"_s << false << sine;
         QTest::newRow("quiet stereo, 48 kHz wav")
-            << u"b.wav"_s << u"volume=0.2,aresample=48000,aformat=channel_layouts=stereo"_s
-            << false;
+            << u"b.wav"_s << u"volume=0.2,aresample=48000,aformat=channel_layouts=stereo"_s << false
+            << sine;
         QTest::newRow("mono, heard on both sides")
-            << u"c.flac"_s << u"volume=2,aformat=channel_layouts=mono"_s << true;
+            << u"c.flac"_s << u"volume=2,aformat=channel_layouts=mono"_s << true << sine;
         QTest::newRow("5.1 with a low-frequency channel, mp3 decoded")
-            << u"d.m4a"_s << u"volume=3,aformat=channel_layouts=5.1"_s << false;
+            << u"d.m4a"_s << u"volume=3,aformat=channel_layouts=5.1"_s << false << sine;
         QTest::newRow("stereo mp3")
-            << u"e.mp3"_s << u"volume=6,aformat=channel_layouts=stereo"_s << false;
+            << u"e.mp3"_s << u"volume=6,aformat=channel_layouts=stereo"_s << false << sine;
+        // A quarter of the sample rate at 45 degrees: every sample is 3 dB below the waveform's
+        // crests, which only the oversampled peak finds.
+        QTest::newRow("peaks between the samples")
+            << u"f.wav"_s << u"aformat=channel_layouts=stereo"_s << false
+            << u"aevalsrc=0.5*sin(2*PI*11025*t+PI/4):s=44100:d=6"_s;
     }
     void measuresAsFfmpeg() {
         QFETCH(QString, name);
         QFETCH(QString, filter);
         QFETCH(bool, dualMono);
+        QFETCH(QString, source);
         const QString path = m_dir.filePath(name);
-        QVERIFY(
-            SonoriaTest::makeMedia(path, u"sine=frequency=1000:duration=6"_s, {u"-af"_s, filter}));
+        QVERIFY(SonoriaTest::makeMedia(path, source, {u"-af"_s, filter}));
         QString error;
         const std::optional<HVLoudnessMeasurement> measured =
             HVLoudness::measure(path, false, nullptr, &error);
