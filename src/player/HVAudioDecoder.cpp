@@ -79,7 +79,32 @@ bool HVAudioDecoder::openResampler() {
     return made >= 0 && swr_init(m_swr) >= 0;
 }
 
+void HVAudioDecoder::limitTo(double startSeconds, double endSeconds) {
+    m_rangeStart = qMax(startSeconds, 0.0);
+    m_rangeEnd = endSeconds;
+    seek(0);
+}
+
+double HVAudioDecoder::duration() const {
+    if (m_rangeEnd >= 0)
+        return m_rangeEnd - m_rangeStart;
+    return m_duration > m_rangeStart ? m_duration - m_rangeStart : 0.0;
+}
+
 QByteArray HVAudioDecoder::decodeSome() {
+    QByteArray block = decodeNext();
+    if (m_bytesLeft < 0)
+        return block;
+    // The part ends inside this block: the rest of the file is another track.
+    if (block.size() >= m_bytesLeft) {
+        block.truncate(m_bytesLeft);
+        m_finished = true;
+    }
+    m_bytesLeft -= block.size();
+    return block;
+}
+
+QByteArray HVAudioDecoder::decodeNext() {
     while (m_codec && !m_finished) {
         const int received = avcodec_receive_frame(m_codec, m_frame);
         if (received == 0) {
@@ -145,7 +170,11 @@ QByteArray HVAudioDecoder::drainResampler() {
 void HVAudioDecoder::seek(double seconds) {
     if (!m_format || !m_codec)
         return;
-    seconds = qMax(seconds, 0.0);
+    seconds = qMax(seconds, 0.0) + m_rangeStart;
+    if (m_rangeEnd >= 0) {
+        const qint64 frameBytes = qint64(m_channels) * 2;
+        m_bytesLeft = qMax<qint64>(0, qint64((m_rangeEnd - seconds) * m_sampleRate)) * frameBytes;
+    }
     av_seek_frame(m_format, -1, int64_t(seconds * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
     avcodec_flush_buffers(m_codec);
     openResampler(); // drop the samples it still held from before

@@ -21,17 +21,21 @@ public:
 
     // False with *error set when the file has no audio the libraries can decode.
     bool open(const QString& path, QString* error = nullptr);
+    // Only the part of the file from `startSeconds` to `endSeconds` (negative: its end) plays,
+    // as for a track of a cue sheet; seek() and duration() then count from the part's start.
+    void limitTo(double startSeconds, double endSeconds);
     // Seconds; 0 while unknown.
-    double duration() const { return m_duration; }
+    double duration() const;
     // The next block of samples; empty at the end of the stream (or after an error).
     QByteArray decodeSome();
-    // Moves to `seconds` from the start; the next block starts there.
+    // Moves to `seconds` from the start (of the part); the next block starts there.
     void seek(double seconds);
 
     int bytesPerSecond() const { return m_sampleRate * m_channels * 2; }
 
 private:
     bool openResampler();
+    QByteArray decodeNext();
     QByteArray convertFrame();
     QByteArray drainResampler();
 
@@ -45,6 +49,9 @@ private:
     int m_stream = -1;
     double m_duration = 0;
     double m_skipUntil = 0; // after a seek, samples before the target are dropped
+    double m_rangeStart = 0;
+    double m_rangeEnd = -1;
+    qint64 m_bytesLeft = -1; // of the part, from the last seek; -1: to the end of the file
     bool m_inputDone = false;
     bool m_finished = false;
 };

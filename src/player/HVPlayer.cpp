@@ -26,9 +26,11 @@ HVPlayer::~HVPlayer() {
     stop();
 }
 
-void HVPlayer::flushWithItem(const HVMediaInfoItem& item) {
+void HVPlayer::flushWithItem(const HVMediaInfoItem& item, double startSeconds, double endSeconds) {
     stop();
     m_path = item.filePath();
+    m_rangeStart = startSeconds;
+    m_rangeEnd = endSeconds;
     m_duration.store(item.duration());
 }
 
@@ -62,7 +64,7 @@ void HVPlayer::showAudio() {
         return;
     }
     m_shared = std::make_shared<Shared>();
-    m_worker = std::thread(&HVPlayer::decodeLoop, this, m_path);
+    m_worker = std::thread(&HVPlayer::decodeLoop, this, m_path, m_rangeStart, m_rangeEnd);
     m_feedTimer = new QTimer(this);
     m_feedTimer->setInterval(kFeedIntervalMs);
     connect(m_feedTimer, &QTimer::timeout, this, &HVPlayer::feedSink);
@@ -188,10 +190,12 @@ void HVPlayer::feedSink() {
 
 // The worker: opens the file, then keeps about a second decoded ahead of the sink until it is
 // told to quit. A file it cannot decode simply plays nothing.
-void HVPlayer::decodeLoop(QString path) {
+void HVPlayer::decodeLoop(QString path, double startSeconds, double endSeconds) {
     const std::shared_ptr<Shared> shared = m_shared;
     HVAudioDecoder decoder(m_format.sampleRate(), m_format.channelCount());
     const bool opened = decoder.open(path);
+    if (opened && (startSeconds > 0 || endSeconds >= 0))
+        decoder.limitTo(startSeconds, endSeconds);
     if (opened && m_duration.load() <= 0)
         m_duration.store(decoder.duration());
     const qsizetype ahead = qsizetype(decoder.bytesPerSecond() * kDecodeAheadSeconds);

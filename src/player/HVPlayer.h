@@ -30,7 +30,10 @@ public:
     ~HVPlayer() override;
 
     // The file to play next, replacing whatever was loaded; opened on the worker.
-    void flushWithItem(const HVMediaInfoItem& item);
+    // A track of a cue sheet plays only its part, from `startSeconds` to `endSeconds` (negative:
+    // the file's end); its positions count from the part's start.
+    void flushWithItem(const HVMediaInfoItem& item, double startSeconds = 0,
+                       double endSeconds = -1);
     void showAudio();
     // 0..128; 128 is the sink's full volume.
     void setVolume(double volume);
@@ -58,7 +61,7 @@ private:
         quint64 generation = 0; // bumped by every seek, so late blocks are dropped
     };
 
-    void decodeLoop(QString path);
+    void decodeLoop(QString path, double startSeconds, double endSeconds);
     void feedSink();
     bool startSink();
     void failLater(const QString& message);
@@ -73,6 +76,8 @@ private:
     std::thread m_worker;
     std::atomic<double> m_duration{0};
     double m_volume = 1.0;
+    double m_rangeStart = 0;
+    double m_rangeEnd = -1;
     double m_base = 0;    // seconds at the last start or seek
     qint64 m_written = 0; // bytes handed to the sink since then
     bool m_paused = false;

@@ -54,8 +54,16 @@ void SXAudioPlayer::setPlayingMusic(const SXMusicInfoPtr& item) {
 void SXAudioPlayer::play() {
     QMutexLocker locker(&m_lock);
     const SXMusicInfoPtr item = m_playingMusic;
-    if (const LSMediaPtr media = item ? item->mediaInfo() : nullptr)
-        m_player->flushWithItem(*media);
+    if (const LSMediaPtr media = item ? item->mediaInfo() : nullptr) {
+        // A cue sheet's track is heard as the row shows it, not as the whole file it lies in.
+        const std::optional<SXCueTrack> track = media->cueTrack();
+        constexpr double kFrames = SXCueTrack::kFramesPerSecond;
+        if (track)
+            m_player->flushWithItem(*media, double(track->startFrame) / kFrames,
+                                    track->endFrame < 0 ? -1.0 : double(track->endFrame) / kFrames);
+        else
+            m_player->flushWithItem(*media);
+    }
     m_player->showAudio();
     m_player->setVolume(128.0);
     m_isPlaying = true;

@@ -53,6 +53,8 @@ private Q_SLOTS:
     void cleanup();
     void decoderReadsEveryKindOfSource_data();
     void decoderReadsEveryKindOfSource();
+    void decoderPlaysOnlyItsPartOfTheFile_data();
+    void decoderPlaysOnlyItsPartOfTheFile();
     void previewEndsAtTheThirdTickAndRunsOn();
     void seekPauseAndResumeMovesThePosition();
     void movedItemPlaysOnAndRemovedItemStops();
@@ -69,6 +71,9 @@ void TestAudioPlayer::initTestCase() {
     QVERIFY(SonoriaTest::makeTone(path(u"short.wav"_s), 3.5));
     QVERIFY(SonoriaTest::makeTone(path(u"two.mp3"_s), 2.0));
     QVERIFY(SonoriaTest::makeTone(path(u"long.flac"_s), 12.0));
+    // Quiet for three seconds, then loud: which part plays shows in the samples.
+    QVERIFY(SonoriaTest::makeMedia(
+        path(u"steps.wav"_s), u"aevalsrc=if(lt(t\\,3)\\,0.2\\,0.6)*sin(2*PI*440*t):s=48000:d=5"_s));
     QVERIFY(SonoriaTest::makeMedia(path(u"clip.mp4"_s),
                                    u"testsrc=size=160x120:rate=10:duration=3"_s,
                                    {u"-f"_s, u"lavfi"_s, u"-i"_s, u"sine=duration=3"_s, u"-c:v"_s,
@@ -117,6 +122,44 @@ void TestAudioPlayer::decoderReadsEveryKindOfSource() {
     decoder.seek(1.0);
     QVERIFY2(qAbs(decodedSeconds() - (seconds - 1.0)) < 0.1, qPrintable(name));
     QVERIFY(!HVAudioDecoder(48000, 2).open(path(u"missing.wav"_s)));
+}
+
+// A track of a cue sheet is previewed as its own part of the file: it starts at its start, ends
+// at its end, and a seek counts from its start.
+void TestAudioPlayer::decoderPlaysOnlyItsPartOfTheFile_data() {
+    QTest::addColumn<double>("start");
+    QTest::addColumn<double>("end");
+    QTest::addColumn<double>("seek");
+    QTest::addColumn<double>("seconds");
+    QTest::addColumn<double>("peak");
+    QTest::newRow("the quiet first track") << 0.5 << 2.5 << 0.0 << 2.0 << 0.2;
+    QTest::newRow("the loud last track, to the end") << 3.0 << -1.0 << 0.0 << 2.0 << 0.6;
+    QTest::newRow("a second into the last track") << 3.0 << -1.0 << 1.0 << 1.0 << 0.6;
+}
+
+void TestAudioPlayer::decoderPlaysOnlyItsPartOfTheFile() {
+    QFETCH(double, start);
+    QFETCH(double, end);
+    QFETCH(double, seek);
+    QFETCH(double, seconds);
+    QFETCH(double, peak);
+    HVAudioDecoder decoder(48000, 2);
+    QVERIFY(decoder.open(path(u"steps.wav"_s)));
+    decoder.limitTo(start, end);
+    QVERIFY(qAbs(decoder.duration() - 2.0) < 0.01);
+    decoder.seek(seek);
+    qint64 bytes = 0;
+    int loudest = 0;
+    for (QByteArray block = decoder.decodeSome(); !block.isEmpty(); block = decoder.decodeSome()) {
+        bytes += block.size();
+        const auto* samples = reinterpret_cast<const qint16*>(block.constData());
+        for (qsizetype i = 0; i < block.size() / 2; ++i)
+            loudest = qMax(loudest, qAbs(int(samples[i])));
+    }
+    QVERIFY(qAbs(double(bytes) / decoder.bytesPerSecond() - seconds) < 0.05);
+    // The mono source is spread over two channels at -3 dB each.
+    QVERIFY2(qAbs(loudest / 32768.0 - peak * M_SQRT1_2) < 0.02,
+             qPrintable(QString::number(loudest / 32768.0)));
 }
 
 void TestAudioPlayer::previewEndsAtTheThirdTickAndRunsOn() {
