@@ -245,6 +245,7 @@ private:
     std::string convert(const AVFrame* frame) {
         if (!m_resamplerChecked) {
             m_resamplerChecked = true;
+            m_firstPts = firstPts(frame);
             AVChannelLayout source{};
             sourceLayout(&source);
             const bool same = frame->format == m_encoder->sample_fmt &&
@@ -267,6 +268,26 @@ private:
         if (!m_resampler)
             return queue(frame->extended_data, frame->nb_samples);
         return resample(const_cast<const uint8_t**>(frame->extended_data), frame->nb_samples);
+    }
+
+    // The time of the first sample the encoder gets, as ffmpeg gives it: the source's time of the
+    // first decoded frame, counted from the start of the file, in samples of the output rate.
+    // A container with a start time (an MP4's edit list) keeps that offset, as with ffmpeg.
+    std::int64_t firstPts(const AVFrame* frame) const {
+        if (frame->pts == AV_NOPTS_VALUE)
+            return 0;
+        const AVStream* stream = m_input->streams[m_streamIndex];
+        std::int64_t pts = frame->pts;
+        if (m_input->start_time != AV_NOPTS_VALUE)
+            pts -= av_rescale_q(m_input->start_time, AV_TIME_BASE_Q, stream->time_base);
+        const std::int64_t inRate = frame->sample_rate;
+        const std::int64_t outRate = m_encoder->sample_rate;
+        const std::int64_t atInRate =
+            av_rescale_q(pts, stream->time_base, AVRational{1, int(inRate)});
+        if (inRate == outRate)
+            return atInRate;
+        const std::int64_t scaled = atInRate * outRate;
+        return (scaled >= 0 ? scaled + inRate / 2 : scaled - inRate / 2) / inRate;
     }
 
     std::string resample(const uint8_t** data, int samples) {
@@ -305,7 +326,7 @@ private:
         if (av_frame_get_buffer(frame.get(), 0) < 0)
             return "Error while filtering: Cannot allocate memory";
         av_audio_fifo_read(m_fifo.get(), reinterpret_cast<void**>(frame->extended_data), samples);
-        frame->pts = m_samplesDone;
+        frame->pts = m_firstPts + m_samplesDone;
         m_samplesDone += samples;
         if (m_hooks.progress)
             m_hooks.progress(m_samplesDone, m_total);
@@ -370,6 +391,7 @@ private:
     int m_frameSize = 0;
     bool m_resamplerChecked = false;
     bool m_decodingTrouble = false;
+    std::int64_t m_firstPts = 0;
     std::int64_t m_samplesDone = 0;
     std::int64_t m_total = 0;
 };

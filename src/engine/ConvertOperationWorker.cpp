@@ -18,8 +18,8 @@ ConvertOperation::WorkerPath ConvertOperation::convertWithWorker(const QStringLi
     SXLog::line(QStringLiteral("engine: worker"));
     if (m_listener)
         m_listener->didConvertOperationStart(this);
-    const ConvertWorkerRun::Result result =
-        m_workerRun.run(ConvertEngineChoice::workerPath(), arguments, [this](double percent) {
+    const ConvertWorkerRun::Result result = m_workerRun.run(
+        ConvertEngineChoice::workerPath(), arguments, m_job.sourceDuration, [this](double percent) {
             if (m_listener)
                 m_listener->convertOperationHandleProgress(this, percent);
         });

@@ -82,7 +82,7 @@ void ConvertWorkerRun::publish(pid_t pid) {
 }
 
 ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
-                                               const QStringList& arguments,
+                                               const QStringList& arguments, double seconds,
                                                const Progress& progress) {
     if (m_cancel)
         return {Result::Kind::Cancelled, {}, {}};
@@ -100,6 +100,7 @@ ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
     SXLog::line(QStringLiteral("worker %1 job %2").arg(worker->pid()).arg(id));
     publish(worker->pid());
     const QByteArray idText = QByteArray::number(id);
+    const double sampleRate = optionValue(arguments, QStringLiteral("-ar")).toDouble();
 
     Result result;
     bool cancelSent = false;
@@ -151,7 +152,8 @@ ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
         if (report.fields.value("id") != idText)
             continue;
         if (report.word == "progress") {
-            const double total = report.fields.value("total").toDouble();
+            const double total =
+                seconds > 0 ? seconds * sampleRate : report.fields.value("total").toDouble();
             if (total > 0 && progress && !cancelSent)
                 progress(report.fields.value("done").toDouble() * 100.0 / total);
             continue;

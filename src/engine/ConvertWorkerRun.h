@@ -25,10 +25,12 @@ public:
     };
     using Progress = std::function<void(double percent)>;
 
-    // `arguments`: the job's ffmpeg command line (ConvertCommandLine::arguments). NotStarted
+    // `arguments`: the job's ffmpeg command line (ConvertCommandLine::arguments); `seconds`: the
+    // source's duration, which the percentages count against as with ffmpeg (0: unknown, the
+    // worker's own estimate then). NotStarted
     // when no worker could be started (the job then goes to ffmpeg); else returns once the job
     // ended.
-    Result run(const QString& workerProgram, const QStringList& arguments,
+    Result run(const QString& workerProgram, const QStringList& arguments, double seconds,
                const Progress& progress);
     // Once running: the worker is told to stop and run() returns Cancelled; before: run() returns
     // Cancelled at once.
