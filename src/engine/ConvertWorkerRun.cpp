@@ -112,6 +112,7 @@ ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
             worker->signal(SIGCONT); // a stopped worker could not answer
             cancelSent = true;
             cancelSince = Clock::now();
+            SXLog::line(QStringLiteral("worker %1: cancel job %2").arg(worker->pid()).arg(id));
             if (!worker->send("cancel\tid=" + idText)) {
                 result.kind = Result::Kind::Cancelled;
                 break;
@@ -171,6 +172,12 @@ ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
         break;
     }
     publish(0);
+    static const char* const kKinds[] = {"done", "failed", "cancelled", "not started"};
+    SXLog::line(QStringLiteral("worker %1: job %2 %3 %4")
+                    .arg(worker->pid())
+                    .arg(id)
+                    .arg(QLatin1String(kKinds[int(result.kind)]), result.reason)
+                    .trimmed());
     if (keepWorker) {
         worker->signal(SIGCONT);
         pool.release(std::move(worker), workerProgram);
