@@ -238,13 +238,14 @@ compare_peers() { # label, folder, number of files
 # The resident size of one sonoria-worker after 10 and after 1,000 jobs (2-s WAV to MP3).
 worker_memory() { # a source WAV
     local rss10 rss1000 i
-    coproc WORKER { "$build/cli/sonoria-worker"; }
+    coproc WORKER { exec "$build/cli/sonoria-worker"; }
     local pid="$WORKER_PID"
     run_jobs() { # from, to
         for ((i = $1; i <= $2; i++)); do
             printf 'job\tid=%d\tin=%s\tout=%s\tcodec=libmp3lame\tar=44100\tb=192000\tac=2\n' \
                 "$i" "$src" "$work/mem-$((i % 2)).mp3" >&"${WORKER[1]}"
-            while read -r line <&"${WORKER[0]}"; do
+            while :; do
+                read -r line <&"${WORKER[0]}" || { echo "7. the worker ended" >&2; exit 1; }
                 case "$line" in done*) break ;; failed*) echo "worker: $line" >&2; exit 1 ;; esac
             done
         done
