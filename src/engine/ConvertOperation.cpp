@@ -147,28 +147,21 @@ void ConvertOperation::main() {
         ConvertCommandLine::arguments(ffmpeg, m_job, m_output.temporaryPath());
     SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
-    if (ConvertEngineChoice::workerTakes(m_job)) {
-        const WorkerPath path = convertWithWorker(arguments);
-        if (path == WorkerPath::CancelledEarly) {
-            m_output.discard();
-            return;
-        }
-        if (path == WorkerPath::Converted) {
-            deliverToLibrary(strOutFilePath());
-            tellFinish();
-            return;
-        }
-    }
-    SXLog::line(QStringLiteral("engine: ffmpeg"));
-
-    if (!startChild(arguments)) {
-        // Cancelled after the queue let it run but before the child started: like a waiting
-        // operation, it reports nothing; only the name it claimed is given back.
+    const WorkerPath path = ConvertEngineChoice::workerTakes(m_job) ? convertWithWorker(arguments)
+                                                                    : WorkerPath::Unavailable;
+    if (path == WorkerPath::Unavailable)
+        SXLog::line(QStringLiteral("engine: ffmpeg"));
+    // Cancelled after the queue let it run but before the child started: like a waiting
+    // operation, it reports nothing; only the name it claimed is given back.
+    if (path == WorkerPath::CancelledEarly ||
+        (path == WorkerPath::Unavailable && !startChild(arguments))) {
         m_output.discard();
         return;
     }
-    waitForChild();
-    decideOutcome();
+    if (path == WorkerPath::Unavailable) {
+        waitForChild();
+        decideOutcome();
+    }
     deliverToLibrary(strOutFilePath());
     tellFinish();
 }
