@@ -98,6 +98,10 @@ bool runJob(const worker::Message& job, InputLines& input) {
         // A cancel of this job is taken out; the jobs after it stay queued.
         std::deque<std::string>& lines = input.lines();
         for (auto line = lines.begin(); line != lines.end();) {
+            if (!line->starts_with("cancel") && !line->starts_with("quit")) {
+                ++line; // a job for later: not parsed on every frame
+                continue;
+            }
             const worker::Message message = worker::parseLine(*line);
             if (message.word == "quit")
                 quit = true;
