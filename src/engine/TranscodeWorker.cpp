@@ -56,6 +56,11 @@ std::unique_ptr<TranscodeWorker> TranscodeWorker::launch(const QString& program)
         if (::getppid() != parent)
             ::_exit(kOrphanedStatus);
         ::setpgid(0, 0);
+        // The forking thread may block signals (the program's signal watcher does); the worker
+        // starts with none blocked.
+        sigset_t none;
+        sigemptyset(&none);
+        ::sigprocmask(SIG_SETMASK, &none, nullptr);
         [[maybe_unused]] const int niceness = ::nice(TaskWrapper::kChildNicenessIncrement);
         ::dup2(toWorker[0], STDIN_FILENO);
         ::dup2(fromWorker[1], STDOUT_FILENO);
