@@ -82,12 +82,12 @@ int intField(const worker::Message& message, const std::string& key) {
 // Runs one job; returns false when the worker was told to quit meanwhile.
 bool runJob(const worker::Message& job, InputLines& input) {
     const std::string id = job.field("id");
-    worker::TranscodeJob spec{job.field("in"),
-                              job.field("out"),
-                              job.field("codec"),
-                              intField(job, "ar"),
-                              std::atoll(job.field("b").c_str()),
-                              intField(job, "ac")};
+    worker::TranscodeJob request{job.field("in"),
+                                 job.field("out"),
+                                 job.field("codec"),
+                                 intField(job, "ar"),
+                                 std::atoll(job.field("b").c_str()),
+                                 intField(job, "ac")};
     bool quit = false;
     bool cancelled = false;
     Clock::time_point lastReport{};
@@ -124,11 +124,11 @@ bool runJob(const worker::Message& job, InputLines& input) {
         send({"progress",
               {{"id", id}, {"done", std::to_string(done)}, {"total", std::to_string(total)}}});
     };
-    if (spec.sampleRate <= 0 || spec.channels <= 0) {
+    if (request.sampleRate <= 0 || request.channels <= 0) {
         send({"failed", {{"id", id}, {"reason", "Invalid job: no sample rate or channels"}}});
         return true;
     }
-    const worker::TranscodeResult result = worker::transcode(spec, hooks);
+    const worker::TranscodeResult result = worker::transcode(request, hooks);
     switch (result.outcome) {
     case worker::TranscodeOutcome::Done:
         if (result.reason.empty())
