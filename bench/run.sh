@@ -1,12 +1,12 @@
 #!/usr/bin/env bash
 # Benchmarks of sonoria-cli against bare ffmpeg/ffprobe, measured side by side in one run with the
 # two commands alternating, medians of ROUNDS rounds. Not part of the test command.
-#   bench/run.sh [all|flac|wav|load|memory|again|replaygain]     (ROUNDS=3 by default; BASELINE_CLI=path to an
+#   bench/run.sh [all|flac|wav|load|memory|again|replaygain|peers]     (ROUNDS=3 by default; BASELINE_CLI=path to an
 #   earlier sonoria-cli adds it to the conversion and loading benchmarks)
 set -euo pipefail
 source "$(dirname "$0")/common.sh"
 which="${1:-all}"
-bench_prepare cli sonoria-cli
+bench_prepare cli sonoria-cli sonoria-worker
 
 per_file() { awk -v t="$1" -v n="$2" 'BEGIN { printf "%.2f", t / n }'; } # ms in all, files
 
@@ -197,6 +197,85 @@ bench_replaygain() {
     echo "    rounds: plain ${plain[*]} / replaygain ${gain[*]}; CPU ms plain ${c1[*]} / replaygain ${c2[*]}"
 }
 
+# The bare ffmpeg command of benchmark 7: the argument list the conversion operation builds for
+# MP3 at 192 kbit/s.
+bare_mp3_192() { # folder of sources, output folder
+    find "$1" -name "*.wav" -print0 | xargs -0 -P 2 -n 1 sh -c \
+        'ffmpeg -i "$1" -vn -acodec libmp3lame -ar 44100.00 -b:a 192.00k -ac 2 -y \
+            "$0/$(basename "$1").mp3" </dev/null >/dev/null 2>&1' "$2"
+}
+
+# The GStreamer converter in batch mode (it needs no display there).
+soundconverter_mp3() { # folder of sources, output folder
+    soundconverter -b -j 2 -f mp3 -m cbr -q 192 -o "$2" "$1"/*.wav >/dev/null 2>&1
+}
+
+# Alternates the tool, bare ffmpeg and the GStreamer converter over one folder; prints the
+# medians and the tool's ratios to both.
+compare_peers() { # label, folder, number of files
+    local label="$1" src="$2" count="$3" i a b c
+    local ta=() ca=() tb=() cb=() tc=() cc=()
+    for ((i = 1; i <= rounds; i++)); do
+        rm -rf "$work/outA" "$work/outB" "$work/outC"; mkdir -p "$work/outA" "$work/outB" "$work/outC"
+        measure ta ca "$cli" -f MP3 -b 192 -j 2 --no-organize -o "$work/outA" "$src"
+        measure tb cb bash -c "$(declare -f bare_mp3_192); bare_mp3_192 \"\$@\"" _ "$src" "$work/outB"
+        if [ -n "$peer" ]; then
+            measure tc cc bash -c "$(declare -f soundconverter_mp3); soundconverter_mp3 \"\$@\"" _ "$src" "$work/outC"
+            [ "$(find "$work/outC" -name '*.mp3' | wc -l)" -eq "$count" ] || { echo "7. soundconverter wrote $(find "$work/outC" -name '*.mp3' | wc -l) of $count files" >&2; exit 1; }
+        fi
+        [ "$(find "$work/outA" -name '*.mp3' | wc -l)" -eq "$count" ] || { echo "7. sonoria-cli wrote too few files" >&2; exit 1; }
+    done
+    a=$(printf '%s\n' "${ta[@]}" | median)
+    b=$(printf '%s\n' "${tb[@]}" | median)
+    echo "$label: sonoria-cli ${a} ms, ffmpeg+xargs ${b} ms (cli/ffmpeg $(ratio "$a" "$b"))"
+    echo "    rounds: cli ${ta[*]} / ffmpeg ${tb[*]}; CPU ms cli ${ca[*]} / ffmpeg ${cb[*]}"
+    if [ -n "$peer" ]; then
+        c=$(printf '%s\n' "${tc[@]}" | median)
+        echo "    soundconverter ${c} ms (cli/soundconverter $(ratio "$a" "$c")); rounds ${tc[*]}; CPU ms ${cc[*]}"
+    fi
+}
+
+# The resident size of one sonoria-worker after 10 and after 1,000 jobs (2-s WAV to MP3).
+worker_memory() { # a source WAV
+    local rss10 rss1000 i
+    coproc WORKER { exec "$build/cli/sonoria-worker"; }
+    local pid="$WORKER_PID"
+    run_jobs() { # from, to
+        for ((i = $1; i <= $2; i++)); do
+            printf 'job\tid=%d\tin=%s\tout=%s\tcodec=libmp3lame\tar=44100\tb=192000\tac=2\n' \
+                "$i" "$src" "$work/mem-$((i % 2)).mp3" >&"${WORKER[1]}"
+            while :; do
+                read -r line <&"${WORKER[0]}" || { echo "7. the worker ended" >&2; exit 1; }
+                case "$line" in done*) break ;; failed*) echo "worker: $line" >&2; exit 1 ;; esac
+            done
+        done
+    }
+    local src="$1"
+    run_jobs 1 10
+    rss10=$(awk '/VmRSS/ { print $2 }' "/proc/$pid/status")
+    run_jobs 11 1000
+    rss1000=$(awk '/VmRSS/ { print $2 }' "/proc/$pid/status")
+    printf 'quit\n' >&"${WORKER[1]}"
+    wait "$pid" || true
+    echo "    worker VmRSS after 10 jobs ${rss10} KB, after 1,000 jobs ${rss1000} KB:" \
+         "$(ratio "$rss1000" "$rss10") (target within 10 %)"
+}
+
+bench_peers() {
+    peer=""
+    if command -v soundconverter >/dev/null; then peer=1; fi
+    [ -n "$peer" ] || echo "7. soundconverter is missing: only sonoria-cli and ffmpeg are compared"
+    mkdir -p "$work/short" "$work/long"
+    ffm -f lavfi -i "sine=f=440:d=2" -ac 2 "$work/short/clip001.wav"
+    for i in $(seq 2 200); do cp "$work/short/clip001.wav" "$work/short/clip$(printf %03d "$i").wav"; done
+    ffm -f lavfi -i "anoisesrc=color=pink:duration=150" -f lavfi -i "sine=f=440:d=150" \
+        -filter_complex amix -ac 2 "$work/long/song1.wav"
+    for i in 2 3 4; do cp "$work/long/song1.wav" "$work/long/song$i.wav"; done
+    compare_peers "7. a. 200 WAV x 2 s -> MP3 192k, 2 jobs (target cli <= 0.67 x soundconverter)" "$work/short" 200
+    compare_peers "   b. 4 WAV x 150 s -> MP3 192k, 2 jobs (target cli <= 1.03 x ffmpeg)" "$work/long" 4
+    worker_memory "$work/short/clip001.wav"
+}
+
 echo "machine: $(nproc) cores, $(grep -m1 'model name' /proc/cpuinfo | cut -d: -f2 | sed 's/^ //'); load: $(cut -d' ' -f1-3 /proc/loadavg)"
 case "$which" in
     all) bench_flac; bench_wav; bench_load; bench_memory ;;
@@ -206,6 +285,7 @@ case "$which" in
     memory) bench_memory ;;
     again) bench_again ;;
     replaygain) bench_replaygain ;;
+    peers) bench_peers ;;
     *) echo "unknown benchmark: $which" >&2; exit 2 ;;
 esac
 echo "load after: $(cut -d' ' -f1-3 /proc/loadavg)"

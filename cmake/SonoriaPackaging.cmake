@@ -10,7 +10,8 @@ set(CPACK_PACKAGE_DESCRIPTION
     "Sonoria converts audio files, and the sound of video files, to MP3, AAC, FLAC, Ogg Vorbis,
 Opus, WAV, WMA, ringtones and other audio formats with ffmpeg, several at a time, and copies
 their tags and cover art into the results. Files are dropped into containers, one per output
-format. The package holds the desktop program sonoria and the command-line tool sonoria-cli.")
+format. The package holds the desktop program sonoria, the command-line tool sonoria-cli and
+sonoria-worker, the converter both keep running for short files.")
 set(CPACK_PACKAGE_HOMEPAGE_URL "https://sonoria.app")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)

@@ -4,6 +4,7 @@
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"
+#include "engine/ConvertEngineChoice.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
 #include "engine/ConvertOutputPath.h"
@@ -146,15 +147,21 @@ void ConvertOperation::main() {
         ConvertCommandLine::arguments(ffmpeg, m_job, m_output.temporaryPath());
     SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
-
-    if (!startChild(arguments)) {
-        // Cancelled after the queue let it run but before the child started: like a waiting
-        // operation, it reports nothing; only the name it claimed is given back.
+    const WorkerPath path = ConvertEngineChoice::workerTakes(m_job) ? convertWithWorker(arguments)
+                                                                    : WorkerPath::Unavailable;
+    if (path == WorkerPath::Unavailable)
+        SXLog::line(QStringLiteral("engine: ffmpeg"));
+    // Cancelled after the queue let it run but before the child started: like a waiting
+    // operation, it reports nothing; only the name it claimed is given back.
+    if (path == WorkerPath::CancelledEarly ||
+        (path == WorkerPath::Unavailable && !startChild(arguments))) {
         m_output.discard();
         return;
     }
-    waitForChild();
-    decideOutcome();
+    if (path == WorkerPath::Unavailable) {
+        waitForChild();
+        decideOutcome();
+    }
     deliverToLibrary(strOutFilePath());
     tellFinish();
 }
@@ -256,6 +263,10 @@ void ConvertOperation::decideOutcome() {
         m_output.discard();
         return;
     }
+    concludeOutput();
+}
+
+void ConvertOperation::concludeOutput() {
     const QString reason = finishOutput();
     if (!reason.isEmpty()) {
         fail(reason);
@@ -352,6 +363,14 @@ void ConvertOperation::cancel() {
     QMutexLocker locker(&m_lock);
     if (isFinished() || m_childEnded)
         return; // the outcome is decided; nothing is left to stop
+    if (m_onWorker) {
+        // The worker stops between two frames and main discards the partial output.
+        m_workerRun.cancel();
+        SXOperation::cancel();
+        setStateLocked(CvtStateCanceled);
+        isUserCancel = true;
+        return;
+    }
     if (wraperTask) {
         const SXMusicInfoPtr item = _musicToConvert;
         if (item && item->mediaInfo() && item->mediaInfo()->eumCvtState() == CvtStatePaused)
@@ -373,18 +392,24 @@ void ConvertOperation::cancel() {
 
 void ConvertOperation::pause() {
     QMutexLocker locker(&m_lock);
-    if (!wraperTask || m_childEnded)
+    if ((!wraperTask && !m_onWorker) || m_childEnded)
         return;
     setStateLocked(CvtStatePaused);
-    wraperTask->suspend();
+    if (m_onWorker)
+        m_workerRun.pause();
+    else
+        wraperTask->suspend();
 }
 
 void ConvertOperation::resume() {
     QMutexLocker locker(&m_lock);
-    if (!wraperTask || m_childEnded)
+    if ((!wraperTask && !m_onWorker) || m_childEnded)
         return;
     setStateLocked(CvtStateConverting);
-    wraperTask->resume();
+    if (m_onWorker)
+        m_workerRun.resume();
+    else
+        wraperTask->resume();
 }
 
 void ConvertOperation::appendOutput(const QString& output) {

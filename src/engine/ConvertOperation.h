@@ -4,6 +4,7 @@
 #include "engine/ConvertOperationListener.h"
 #include "engine/ConvertOutputFile.h"
 #include "engine/ConvertProgressTracker.h"
+#include "engine/ConvertWorkerRun.h"
 #include "engine/SXOperation.h"
 #include "engine/TaskWrapperController.h"
 #include "model/SXMusicInfo.h"
@@ -17,10 +18,12 @@
 class QEventLoop;
 class TaskWrapper;
 
-// Converts one item into one output file with an ffmpeg child process: builds the command line
-// from its job, runs the child into a temporary file while its console text drives the
-// progress the listener hears of, and calls the item finished only when the child exited
-// cleanly, said nothing of a failure and its output reads back whole (ConvertVerification); then
+// Converts one item into one output file with an ffmpeg child process, or with a long-lived
+// sonoria-worker when that makes the same file (ConvertEngineChoice; ConvertOperationWorker.cpp):
+// builds the command line from its job, runs the child into a temporary file while its console
+// text (or the worker's reports) drives the progress the listener hears of, and calls the item
+// finished only when the child exited cleanly, said nothing of a failure and its output reads
+// back whole (ConvertVerification); then
 // copies the tags, moves the file to a final name that replaces nothing and hands it to the
 // music library. The item's record gets the run's state and, for every failure, its reason; the
 // job is never changed.
@@ -69,6 +72,10 @@ private:
     bool startChild(const QStringList& arguments);
     void waitForChild();
     void decideOutcome();
+    // What becomes of a conversion that was not cancelled: checked, tagged and named, or failed.
+    void concludeOutput();
+    enum class WorkerPath { Unavailable, Converted, CancelledEarly };
+    WorkerPath convertWithWorker(const QStringList& arguments);
     // Verifies the child's output, writes its tags and gives it its final name: empty on
     // success, else the reason the conversion failed.
     // Keeps on the item what of its tags arrived in `outputPath`.
@@ -97,7 +104,9 @@ private:
     bool m_childEnded = false;       // outcome decided: cancel comes too late
     std::atomic<bool> m_terminated{false};
     ConvertOutputFile m_output; // worker thread only
-    QString m_console;          // the end of the child's console text; worker thread only
+    ConvertWorkerRun m_workerRun;
+    bool m_onWorker = false; // the job went to a sonoria-worker; guarded by m_lock
+    QString m_console;       // the end of the child's console text; worker thread only
 };
 
 using ConvertOperationPtr = std::shared_ptr<ConvertOperation>;
