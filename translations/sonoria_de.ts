@@ -397,6 +397,25 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
         <source>the file cannot be opened</source>
         <translation>die Datei kann nicht geöffnet werden</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>Der Konverter ist gescheitert: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>Der Konverter hat %n Sekunde lang nicht geantwortet</numerusform>
+            <numerusform>Der Konverter hat %n Sekunden lang nicht geantwortet</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>Der Konverter wurde unerwartet beendet (Signal %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>Der Konverter wurde unerwartet beendet (Exit-Status %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>

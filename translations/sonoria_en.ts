@@ -396,6 +396,25 @@ cancels the run; partial outputs are removed).
         <source>the file cannot be opened</source>
         <translation>the file cannot be opened</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>The converter failed: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>The converter stopped responding for %n second</numerusform>
+            <numerusform>The converter stopped responding for %n seconds</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>The converter stopped unexpectedly (signal %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>The converter stopped unexpectedly (exit status %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>

@@ -397,6 +397,25 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>the file cannot be opened</source>
         <translation>no se puede abrir el archivo</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>El conversor falló: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>El conversor dejó de responder durante %n segundo</numerusform>
+            <numerusform>El conversor dejó de responder durante %n segundos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>El conversor se detuvo de forma inesperada (señal %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>El conversor se detuvo de forma inesperada (estado de salida %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>

@@ -398,6 +398,25 @@ partielles sont supprimées).
         <source>the file cannot be opened</source>
         <translation>le fichier ne peut pas être ouvert</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>Le convertisseur a échoué : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>Le convertisseur n’a pas répondu pendant %n seconde</numerusform>
+            <numerusform>Le convertisseur n’a pas répondu pendant %n secondes</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>Le convertisseur s’est arrêté de façon inattendue (signal %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>Le convertisseur s’est arrêté de façon inattendue (code de sortie %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>

@@ -397,6 +397,25 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>the file cannot be opened</source>
         <translation>impossibile aprire il file</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>Il convertitore non è riuscito: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>Il convertitore non ha risposto per %n secondo</numerusform>
+            <numerusform>Il convertitore non ha risposto per %n secondi</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>Il convertitore si è interrotto inaspettatamente (segnale %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>Il convertitore si è interrotto inaspettatamente (stato di uscita %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>

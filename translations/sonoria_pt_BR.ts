@@ -397,6 +397,25 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>the file cannot be opened</source>
         <translation>não foi possível abrir o arquivo</translation>
     </message>
+    <message>
+        <source>The converter failed: %1</source>
+        <translation>O conversor falhou: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>The converter stopped responding for %n seconds</source>
+        <translation>
+            <numerusform>O conversor parou de responder por %n segundo</numerusform>
+            <numerusform>O conversor parou de responder por %n segundos</numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (signal %1)</source>
+        <translation>O conversor parou inesperadamente (sinal %1)</translation>
+    </message>
+    <message>
+        <source>The converter stopped unexpectedly (exit status %1)</source>
+        <translation>O conversor parou inesperadamente (status de saída %1)</translation>
+    </message>
 </context>
 <context>
     <name>ConvertLoudness</name>
