@@ -138,6 +138,35 @@ void LSMediaLoader::loadMediasWithMediaArray(const SXMusicInfoList& medias) {
     }
 }
 
+void LSMediaLoader::loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch) {
+    {
+        QMutexLocker locker(&m_lock);
+        ++m_runningWorkers;
+    }
+    std::shared_ptr<LSMediaLoader> self = shared_from_this();
+    const auto work = [self, makeBatch = std::move(makeBatch)] {
+        self->loadOnThisThread(self->bCanceled() ? SXMusicInfoList() : makeBatch());
+        self->workerFinished();
+    };
+    try {
+        std::thread(work).detach();
+    } catch (const std::system_error&) {
+        work(); // no thread to be had: the caller waits instead
+    }
+}
+
+void LSMediaLoader::loadOnThisThread(const SXMusicInfoList& medias) {
+    if (medias.isEmpty()) {
+        completeLoad(std::nullopt, std::nullopt);
+        return;
+    }
+    {
+        QMutexLocker locker(&m_lock);
+        m_aryMediasToLoad = medias;
+    }
+    loadMediasThread(medias);
+}
+
 void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {
     QSet<int> failedIndex;
     const int count = int(medias.size());

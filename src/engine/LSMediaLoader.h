@@ -4,7 +4,9 @@
 
 #include <QMutex>
 #include <QWaitCondition>
+
 #include <atomic>
+#include <functional>
 #include <memory>
 
 // Probes one batch of added items on its own worker thread: audio properties, file size and
@@ -24,6 +26,10 @@ public:
     // Starts a detached worker for a non-empty batch and returns at once. An empty batch is
     // completed on the calling thread before this returns.
     void loadMediasWithMediaArray(const SXMusicInfoList& medias);
+    // Makes the batch with `makeBatch` on a worker of its own (scanning a large drop takes a
+    // while), then loads it there. waitUntilDone() waits for the making too: a batch still being
+    // made when its window goes must not read the settings of a program that is ending.
+    void loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch);
     SXMusicInfoList aryMediasToLoad() const;
 
     // Noticed by the worker before the next item and after the current item's probe.
@@ -37,6 +43,7 @@ public:
 private:
     LSMediaLoader() = default;
     void loadMediasThread(const SXMusicInfoList& medias);
+    void loadOnThisThread(const SXMusicInfoList& medias);
     void completeLoad(const std::optional<SXMusicInfoList>& medias,
                       const std::optional<QSet<int>>& failedIndex);
     void workerFinished();

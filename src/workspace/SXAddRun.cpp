@@ -50,11 +50,13 @@ SXAddRun::SXAddRun(SXContainerStore& store, SXWorkspacePreview& preview, QObject
           }) {}
 
 SXAddRun::~SXAddRun() {
-    // A worker that still runs must not report to a workspace that is gone.
-    if (m_mediaLoader) {
-        m_mediaLoader->setListener(nullptr);
-        m_mediaLoader->cancel();
-        m_mediaLoader->waitUntilDone();
+    // A worker that still runs must not report to a workspace that is gone, nor outlive it.
+    if (m_mediaLoader)
+        m_earlierLoaders.push_back(m_mediaLoader);
+    for (const LSMediaLoaderPtr& loader : m_earlierLoaders) {
+        loader->setListener(nullptr);
+        loader->cancel();
+        loader->waitUntilDone();
     }
 }
 
@@ -67,24 +69,22 @@ void SXAddRun::loadAndParseFiles(const QStringList& paths) {
     Q_EMIT loadProgressValue(0.0);
     m_store.setAppState(AppStateLoading);
 
-    if (m_mediaLoader)
+    if (m_mediaLoader) {
         m_mediaLoader->setListener(nullptr);
+        if (!m_mediaLoader->waitUntilDone(0))
+            m_earlierLoaders.push_back(m_mediaLoader);
+    }
     m_mediaLoader = LSMediaLoader::create();
     m_mediaLoader->setListener(this);
 
     // Scanning folders and making the items of a large drop takes a while: the batch is made
     // on a thread of its own from what the container holds now, then handed to the loader.
-    // The thread keeps only the loader and the values it was given.
+    // The thread keeps only the loader and the values it was given; the loader counts it as
+    // running, so that the end of the run waits for it.
     const QString container = m_store.getSelectedMusicFormat();
     const SXMusicInfoList current = m_store.getCurTableDatasource();
-    const LSMediaLoaderPtr loader = m_mediaLoader;
-    try {
-        std::thread([loader, paths, container, current] {
-            loader->loadMediasWithMediaArray(makeBatch(paths, container, current));
-        }).detach();
-    } catch (const std::system_error&) {
-        loader->loadMediasWithMediaArray(makeBatch(paths, container, current));
-    }
+    m_mediaLoader->loadBatchMadeBy(
+        [paths, container, current] { return makeBatch(paths, container, current); });
 }
 
 SXMusicInfoList SXAddRun::makeBatch(const QStringList& paths, const QString& container,

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "base/SXPathFailure.h"
 #include "engine/LSMediaLoader.h"
 #include "workspace/SXContainerStore.h"
@@ -85,5 +87,7 @@ private:
     SXContainerStore& m_store;
     SXWorkspacePreview& m_preview;
     LSMediaLoaderPtr m_mediaLoader;
+    // Loaders replaced while their worker still ran; waited for when the run goes.
+    std::vector<LSMediaLoaderPtr> m_earlierLoaders;
     SXLoadProgressRelay m_loadProgress;
 };
