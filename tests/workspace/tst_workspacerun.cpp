@@ -22,14 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int kRunTimeoutMs = 180000;
 
-bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths) {
-    if (!workspace.tabs().selectContainer(container))
-        return false;
-    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles(paths);
-    return finished.count() > 0 || finished.wait(60000);
-}
-
 QStringList filesIn(const QString& folder) {
     return QDir(folder).entryList(QDir::Files, QDir::Name);
 }

@@ -71,15 +71,11 @@ void TestPreviewWindow::cleanup() {
 }
 
 SXMusicInfoList TestPreviewWindow::addFiles(const QStringList& names) {
-    SXWorkspace& workspace = m_window->workspace();
-    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
     QStringList paths;
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
-    workspace.addRun().loadAndParseFiles(paths);
-    if (loaded.isEmpty())
-        loaded.wait(30000);
-    return workspace.store().getCurTableDatasource();
+    ::addFiles(m_window->workspace(), paths);
+    return m_window->workspace().store().getCurTableDatasource();
 }
 
 void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
