@@ -111,13 +111,10 @@ SXMusicInfoList TestMetadataEditor::addFiles(const QString& container, const QSt
     if (!m_workspace->tabs().selectContainer(container))
         m_workspace->tabs().addContainerWithFormat(
             SXDataEngine::shareInstance()->getFormatWithName(container));
-    QSignalSpy loaded(&m_workspace->addRun(), &SXAddRun::loadFinished);
     QStringList paths;
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
-    m_workspace->addRun().loadAndParseFiles(paths);
-    if (loaded.isEmpty())
-        loaded.wait(30000);
+    ::addFiles(*m_workspace, paths);
     return m_workspace->store().getDataForFormat(container);
 }
 
@@ -286,9 +283,9 @@ void TestMetadataEditor::positionIsRememberedAsAPointString() {
 void TestMetadataEditor::editsReachTheConvertedFileOnce_data() {
     QTest::addColumn<QString>("container");
     QTest::addColumn<bool>("keepArtwork");
-    QTest::newRow("MP3") << u"MP3"_s << true;
+    // Each kind carrying each field once is the tag copy matrix's (tst_tagcopymatrix); here the
+    // dialog's edits reach a converted file, with its artwork and without.
     QTest::newRow("FLAC") << u"FLAC"_s << true;
-    QTest::newRow("M4A") << u"AAC"_s << true;
     QTest::newRow("MP3, artwork deleted") << u"MP3"_s << false;
 }
 
