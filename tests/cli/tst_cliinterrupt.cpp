@@ -76,21 +76,20 @@ void TestCliInterrupt::closedOutputPipeDoesNotStopTheRun() {
     const QString out = fresh(u"closed pipe"_s);
     const QString second = fresh(u"second tone.wav"_s);
     QVERIFY(SonoriaTest::makeTone(second, 2.0));
-    QProcess process;
     QProcessEnvironment env = SonoriaTest::cliEnvironment();
     env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
     env.insert(u"OUT"_s, out);
     env.insert(u"FIRST"_s, source(u"plain tone.wav"_s));
     env.insert(u"LONG"_s, m_long);
     env.insert(u"SECOND"_s, second);
-    process.setProcessEnvironment(env);
-    process.start(u"bash"_s, {u"-c"_s, u"\"$CLI\" -j 2 --no-organize -o \"$OUT\" \"$FIRST\" "
-                                       u"\"$LONG\" \"$SECOND\" | head -c1\n"
-                                       u"exit \"${PIPESTATUS[0]}\""_s});
-    QVERIFY(process.waitForFinished(180000));
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.readAllStandardOutput(), QByteArray("d")); // of "done: "
-    QCOMPARE(process.exitCode(), 0);
+    const SonoriaTest::RunResult result =
+        SonoriaTest::runProgram(u"bash"_s,
+                                {u"-c"_s, u"\"$CLI\" -j 2 --no-organize -o \"$OUT\" "
+                                          u"\"$FIRST\" \"$LONG\" \"$SECOND\" | head -c1\n"
+                                          u"exit \"${PIPESTATUS[0]}\""_s},
+                                env);
+    QCOMPARE(result.out, u"d"_s); // of "done: "
+    QCOMPARE(result.exitCode, 0);
     // Every file whole: as long as its source.
     QCOMPARE(SonoriaTest::filesBelow(out, true),
              (QStringList{u"long.mp3"_s, u"plain tone.mp3"_s, u"second tone.mp3"_s}));

@@ -67,7 +67,7 @@ private Q_SLOTS:
     // changes no decimal point.
     void albumTags() {
         const QString out = m_work.filePath(u"tagged"_s);
-        const SonoriaTest::CliResult result =
+        const SonoriaTest::RunResult result =
             SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
                                  u"48000"_s, u"--no-organize"_s, u"-o"_s, out, m_album.at(0),
                                  m_album.at(1), m_album.at(2), m_single},
@@ -101,7 +101,7 @@ private Q_SLOTS:
     // gain fields left to apply it twice.
     void albumNormalised() {
         const QString out = m_work.filePath(u"normalised"_s);
-        const SonoriaTest::CliResult result =
+        const SonoriaTest::RunResult result =
             SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"--normalise"_s, u"-f"_s,
                                  u"FLAC"_s, u"-r"_s, u"48000"_s, u"--no-organize"_s, u"-o"_s, out,
                                  m_album.at(0), m_album.at(1), m_album.at(2)});
@@ -125,7 +125,7 @@ private Q_SLOTS:
         QVERIFY(SonoriaTest::makeTone(cut, 2.0));
         QVERIFY(SonoriaTest::cutFlacAfterMetadata(cut));
         const QString out = m_work.filePath(u"cut-out"_s);
-        const SonoriaTest::CliResult result = SonoriaTest::runCli(
+        const SonoriaTest::RunResult result = SonoriaTest::runCli(
             {u"--replaygain"_s, u"track"_s, u"--no-organize"_s, u"-o"_s, out, cut, m_single});
         QCOMPARE(result.exitCode, 1);
         QVERIFY2(result.out.contains(

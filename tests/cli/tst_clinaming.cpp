@@ -31,7 +31,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
         "--no-organize", "--pattern", "{artist}/{title}", "--mirror", "-o", out, in};
     const QStringList tree{u"A"_s, u"A/Nina"_s,           u"A/Nina/One.mp3"_s,
                            u"B"_s, u"B/Unknown Artist"_s, u"B/Unknown Artist/x.mp3"_s};
-    SonoriaTest::CliResult result = SonoriaTest::runCli(arguments);
+    SonoriaTest::RunResult result = SonoriaTest::runCli(arguments);
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(SonoriaTest::filesBelow(out, true), tree);
     QVERIFY2(result.out.contains(u"done: %1/A/x.flac -> %2/A/Nina/One.mp3"_s.arg(in, out)),

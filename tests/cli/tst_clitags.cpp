@@ -16,7 +16,7 @@ class TestCliTags : public QObject {
     QString m_source;
 
     static int runCli(const QStringList& arguments, QString* out) {
-        const SonoriaTest::CliResult result = SonoriaTest::runCli(arguments);
+        const SonoriaTest::RunResult result = SonoriaTest::runCli(arguments);
         *out = result.out;
         return result.exitCode;
     }

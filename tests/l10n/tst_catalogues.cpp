@@ -237,7 +237,7 @@ void TestCatalogues::toolSpeaksTheLocale() {
         arguments.append(dir.filePath(u"tone %1.wav"_s.arg(i)));
         QVERIFY(SonoriaTest::makeTone(arguments.last(), 0.2));
     }
-    const SonoriaTest::CliResult cli =
+    const SonoriaTest::RunResult cli =
         SonoriaTest::runCli(arguments, SonoriaTest::cliEnvironment(lang));
     QCOMPARE(cli.exitCode, 0);
     // Until a catalogue of the locale's language exists, the English one speaks.

@@ -75,13 +75,14 @@ QProcessEnvironment cliEnvironment(const QString& language) {
     return env;
 }
 
-CliResult runCli(const QStringList& arguments, const QProcessEnvironment& environment,
-                 const QString& workingDirectory) {
+RunResult runProgram(const QString& program, const QStringList& arguments,
+                     const QProcessEnvironment& environment, const QString& workingDirectory) {
     QProcess process;
-    process.setProcessEnvironment(environment.isEmpty() ? cliEnvironment() : environment);
+    if (!environment.isEmpty())
+        process.setProcessEnvironment(environment);
     process.setWorkingDirectory(workingDirectory);
-    process.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
-    CliResult result;
+    process.start(program, arguments);
+    RunResult result;
     if (!process.waitForFinished(300000)) {
         process.kill();
         process.waitForFinished();
@@ -91,6 +92,12 @@ CliResult runCli(const QStringList& arguments, const QProcessEnvironment& enviro
     result.err = QString::fromUtf8(process.readAllStandardError());
     result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
     return result;
+}
+
+RunResult runCli(const QStringList& arguments, const QProcessEnvironment& environment,
+                 const QString& workingDirectory) {
+    return runProgram(QStringLiteral(SONORIA_CLI_PATH), arguments,
+                      environment.isEmpty() ? cliEnvironment() : environment, workingDirectory);
 }
 
 QStringList lines(const QString& text) {

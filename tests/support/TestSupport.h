@@ -23,17 +23,22 @@ QString configHome(); // $XDG_CONFIG_HOME of that home, where the settings store
 int run(const QString& program, const QStringList& arguments, QString* output = nullptr,
         int timeoutMs = 120000);
 
-// What a run of sonoria-cli printed, and its exit code (-1 when it did not end by itself).
-struct CliResult {
+// What a program printed, and its exit code (-1 when it did not end by itself).
+struct RunResult {
     int exitCode = -1;
     QString out;
     QString err;
 };
+// Runs a program to its end in `environment` (this process's when empty) and `workingDirectory`
+// (this process's when empty), keeping its two outputs apart.
+RunResult runProgram(const QString& program, const QStringList& arguments,
+                     const QProcessEnvironment& environment = {},
+                     const QString& workingDirectory = {});
 // The environment sonoria-cli runs in: this process's temporary home, `language` for every
 // locale category (the C locale reads the English catalogue), no verbose switch.
 QProcessEnvironment cliEnvironment(const QString& language = QStringLiteral("C"));
 // Runs sonoria-cli to its end in `environment` (cliEnvironment() when empty).
-CliResult runCli(const QStringList& arguments, const QProcessEnvironment& environment = {},
+RunResult runCli(const QStringList& arguments, const QProcessEnvironment& environment = {},
                  const QString& workingDirectory = {});
 // The lines of a program's output, empty ones dropped.
 QStringList lines(const QString& text);

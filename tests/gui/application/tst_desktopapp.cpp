@@ -192,14 +192,8 @@ void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
     QCOMPARE(beeps.count(), 0);
 }
 
+// (The container commands reach it by their keys: containerKeysCycleTheTabs.)
 void TestDesktopApp::menuCommandsReachTheKeyWindow() {
-    SXWorkspace& ws = window().workspace();
-    const int tabs = ws.store().tabLabels().size();
-    ws.tabs().selectNextContainer();
-    const int selected = ws.store().selectedTabIndex();
-    action(SXCommand::PreviousContainer)->trigger();
-    QCOMPARE(ws.store().selectedTabIndex(), (selected - 1 + tabs) % tabs);
-
     // Help opens the page staged with the resources (installed alike), made from the README.
     {
         LogCapture log;
