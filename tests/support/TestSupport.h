@@ -89,6 +89,14 @@ QList<qint64> processesMentioning(const QString& text);
 
 } // namespace SonoriaTest
 
+// Passes when the list `expression` gives is empty; names its entries (what a walk found)
+// when it is not.
+#define SONORIA_VERIFY_NONE(expression)                                                            \
+    do {                                                                                           \
+        const QStringList found_ = (expression);                                                   \
+        QVERIFY2(found_.isEmpty(), qPrintable(found_.join(QLatin1Char('\n'))));                    \
+    } while (false)
+
 #define SONORIA_TEST_MAIN(TestObject)                                                              \
     int main(int argc, char** argv) {                                                              \
         SonoriaTest::prepareEnvironment();                                                         \

@@ -74,6 +74,12 @@ template <class Workspace> bool closes(Workspace& workspace) {
     return mayClose;
 }
 
+// Gives `workspace` the fixed containers, answered by `presenter`.
+inline void prepareWorkspace(SXWorkspace& workspace, SXWorkspacePresenter* presenter) {
+    workspace.store().setPresenter(presenter);
+    workspace.tabs().addDefaultTabs();
+}
+
 // Adds `paths` to `container` (the selected one when empty) and waits for the add run to end;
 // the items that failed to load go to *failed when given. False when it did not end.
 inline bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths,

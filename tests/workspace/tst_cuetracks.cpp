@@ -132,8 +132,7 @@ void TestCueTracks::initTestCase() {
 }
 
 void TestCueTracks::prepare(SXWorkspace& workspace) {
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     for (const QString& format : {u"FLAC"_s, u"WAV"_s}) {
         m_presenter.formatAnswer = format;
         workspace.tabs().addContainer();

@@ -91,8 +91,7 @@ private Q_SLOTS:
         }
         WorkspaceTestPresenter presenter;
         SXWorkspace workspace;
-        workspace.store().setPresenter(&presenter);
-        workspace.tabs().addDefaultTabs();
+        prepareWorkspace(workspace, &presenter);
         QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
         SXSettingPanelActions::setReplayGain(workspace.store(), SXReplayGainMode::Album);
         QVERIFY(addFiles(workspace, sources));

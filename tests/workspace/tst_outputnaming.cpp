@@ -87,8 +87,7 @@ void TestOutputNaming::init() {
 
 int TestOutputNaming::setUp(SXWorkspace& workspace, const QStringList& paths,
                             const QString& pattern, bool mirror) {
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     if (!workspace.tabs().selectContainer(u"MP3"_s))
         return -1;
     SXSettingPanelActions::setNamePattern(workspace.store(), pattern);

@@ -93,8 +93,7 @@ void TestMetadataEditor::initTestCase() {
 void TestMetadataEditor::init() {
     m_presenter = WorkspaceTestPresenter();
     m_workspace = std::make_unique<SXWorkspace>();
-    m_workspace->store().setPresenter(&m_presenter);
-    m_workspace->tabs().addDefaultTabs();
+    prepareWorkspace(*m_workspace, &m_presenter);
     m_window = std::make_unique<QWidget>();
     m_window->resize(700, 500);
     m_window->show();
@@ -133,8 +132,7 @@ void TestMetadataEditor::fillingWritesNothingAndTypingWritesOnlyItsField() {
     for (int tab : {2, 1, 0}) {
         m_editor->findChild<QTabWidget*>(u"tabView"_s)->setCurrentIndex(tab);
         // Every control of the page has a name a screen reader says, and Tab reaches it.
-        const QStringList problems = SonoriaGuiTest::accessibilityProblems(m_editor);
-        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+        SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(m_editor));
     }
     QCOMPARE(tags->dicReadInfo(), before); // shown, not written back
 

@@ -65,8 +65,7 @@ void TestNamingChoices::panelEditsTheContainersNaming() {
                  stored.contains(u"\"mirrorFolders\":true"_s),
              qPrintable(stored));
 
-    const QStringList problems = accessibilityProblems(&panel);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    SONORIA_VERIFY_NONE(accessibilityProblems(&panel));
 }
 
 void TestNamingChoices::preferencesStoreTheChoiceForExistingOutputs() {

@@ -104,8 +104,7 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     auto* list = m_window->findChild<SXItemListView*>();
     QTRY_COMPARE(list->visualRect(list->model()->index(0, 0)).width(), list->viewport()->width());
     QVERIFY(!list->horizontalScrollBar()->isVisible());
-    const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(panel));
 
     // It follows the selection, with the core's texts for the row (tst_fileinfotext).
     workspace.store().setSelectedRows({1});

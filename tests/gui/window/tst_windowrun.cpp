@@ -145,8 +145,7 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     QVERIFY(sheet);
     QVERIFY(sheet->findChildren<QLabel*>().size() > 0);
     grab(sheet, QStringLiteral("output-folder"));
-    const QStringList problems = accessibilityProblems(sheet);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(accessibilityProblems(sheet));
     sheet->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
     auto* organise = sheet->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
     QVERIFY(organise->isChecked()); // on unless the user turned it off
