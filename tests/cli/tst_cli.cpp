@@ -1,42 +1,21 @@
+#include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
 #include <QFileInfo>
-#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <csignal>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
 using SonoriaTest::filesBelow;
+using SonoriaTest::lines;
+using SonoriaTest::RunResult;
 
 namespace {
-
-struct CliResult {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
 // The source tree: awkward names, a sub-folder, and several input kinds.
 const QStringList kSources{u"plain tone.wav"_s, u"sub/it's \"quoted\" $HOME;ls.flac"_s,
                            u"-leading dash.mp3"_s, u"sub/ünïcødé 日本.m4a"_s};
-
-// "codec,sample rate,channels,bit rate" of the first audio stream, as ffprobe reads it.
-QString probe(const QString& path) {
-    QString output;
-    SonoriaTest::run(u"ffprobe"_s,
-                     {"-v", "error", "-select_streams", "a:0", "-show_entries",
-                      "stream=codec_name,sample_rate,channels,bit_rate", "-of", "csv=p=0", path},
-                     &output);
-    return output.trimmed();
-}
-
-QStringList lines(const QString& text) {
-    return text.split(u'\n', Qt::SkipEmptyParts);
-}
-
 } // namespace
 
 class TestCli : public QObject {
@@ -61,52 +40,22 @@ private Q_SLOTS:
     void drawsAProgressBarOnATerminal();
 
 private:
-    QProcessEnvironment environment() const;
-    CliResult runCli(const QStringList& arguments) const;
-    QString settingsFile() const { return m_config.path() + u"/Sonoria/Sonoria.conf"_s; }
+    // In the work folder: a usage error must leave it as it was.
+    RunResult runCli(const QStringList& arguments) const {
+        return SonoriaTest::runCli(arguments, {}, m_work.path());
+    }
+    QString settingsFile() const { return SonoriaTest::configHome() + u"/Sonoria/Sonoria.conf"_s; }
     QString fresh(const QString& name) const { return m_work.path() + u'/' + name; }
     QString source(const QString& name) const { return m_sources + u'/' + name; }
 
     QTemporaryDir m_work;
-    QTemporaryDir m_config;
-    QTemporaryDir m_home;
     QString m_sources;
     QString m_textAsMp3;
     QString m_surround;
-    QString m_long;
 };
 
-QProcessEnvironment TestCli::environment() const {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(u"XDG_CONFIG_HOME"_s, m_config.path());
-    env.insert(u"HOME"_s, m_home.path());
-    env.remove(u"SONORIA_VERBOSE"_s);
-    // The C locale reads the English catalogue: the texts below are its corrected English.
-    env.insert(u"LANG"_s, u"C"_s);
-    for (const QString& name : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s})
-        env.remove(name);
-    return env;
-}
-
-CliResult TestCli::runCli(const QStringList& arguments) const {
-    QProcess process;
-    process.setProcessEnvironment(environment());
-    process.setWorkingDirectory(m_work.path());
-    process.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
-    CliResult result;
-    if (!process.waitForFinished(180000)) {
-        process.kill();
-        process.waitForFinished();
-        return result;
-    }
-    result.out = QString::fromUtf8(process.readAllStandardOutput());
-    result.err = QString::fromUtf8(process.readAllStandardError());
-    result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-    return result;
-}
-
 void TestCli::initTestCase() {
-    QVERIFY(m_work.isValid() && m_config.isValid() && m_home.isValid());
+    QVERIFY(m_work.isValid());
     m_sources = fresh(u"sources"_s);
     QVERIFY(QDir().mkpath(m_sources + u"/sub"_s));
     for (const QString& name : kSources)
@@ -115,8 +64,6 @@ void TestCli::initTestCase() {
     QVERIFY(SonoriaTest::writeFile(m_textAsMp3, "this is a text file, whatever its name says\n"));
     m_surround = fresh(u"surround.wav"_s);
     QVERIFY(SonoriaTest::makeTone(m_surround, 3.0, {"-ac", "6"}));
-    m_long = fresh(u"long.wav"_s);
-    QVERIFY(SonoriaTest::makeTone(m_long, 60.0));
 }
 
 void TestCli::cleanupTestCase() {
@@ -130,7 +77,7 @@ void TestCli::cleanupTestCase() {
 void TestCli::convertsAFolderOrganisedByFormat() {
     const QString out = fresh(u"organised"_s);
 
-    const CliResult result = runCli({"-f", "MP3", "-o", out, "-j", "2", m_sources});
+    const RunResult result = runCli({"-f", "MP3", "-o", out, "-j", "2", m_sources});
     QCOMPARE(result.exitCode, 0);
     // Without a terminal: one line per file, then the window's summary.
     const QStringList shown = lines(result.out);
@@ -152,14 +99,16 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
     QVERIFY(SonoriaTest::writeFile(out + u"/plain tone.mp3"_s, "keep me"));
     const QString wav = source(u"plain tone.wav"_s);
     // Choices match the catalogue's texts without regard to letter case.
-    const CliResult result =
+    const RunResult result =
         runCli({"--no-organize", "-b", "64", "-r", "22050", "-c", "mono", "-o", out, wav});
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(result.out.contains(u"done: %1 -> %2/plain tone(1).mp3"_s.arg(wav, out)),
              qPrintable(result.out));
     QCOMPARE(filesBelow(out, true), (QStringList{u"plain tone(1).mp3"_s, u"plain tone.mp3"_s}));
     QCOMPARE(SonoriaTest::readFile(out + u"/plain tone.mp3"_s), QByteArray("keep me"));
-    QCOMPARE(probe(out + u"/plain tone(1).mp3"_s), u"mp3,22050,1,64000"_s);
+    const ProbeReference made = ProbeReference::read(out + u"/plain tone(1).mp3"_s);
+    QVERIFY(made.codecName == "mp3"_L1 && made.sampleRate == 22050 && made.channels == 1 &&
+            made.bitRate == 64000);
 }
 
 void TestCli::usageErrorsExitTwoWithOneLine_data() {
@@ -189,7 +138,7 @@ void TestCli::usageErrorsExitTwoWithOneLine() {
     QFETCH(QStringList, arguments);
     QFETCH(QString, reason);
     const QStringList before = filesBelow(m_work.path(), true);
-    const CliResult result = runCli(arguments);
+    const RunResult result = runCli(arguments);
     QCOMPARE(result.exitCode, 2);
     QVERIFY(result.out.isEmpty());
     QCOMPARE(lines(result.err).size(), 1);
@@ -200,7 +149,7 @@ void TestCli::usageErrorsExitTwoWithOneLine() {
 void TestCli::failuresAreNamedAndExitOne() {
     const QString out = fresh(u"failures"_s);
     const QString wav = source(u"plain tone.wav"_s);
-    CliResult result = runCli({"-v", "-o", out, m_textAsMp3, wav, fresh(u"no such.wav"_s)});
+    RunResult result = runCli({"-v", "-o", out, m_textAsMp3, wav, fresh(u"no such.wav"_s)});
     QCOMPARE(result.exitCode, 1);
     // Each file that did not load, with its folder and why.
     for (const QString& expected :
@@ -275,7 +224,7 @@ void TestCli::hostileTextIsEscaped() {
         return true;
     };
 
-    CliResult result = runCli({"--no-organize", "-o", folder + u"/out"_s, file});
+    RunResult result = runCli({"--no-organize", "-o", folder + u"/out"_s, file});
     QCOMPARE(result.exitCode, 0);
     QVERIFY2(quiet(result.out) && quiet(result.err), qPrintable(result.out));
     QCOMPARE(lines(result.out).size(), 2);
@@ -322,25 +271,22 @@ void TestCli::unreadableFoldersAndBadNamesFailTheRun() {
     const QString asUser = ::geteuid() == 0 ? u"setpriv --inh-caps=-all "
                                               "--bounding-set=-dac_override,-dac_read_search -- "_s
                                             : QString();
-    QProcess process;
-    QProcessEnvironment env = environment();
+    QProcessEnvironment env = SonoriaTest::cliEnvironment();
     env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
     env.insert(u"DIR"_s, dir);
-    process.setProcessEnvironment(env);
-    process.setWorkingDirectory(m_work.path());
-    process.start(u"sh"_s, {u"-c"_s, u"exec %1\"$CLI\" --dry-run %2"_s.arg(asUser, input)});
-    QVERIFY(process.waitForFinished(60000));
-    const QString err = QString::fromUtf8(process.readAllStandardError());
-    QCOMPARE(process.exitCode(), 1);
-    QVERIFY2(lines(err).contains(u"failed to load: %1/%2: %3"_s.arg(dir, failed, reason)),
-             qPrintable(err));
+    const RunResult result = SonoriaTest::runProgram(
+        u"sh"_s, {u"-c"_s, u"exec %1\"$CLI\" --dry-run %2"_s.arg(asUser, input)}, env,
+        m_work.path());
+    QCOMPARE(result.exitCode, 1);
+    QVERIFY2(lines(result.err).contains(u"failed to load: %1/%2: %3"_s.arg(dir, failed, reason)),
+             qPrintable(result.err));
 }
 
 void TestCli::dryRunCreatesNothing() {
     const QString out = fresh(u"dry"_s);
     QVERIFY(SonoriaTest::writeFile(out + u"/MP3/plain tone.mp3"_s, {}));
     const QStringList before = filesBelow(m_work.path(), true);
-    const CliResult result = runCli({"--dry-run", "-o", out, m_sources});
+    const RunResult result = runCli({"--dry-run", "-o", out, m_sources});
     QCOMPARE(result.exitCode, 0);
     QCOMPARE(filesBelow(m_work.path(), true), before);
     const QStringList shown = lines(result.out);
@@ -360,20 +306,20 @@ void TestCli::cueSheetsAreListedAndConvertedByTrack() {
                                    "TRACK 01 AUDIO\n  TITLE \"One\"\n  INDEX 01 00:00:00\n"
                                    "TRACK 02 AUDIO\n  TITLE \"Two\"\n  INDEX 01 00:01:00\n"));
     const QString out = fresh(u"cue-out"_s);
-    const CliResult listed = runCli({"-n", "-f", "WAV", "--no-organize", "-o", out, album});
+    const RunResult listed = runCli({"-n", "-f", "WAV", "--no-organize", "-o", out, album});
     QCOMPARE(listed.exitCode, 0);
     QCOMPARE(lines(listed.out).mid(0, 2),
              (QStringList{u"would convert: %1/disc.cue#01 -> %2/01 One.wav"_s.arg(album, out),
                           u"would convert: %1/disc.cue#02 -> %2/02 Two.wav"_s.arg(album, out)}));
-    const CliResult converted =
+    const RunResult converted =
         runCli({"-f", "WAV", "--no-organize", "-o", out, album + u"/disc.cue"_s});
     QCOMPARE(converted.exitCode, 0);
     QCOMPARE(filesBelow(out), (QStringList{u"01 One.wav"_s, u"02 Two.wav"_s}));
-    QCOMPARE(probe(out + u"/02 Two.wav"_s).section(u',', 0, 0), u"pcm_s16le"_s);
+    QCOMPARE(ProbeReference::read(out + u"/02 Two.wav"_s).codecName, u"pcm_s16le"_s);
 }
 
 void TestCli::listsTheCatalogueInOrder() {
-    const CliResult result = runCli({"--list-formats"});
+    const RunResult result = runCli({"--list-formats"});
     QCOMPARE(result.exitCode, 0);
     const QStringList formats = lines(result.out).filter(u" (."_s);
     QVERIFY2(formats.size() >= 4, qPrintable(result.out));
@@ -386,7 +332,7 @@ void TestCli::listsTheCatalogueInOrder() {
 }
 
 void TestCli::infoShowsTheFallbackTexts() {
-    CliResult result = runCli({"--info", m_surround});
+    RunResult result = runCli({"--info", m_surround});
     QCOMPARE(result.exitCode, 0);
     const QStringList shown = lines(result.out);
     // Six channels read "5.1" next to their count.
@@ -427,16 +373,14 @@ void TestCli::storedFolderIsUsedAndSettingsStayUntouched() {
 void TestCli::drawsAProgressBarOnATerminal() {
     // script(1) gives the tool a terminal; the values reach its command line through the
     // environment, so no path is ever quoted into the command text.
-    QProcess process;
-    QProcessEnvironment env = environment();
+    QProcessEnvironment env = SonoriaTest::cliEnvironment();
     env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
     env.insert(u"OUT"_s, fresh(u"terminal"_s));
     env.insert(u"SRC"_s, m_sources);
-    process.setProcessEnvironment(env);
-    process.start(u"script"_s, {"-qec", "\"$CLI\" -o \"$OUT\" \"$SRC\"", "/dev/null"});
-    QVERIFY(process.waitForFinished(180000));
-    QCOMPARE(process.exitCode(), 0);
-    const QString shown = QString::fromUtf8(process.readAllStandardOutput());
+    const RunResult result = SonoriaTest::runProgram(
+        u"script"_s, {"-qec", "\"$CLI\" -o \"$OUT\" \"$SRC\"", "/dev/null"}, env);
+    QCOMPARE(result.exitCode, 0);
+    const QString& shown = result.out;
     QVERIFY2(shown.contains(u"\r["_s), qPrintable(shown));
     QVERIFY(shown.contains(u"100%  4/4 done"_s));
     // No per-file lines on a terminal; the summary still ends the output.

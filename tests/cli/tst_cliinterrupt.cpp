@@ -1,3 +1,4 @@
+#include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 
 #include <QDir>
@@ -20,26 +21,15 @@ private Q_SLOTS:
     void closedOutputPipeDoesNotStopTheRun();
 
 private:
-    QProcessEnvironment environment() const;
     QString fresh(const QString& name) const { return m_work.path() + u'/' + name; }
     QString source(const QString& name) const { return fresh(name); }
 
     QTemporaryDir m_work;
-    QTemporaryDir m_config;
-    QTemporaryDir m_home;
     QString m_long;
 };
 
-QProcessEnvironment TestCliInterrupt::environment() const {
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(u"XDG_CONFIG_HOME"_s, m_config.path());
-    env.insert(u"HOME"_s, m_home.path());
-    env.remove(u"SONORIA_VERBOSE"_s);
-    return env;
-}
-
 void TestCliInterrupt::initTestCase() {
-    QVERIFY(m_work.isValid() && m_config.isValid() && m_home.isValid());
+    QVERIFY(m_work.isValid());
     QVERIFY(SonoriaTest::makeTone(source(u"plain tone.wav"_s), 1.0, {"-ac", "2"}));
     m_long = fresh(u"long.wav"_s);
     QVERIFY(SonoriaTest::makeTone(m_long, 60.0));
@@ -59,7 +49,7 @@ void TestCliInterrupt::signalCancelsAndRemovesPartialOutput() {
     QFETCH(int, status);
     const QString out = fresh(u"signal-%1"_s.arg(signalNumber));
     QProcess process;
-    process.setProcessEnvironment(environment());
+    process.setProcessEnvironment(SonoriaTest::cliEnvironment());
     process.start(QStringLiteral(SONORIA_CLI_PATH), {"--no-organize", "-o", out, m_long});
     QVERIFY(process.waitForStarted());
     // The hidden temporary file is made just before ffmpeg starts: the conversion is under way.
@@ -86,33 +76,28 @@ void TestCliInterrupt::closedOutputPipeDoesNotStopTheRun() {
     const QString out = fresh(u"closed pipe"_s);
     const QString second = fresh(u"second tone.wav"_s);
     QVERIFY(SonoriaTest::makeTone(second, 2.0));
-    QProcess process;
-    QProcessEnvironment env = environment();
+    QProcessEnvironment env = SonoriaTest::cliEnvironment();
     env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
     env.insert(u"OUT"_s, out);
     env.insert(u"FIRST"_s, source(u"plain tone.wav"_s));
     env.insert(u"LONG"_s, m_long);
     env.insert(u"SECOND"_s, second);
-    process.setProcessEnvironment(env);
-    process.start(u"bash"_s, {u"-c"_s, u"\"$CLI\" -j 2 --no-organize -o \"$OUT\" \"$FIRST\" "
-                                       u"\"$LONG\" \"$SECOND\" | head -c1\n"
-                                       u"exit \"${PIPESTATUS[0]}\""_s});
-    QVERIFY(process.waitForFinished(180000));
-    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(process.readAllStandardOutput(), QByteArray("d")); // of "done: "
-    QCOMPARE(process.exitCode(), 0);
+    const SonoriaTest::RunResult result =
+        SonoriaTest::runProgram(u"bash"_s,
+                                {u"-c"_s, u"\"$CLI\" -j 2 --no-organize -o \"$OUT\" "
+                                          u"\"$FIRST\" \"$LONG\" \"$SECOND\" | head -c1\n"
+                                          u"exit \"${PIPESTATUS[0]}\""_s},
+                                env);
+    QCOMPARE(result.out, u"d"_s); // of "done: "
+    QCOMPARE(result.exitCode, 0);
     // Every file whole: as long as its source.
     QCOMPARE(SonoriaTest::filesBelow(out, true),
              (QStringList{u"long.mp3"_s, u"plain tone.mp3"_s, u"second tone.mp3"_s}));
     const QList<std::pair<QString, double>> durations{
         {u"long.mp3"_s, 60.0}, {u"plain tone.mp3"_s, 1.0}, {u"second tone.mp3"_s, 2.0}};
     for (const auto& [name, seconds] : durations) {
-        QString shown;
-        SonoriaTest::run(u"ffprobe"_s,
-                         {"-v", "error", "-show_entries", "format=duration", "-of", "csv=p=0",
-                          out + u'/' + name},
-                         &shown);
-        QVERIFY2(qAbs(shown.trimmed().toDouble() - seconds) < 0.2, qPrintable(name + shown));
+        const double shown = ProbeReference::read(out + u'/' + name).duration;
+        QVERIFY2(qAbs(shown - seconds) < 0.2, qPrintable(name + u' ' + QString::number(shown)));
     }
 }
 

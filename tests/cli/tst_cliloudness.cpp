@@ -1,7 +1,6 @@
 #include "support/TestSupport.h"
 
 #include <QDir>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 
@@ -19,19 +18,7 @@ namespace {
 
 // ffmpeg's integrated loudness of the files played one after the other.
 double ffmpegLoudness(const QStringList& paths) {
-    QStringList arguments{u"-nostats"_s, u"-hide_banner"_s};
-    QString graph;
-    for (qsizetype i = 0; i < paths.size(); ++i) {
-        arguments << u"-i"_s << paths.at(i);
-        graph += u"[%1:a]"_s.arg(i);
-    }
-    graph += u"concat=n=%1:v=0:a=1,ebur128"_s.arg(paths.size());
-    arguments << u"-filter_complex"_s << graph << u"-f"_s << u"null"_s << u"-"_s;
-    QString output;
-    if (SonoriaTest::run(u"ffmpeg"_s, arguments, &output) != 0)
-        return qQNaN();
-    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
-    return integrated.match(output.mid(output.lastIndexOf(u"Summary:"_s))).captured(1).toDouble();
+    return SonoriaTest::ffmpegLoudness(paths).integrated;
 }
 
 QMap<QString, QString> gainFields(const QString& path) {
@@ -80,10 +67,11 @@ private Q_SLOTS:
     // changes no decimal point.
     void albumTags() {
         const QString out = m_work.filePath(u"tagged"_s);
-        const CliResult result = runCli({u"--replaygain"_s, u"album"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
-                                         u"48000"_s, u"--no-organize"_s, u"-o"_s, out,
-                                         m_album.at(0), m_album.at(1), m_album.at(2), m_single},
-                                        u"de_DE.UTF-8"_s);
+        const SonoriaTest::RunResult result =
+            SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
+                                 u"48000"_s, u"--no-organize"_s, u"-o"_s, out, m_album.at(0),
+                                 m_album.at(1), m_album.at(2), m_single},
+                                SonoriaTest::cliEnvironment(u"de_DE.UTF-8"_s));
         QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
         const double album = -18.0 - ffmpegLoudness(m_album);
         QStringList outputs;
@@ -113,10 +101,10 @@ private Q_SLOTS:
     // gain fields left to apply it twice.
     void albumNormalised() {
         const QString out = m_work.filePath(u"normalised"_s);
-        const CliResult result =
-            runCli({u"--replaygain"_s, u"album"_s, u"--normalise"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
-                    u"48000"_s, u"--no-organize"_s, u"-o"_s, out, m_album.at(0), m_album.at(1),
-                    m_album.at(2)});
+        const SonoriaTest::RunResult result =
+            SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"--normalise"_s, u"-f"_s,
+                                 u"FLAC"_s, u"-r"_s, u"48000"_s, u"--no-organize"_s, u"-o"_s, out,
+                                 m_album.at(0), m_album.at(1), m_album.at(2)});
         QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
         QStringList outputs;
         for (const QString& source : std::as_const(m_album)) {
@@ -137,7 +125,7 @@ private Q_SLOTS:
         QVERIFY(SonoriaTest::makeTone(cut, 2.0));
         QVERIFY(SonoriaTest::cutFlacAfterMetadata(cut));
         const QString out = m_work.filePath(u"cut-out"_s);
-        const CliResult result = runCli(
+        const SonoriaTest::RunResult result = SonoriaTest::runCli(
             {u"--replaygain"_s, u"track"_s, u"--no-organize"_s, u"-o"_s, out, cut, m_single});
         QCOMPARE(result.exitCode, 1);
         QVERIFY2(result.out.contains(
@@ -148,31 +136,6 @@ private Q_SLOTS:
     }
 
 private:
-    struct CliResult {
-        int exitCode = -1;
-        QString out;
-        QString err;
-    };
-    CliResult runCli(const QStringList& arguments, const QString& language = u"C"_s) const {
-        QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(u"LC_ALL"_s, language);
-        env.insert(u"LANG"_s, language);
-        env.remove(u"LANGUAGE"_s);
-        process.setProcessEnvironment(env);
-        process.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
-        CliResult result;
-        if (!process.waitForFinished(300000)) {
-            process.kill();
-            process.waitForFinished();
-            return result;
-        }
-        result.out = QString::fromUtf8(process.readAllStandardOutput());
-        result.err = QString::fromUtf8(process.readAllStandardError());
-        result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
-        return result;
-    }
-
     QTemporaryDir m_work;
     QStringList m_album;
     QString m_single;

@@ -1,6 +1,5 @@
 #include "support/TestSupport.h"
 
-#include <QProcess>
 #include <QTemporaryDir>
 
 #include <taglib/fileref.h>
@@ -14,21 +13,12 @@ class TestCliTags : public QObject {
     Q_OBJECT
 
     QTemporaryDir m_dir;
-    QTemporaryDir m_home;
     QString m_source;
 
-    int runCli(const QStringList& arguments, QString* out) const {
-        QProcess process;
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert(u"HOME"_s, m_home.path());
-        env.insert(u"XDG_CONFIG_HOME"_s, m_home.path() + u"/.config"_s);
-        env.insert(u"LANG"_s, u"C"_s);
-        process.setProcessEnvironment(env);
-        process.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
-        if (!process.waitForFinished(120000))
-            return -1;
-        *out = QString::fromUtf8(process.readAllStandardOutput());
-        return process.exitCode();
+    static int runCli(const QStringList& arguments, QString* out) {
+        const SonoriaTest::RunResult result = SonoriaTest::runCli(arguments);
+        *out = result.out;
+        return result.exitCode;
     }
 
     QString encode(const QString& extension, const QString& codec) const {
@@ -41,7 +31,7 @@ class TestCliTags : public QObject {
 
 private Q_SLOTS:
     void initTestCase() {
-        QVERIFY(m_dir.isValid() && m_home.isValid());
+        QVERIFY(m_dir.isValid());
         m_source = m_dir.filePath(u"song.flac"_s);
         QVERIFY(SonoriaTest::makeTone(m_source, 1.0));
         TagLib::FileRef ref(QFile::encodeName(m_source).constData());

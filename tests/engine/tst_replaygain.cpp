@@ -6,7 +6,6 @@
 #include "support/TestSupport.h"
 
 #include <QLocale>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -66,25 +65,6 @@ QMap<QString, QString> loudnessFields(const QString& path) {
             keep(text(key), text(values.front()));
     }
     return fields;
-}
-
-struct Reference {
-    double integrated = qQNaN();
-    double truePeakDb = qQNaN();
-};
-
-Reference ffmpegMeter(const QString& path) {
-    QString output;
-    if (SonoriaTest::run(u"ffmpeg"_s,
-                         {u"-nostats"_s, u"-i"_s, path, u"-af"_s, u"ebur128=peak=true"_s, u"-f"_s,
-                          u"null"_s, u"-"_s},
-                         &output) != 0)
-        return {};
-    const QString summary = output.mid(output.lastIndexOf(u"Summary:"_s));
-    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
-    static const QRegularExpression peak(uR"(True peak:\s+Peak:\s+(-?[\d.]+) dBFS)"_s);
-    return {integrated.match(summary).captured(1).toDouble(),
-            peak.match(summary).captured(1).toDouble()};
 }
 
 } // namespace
@@ -310,7 +290,8 @@ private Q_SLOTS:
         const ConvertOperationPtr operation =
             convert(item, m_dir.filePath(u"normalised"_s), &recorder);
         QVERIFY2(stateOf(item) == CvtStateFinished, qPrintable(item->mediaInfo()->failReason()));
-        const Reference output = ffmpegMeter(operation->strOutFilePath());
+        const SonoriaTest::LoudnessReference output =
+            SonoriaTest::ffmpegLoudness({operation->strOutFilePath()});
         // ffmpeg prints tenths; its true-peak interpolation differs from the meter's by a few
         // hundredths.
         QVERIFY2(output.truePeakDb <= -1.0 + 0.1, qPrintable(QString::number(output.truePeakDb)));

@@ -1,7 +1,6 @@
 #include "framework/HVLoudness.h"
 #include "support/TestSupport.h"
 
-#include <QRegularExpression>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -11,32 +10,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-struct Reference {
-    double integrated = 0; // LUFS
-    double truePeakDb = 0; // dBTP
-};
-
-// ffmpeg's summary of `path` (several files: played one after the other, as one programme).
-Reference ffmpegReference(const QStringList& paths, bool dualMono = false) {
-    QStringList arguments{u"-nostats"_s, u"-hide_banner"_s};
-    QString graph;
-    for (qsizetype i = 0; i < paths.size(); ++i) {
-        arguments << u"-i"_s << paths.at(i);
-        graph += u"[%1:a]"_s.arg(i);
-    }
-    graph += u"concat=n=%1:v=0:a=1,ebur128=peak=true%2"_s.arg(paths.size())
-                 .arg(dualMono ? u":dualmono=true"_s : QString());
-    arguments << u"-filter_complex"_s << graph << u"-f"_s << u"null"_s << u"-"_s;
-    QString output;
-    if (SonoriaTest::run(u"ffmpeg"_s, arguments, &output) != 0)
-        return {qQNaN(), qQNaN()};
-    const QString summary = output.mid(output.lastIndexOf(u"Summary:"_s));
-    static const QRegularExpression integrated(uR"(I:\s+(-?[\d.]+) LUFS)"_s);
-    static const QRegularExpression peak(uR"(True peak:\s+Peak:\s+(-?[\d.]+|-inf) dBFS)"_s);
-    return {integrated.match(summary).captured(1).toDouble(),
-            peak.match(summary).captured(1).toDouble()};
-}
 
 double decibels(double linear) {
     return 20.0 * std::log10(linear);
@@ -85,7 +58,8 @@ private Q_SLOTS:
         QVERIFY2(measured, qPrintable(error));
         QVERIFY(measured->integrated);
         QVERIFY(!measured->meter);
-        const Reference reference = ffmpegReference({path}, dualMono);
+        const SonoriaTest::LoudnessReference reference =
+            SonoriaTest::ffmpegLoudness({path}, dualMono);
         QVERIFY2(std::abs(*measured->integrated - reference.integrated) <= 0.1,
                  qPrintable(u"%1 vs %2"_s.arg(*measured->integrated).arg(reference.integrated)));
         QVERIFY2(
@@ -115,7 +89,7 @@ private Q_SLOTS:
         }
         const std::optional<double> album = HVLoudness::albumLoudness(tracks);
         QVERIFY(album);
-        const Reference reference = ffmpegReference(paths);
+        const SonoriaTest::LoudnessReference reference = SonoriaTest::ffmpegLoudness(paths);
         QVERIFY2(std::abs(*album - reference.integrated) <= 0.1,
                  qPrintable(u"%1 vs %2"_s.arg(*album).arg(reference.integrated)));
         const double gatedMean = 10.0 * std::log10((std::pow(10.0, *tracks[1].integrated / 10.0) +

@@ -6,7 +6,6 @@
 #include <QFileInfo>
 #include <QImage>
 #include <QMimeDatabase>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
@@ -20,23 +19,12 @@ const QString kPrefix = u"/usr/local"_s;
 const QString kAppId = u"app.sonoria.Sonoria"_s;
 const QList<int> kIconSizes = {16, 24, 32, 48, 64, 128, 256};
 
-struct Outcome {
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
+using SonoriaTest::RunResult;
 
-// Runs a program to completion with `environment` and returns its status and both outputs.
-Outcome runWith(const QString& program, const QStringList& arguments,
-                const QProcessEnvironment& environment, const QString& workingDir = u"/"_s) {
-    QProcess process;
-    process.setProcessEnvironment(environment);
-    process.setWorkingDirectory(workingDir);
-    process.start(program, arguments);
-    if (!process.waitForFinished(120000) || process.exitStatus() != QProcess::NormalExit)
-        return {-1, {}, process.errorString()};
-    return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()),
-            QString::fromUtf8(process.readAllStandardError())};
+// Runs from "/", so that nothing beside a working folder is found by chance.
+RunResult runWith(const QString& program, const QStringList& arguments,
+                  const QProcessEnvironment& environment) {
+    return SonoriaTest::runProgram(program, arguments, environment, u"/"_s);
 }
 
 // The environment of a user of the installed programs: nothing points into the build or the
@@ -91,7 +79,7 @@ void TestInstall::initTestCase() {
     QVERIFY(m_destDir.isValid());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"DESTDIR"_s, m_destDir.path());
-    const Outcome install = runWith(
+    const RunResult install = runWith(
         QStringLiteral(SONORIA_CMAKE_COMMAND),
         {u"--install"_s, QStringLiteral(SONORIA_BINARY_DIR), u"--prefix"_s, kPrefix}, environment);
     QVERIFY2(install.exitCode == 0, qPrintable(install.out + install.err));
@@ -156,7 +144,7 @@ void TestInstall::validatorsAcceptTheDesktopFiles() {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
     environment.insert(u"MANROFFSEQ"_s, QString());
-    const Outcome check = runWith(program, arguments, environment);
+    const RunResult check = runWith(program, arguments, environment);
     QVERIFY2(check.exitCode == 0, qPrintable(check.out + check.err));
     if (program == u"man"_s)
         QVERIFY2(check.err.isEmpty(), qPrintable(check.err));
@@ -215,9 +203,10 @@ void TestInstall::metainfoDescribesThisRelease() {
 }
 
 void TestInstall::cliManualListsEveryOption() {
-    const Outcome help = runWith(installed(u"bin/sonoria-cli"_s), {u"--help"_s}, userEnvironment());
+    const RunResult help =
+        runWith(installed(u"bin/sonoria-cli"_s), {u"--help"_s}, userEnvironment());
     QCOMPARE(help.exitCode, 0);
-    const Outcome page =
+    const RunResult page =
         runWith(u"gzip"_s, {u"-dc"_s, manual(u"sonoria-cli"_s)}, userEnvironment());
     QCOMPARE(page.exitCode, 0);
     QStringList undocumented;
@@ -245,7 +234,7 @@ void TestInstall::installedProgramsAnswerWithoutDisplay() {
     QFETCH(QString, program);
     QFETCH(QString, argument);
     QFETCH(QString, expected);
-    const Outcome answer = runWith(installed(u"bin/"_s + program), {argument}, userEnvironment());
+    const RunResult answer = runWith(installed(u"bin/"_s + program), {argument}, userEnvironment());
     QVERIFY2(answer.exitCode == 0, qPrintable(answer.err));
     QVERIFY2(answer.out.startsWith(expected), qPrintable(answer.out));
 }
@@ -257,14 +246,14 @@ void TestInstall::installedCliConvertsWithThePrefixAlone() {
     const QString cli = installed(u"bin/sonoria-cli"_s);
     const QStringList arguments{u"-f"_s, u"MP3"_s,    u"--no-organize"_s,
                                 u"-o"_s, work.path(), source};
-    const Outcome converted = runWith(cli, arguments, userEnvironment());
+    const RunResult converted = runWith(cli, arguments, userEnvironment());
     QVERIFY2(converted.exitCode == 0, qPrintable(converted.out + converted.err));
     QVERIFY(QFileInfo(work.filePath(u"tone.mp3"_s)).size() > 0);
 
     // Without the prefix's own catalogue there is none: no other place is looked in.
     const QString resources = installed(u"share/sonoria"_s);
     QVERIFY(QDir().rename(resources, resources + u".away"_s));
-    const Outcome stranded = runWith(cli, arguments, userEnvironment());
+    const RunResult stranded = runWith(cli, arguments, userEnvironment());
     QVERIFY(QDir().rename(resources + u".away"_s, resources));
     QCOMPARE(stranded.exitCode, 2);
     QVERIFY2(stranded.err.contains(u"unknown format \"MP3\""_s), qPrintable(stranded.err));

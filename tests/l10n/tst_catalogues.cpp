@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
-#include <QProcess>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
@@ -147,8 +146,7 @@ void TestCatalogues::catalogueIsComplete() {
     const QList<Entry> entries = readCatalogue(path, &error);
     QVERIFY2(error.isEmpty(), qPrintable(error));
     QVERIFY(entries.size() > 100);
-    const QStringList problems = problemsOf(entries);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    SONORIA_VERIFY_NONE(problemsOf(entries));
 }
 
 // The check itself, on small catalogues with one fault each.
@@ -238,22 +236,15 @@ void TestCatalogues::toolSpeaksTheLocale() {
         arguments.append(dir.filePath(u"tone %1.wav"_s.arg(i)));
         QVERIFY(SonoriaTest::makeTone(arguments.last(), 0.2));
     }
-    QProcess cli;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert(u"LANG"_s, lang);
-    for (const QString& name : {u"LANGUAGE"_s, u"LC_ALL"_s, u"LC_MESSAGES"_s})
-        env.remove(name);
-    cli.setProcessEnvironment(env);
-    cli.start(QStringLiteral(SONORIA_CLI_PATH), arguments);
-    QVERIFY(cli.waitForFinished(120000));
-    const QString out = QString::fromUtf8(cli.readAllStandardOutput());
-    QCOMPARE(cli.exitCode(), 0);
+    const SonoriaTest::RunResult cli =
+        SonoriaTest::runCli(arguments, SonoriaTest::cliEnvironment(lang));
+    QCOMPARE(cli.exitCode, 0);
     // Until a catalogue of the locale's language exists, the English one speaks.
     const QString language = lang.section(u'_', 0, 0).section(u'.', 0, 0);
     if (language != u"C"_s && language != u"en"_s &&
         QFile::exists(kCatalogues + u"/sonoria_"_s + language + u".ts"_s))
         QSKIP("the locale has a catalogue of its own");
-    QVERIFY2(out.contains(summary + u" to MP3 in "_s), qPrintable(out));
+    QVERIFY2(cli.out.contains(summary + u" to MP3 in "_s), qPrintable(cli.out));
 }
 
 SONORIA_TEST_MAIN(TestCatalogues)

@@ -8,6 +8,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QRegularExpression>
 
 #include <cstdio>
 #include <memory>
@@ -62,6 +63,68 @@ int run(const QString& program, const QStringList& arguments, QString* output, i
     if (output)
         *output = QString::fromUtf8(process.readAll());
     return process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+}
+
+QProcessEnvironment cliEnvironment(const QString& language) {
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    for (const QString& name : {QStringLiteral("LANG"), QStringLiteral("LC_ALL")})
+        env.insert(name, language);
+    for (const QString& name : {QStringLiteral("LANGUAGE"), QStringLiteral("LC_MESSAGES"),
+                                QStringLiteral("SONORIA_VERBOSE")})
+        env.remove(name);
+    return env;
+}
+
+RunResult runProgram(const QString& program, const QStringList& arguments,
+                     const QProcessEnvironment& environment, const QString& workingDirectory) {
+    QProcess process;
+    if (!environment.isEmpty())
+        process.setProcessEnvironment(environment);
+    process.setWorkingDirectory(workingDirectory);
+    process.start(program, arguments);
+    RunResult result;
+    if (!process.waitForFinished(300000)) {
+        process.kill();
+        process.waitForFinished();
+        return result;
+    }
+    result.out = QString::fromUtf8(process.readAllStandardOutput());
+    result.err = QString::fromUtf8(process.readAllStandardError());
+    result.exitCode = process.exitStatus() == QProcess::NormalExit ? process.exitCode() : -1;
+    return result;
+}
+
+RunResult runCli(const QStringList& arguments, const QProcessEnvironment& environment,
+                 const QString& workingDirectory) {
+    return runProgram(QStringLiteral(SONORIA_CLI_PATH), arguments,
+                      environment.isEmpty() ? cliEnvironment() : environment, workingDirectory);
+}
+
+QStringList lines(const QString& text) {
+    return text.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+}
+
+LoudnessReference ffmpegLoudness(const QStringList& paths, bool dualMono) {
+    QStringList arguments{QStringLiteral("-nostats"), QStringLiteral("-hide_banner")};
+    QString graph;
+    for (qsizetype i = 0; i < paths.size(); ++i) {
+        arguments << QStringLiteral("-i") << paths.at(i);
+        graph += QStringLiteral("[%1:a]").arg(i);
+    }
+    graph += QStringLiteral("concat=n=%1:v=0:a=1,ebur128=peak=true%2")
+                 .arg(paths.size())
+                 .arg(dualMono ? QStringLiteral(":dualmono=true") : QString());
+    arguments << QStringLiteral("-filter_complex") << graph << QStringLiteral("-f")
+              << QStringLiteral("null") << QStringLiteral("-");
+    QString output;
+    if (run(QStringLiteral("ffmpeg"), arguments, &output) != 0)
+        return {};
+    const QString summary = output.mid(output.lastIndexOf(QStringLiteral("Summary:")));
+    static const QRegularExpression integrated(QStringLiteral(R"(I:\s+(-?[\d.]+) LUFS)"));
+    static const QRegularExpression peak(
+        QStringLiteral(R"(True peak:\s+Peak:\s+(-?[\d.]+|-inf) dBFS)"));
+    return {integrated.match(summary).captured(1).toDouble(),
+            peak.match(summary).captured(1).toDouble()};
 }
 
 bool makeMedia(const QString& path, const QString& source, const QStringList& extra) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QProcessEnvironment>
 #include <QString>
 #include <QStringList>
 #include <QTest>
@@ -21,6 +22,34 @@ QString configHome(); // $XDG_CONFIG_HOME of that home, where the settings store
 // output goes to *output when given.
 int run(const QString& program, const QStringList& arguments, QString* output = nullptr,
         int timeoutMs = 120000);
+
+// What a program printed, and its exit code (-1 when it did not end by itself).
+struct RunResult {
+    int exitCode = -1;
+    QString out;
+    QString err;
+};
+// Runs a program to its end in `environment` (this process's when empty) and `workingDirectory`
+// (this process's when empty), keeping its two outputs apart.
+RunResult runProgram(const QString& program, const QStringList& arguments,
+                     const QProcessEnvironment& environment = {},
+                     const QString& workingDirectory = {});
+// The environment sonoria-cli runs in: this process's temporary home, `language` for every
+// locale category (the C locale reads the English catalogue), no verbose switch.
+QProcessEnvironment cliEnvironment(const QString& language = QStringLiteral("C"));
+// Runs sonoria-cli to its end in `environment` (cliEnvironment() when empty).
+RunResult runCli(const QStringList& arguments, const QProcessEnvironment& environment = {},
+                 const QString& workingDirectory = {});
+// The lines of a program's output, empty ones dropped.
+QStringList lines(const QString& text);
+
+// ffmpeg's own EBU R 128 summary of the files played one after the other as one programme:
+// integrated loudness (LUFS) and true peak (dBTP), NaN when ffmpeg fails.
+struct LoudnessReference {
+    double integrated = qQNaN();
+    double truePeakDb = qQNaN();
+};
+LoudnessReference ffmpegLoudness(const QStringList& paths, bool dualMono = false);
 
 // Makes a media file with ffmpeg's lavfi sources. `source` is a lavfi graph such as
 // "sine=frequency=440:duration=2"; `extra` goes between the input and the output path
@@ -59,6 +88,14 @@ QList<qint64> childProcesses(qint64 parent);
 QList<qint64> processesMentioning(const QString& text);
 
 } // namespace SonoriaTest
+
+// Passes when the list `expression` gives is empty; names its entries (what a walk found)
+// when it is not.
+#define SONORIA_VERIFY_NONE(expression)                                                            \
+    do {                                                                                           \
+        const QStringList found_ = (expression);                                                   \
+        QVERIFY2(found_.isEmpty(), qPrintable(found_.join(QLatin1Char('\n'))));                    \
+    } while (false)
 
 #define SONORIA_TEST_MAIN(TestObject)                                                              \
     int main(int argc, char** argv) {                                                              \

@@ -1,9 +1,11 @@
 #pragma once
 
 #include "model/SXMusicInfo.h"
+#include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspacePresenter.h"
 
 #include <QFileInfo>
+#include <QSignalSpy>
 #include <functional>
 
 // Answers the workspace the way a user would, and remembers what it was asked.
@@ -70,4 +72,28 @@ template <class Workspace> bool closes(Workspace& workspace) {
     bool mayClose = false;
     workspace.windowShouldClose([&mayClose](bool answer) { mayClose = answer; });
     return mayClose;
+}
+
+// Gives `workspace` the fixed containers, answered by `presenter`.
+inline void prepareWorkspace(SXWorkspace& workspace, SXWorkspacePresenter* presenter) {
+    workspace.store().setPresenter(presenter);
+    workspace.tabs().addDefaultTabs();
+}
+
+// Adds `paths` to `container` (the selected one when empty) and waits for the add run to end;
+// the items that failed to load go to *failed when given. False when it did not end.
+inline bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths,
+                     SXMusicInfoList* failed = nullptr) {
+    if (!container.isEmpty() && !workspace.tabs().selectContainer(container))
+        return false;
+    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
+    workspace.addRun().loadAndParseFiles(paths);
+    if (finished.count() == 0 && !finished.wait(60000))
+        return false;
+    if (failed)
+        *failed = finished.first().first().value<SXMusicInfoList>();
+    return true;
+}
+inline bool addFiles(SXWorkspace& workspace, const QStringList& paths) {
+    return addFiles(workspace, QString(), paths);
 }

@@ -52,18 +52,6 @@ QByteArray windows1252(const QString& text) {
     return bytes;
 }
 
-bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths,
-              SXMusicInfoList* failed) {
-    if (!workspace.tabs().selectContainer(container))
-        return false;
-    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles(paths);
-    if (finished.count() == 0 && !finished.wait(60000))
-        return false;
-    *failed = finished.first().first().value<SXMusicInfoList>();
-    return true;
-}
-
 // The output decoded to mono 16-bit samples at its own rate.
 QList<qint16> decodedSamples(const QString& path) {
     const QString raw = path + u".raw"_s;
@@ -144,8 +132,7 @@ void TestCueTracks::initTestCase() {
 }
 
 void TestCueTracks::prepare(SXWorkspace& workspace) {
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     for (const QString& format : {u"FLAC"_s, u"WAV"_s}) {
         m_presenter.formatAnswer = format;
         workspace.tabs().addContainer();

@@ -91,13 +91,10 @@ private Q_SLOTS:
         }
         WorkspaceTestPresenter presenter;
         SXWorkspace workspace;
-        workspace.store().setPresenter(&presenter);
-        workspace.tabs().addDefaultTabs();
+        prepareWorkspace(workspace, &presenter);
         QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
         SXSettingPanelActions::setReplayGain(workspace.store(), SXReplayGainMode::Album);
-        QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
-        workspace.addRun().loadAndParseFiles(sources);
-        QVERIFY(loaded.count() > 0 || loaded.wait(60000));
+        QVERIFY(addFiles(workspace, sources));
 
         const QString out = m_dir.filePath(u"out"_s);
         LogCapture log;

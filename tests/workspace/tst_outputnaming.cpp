@@ -87,15 +87,12 @@ void TestOutputNaming::init() {
 
 int TestOutputNaming::setUp(SXWorkspace& workspace, const QStringList& paths,
                             const QString& pattern, bool mirror) {
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     if (!workspace.tabs().selectContainer(u"MP3"_s))
         return -1;
     SXSettingPanelActions::setNamePattern(workspace.store(), pattern);
     SXSettingPanelActions::setMirrorFolders(workspace.store(), mirror);
-    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles(paths);
-    if (loaded.count() == 0 && !loaded.wait(60000))
+    if (!addFiles(workspace, paths))
         return -1;
     workspace.scheduler().setOrganizeByFormat(false);
     return int(workspace.store().getDataForFormat(u"MP3"_s).size());
@@ -212,9 +209,7 @@ void TestOutputNaming::replaceKeepsTheOldOutputWhenTheConversionFails() {
     const QByteArray old = SonoriaTest::readFile(folder + u"/r.mp3"_s);
     QVERIFY(!old.isEmpty());
 
-    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles({sources.filePath(u"tree"_s)});
-    QVERIFY(loaded.wait(60000));
+    QVERIFY(addFiles(workspace, {sources.filePath(u"tree"_s)}));
     // Both sources now promise audio and hold none.
     QVERIFY(SonoriaTest::cutFlacAfterMetadata(good) && SonoriaTest::cutFlacAfterMetadata(deep));
     SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);

@@ -37,25 +37,10 @@ private Q_SLOTS:
 
 namespace {
 
-// Every command of the menus, by the name the tables use.
-const QList<std::pair<SXCommand, QString>> kCommands = {
-    {SXCommand::NewContainer, u"NewContainer"_s},
-    {SXCommand::Open, u"Open"_s},
-    {SXCommand::NewFormat, u"NewFormat"_s},
-    {SXCommand::CloseTab, u"CloseTab"_s},
-    {SXCommand::Preferences, u"Preferences"_s},
-    {SXCommand::Delete, u"Delete"_s},
-    {SXCommand::Clear, u"Clear"_s},
-    {SXCommand::NextRow, u"NextRow"_s},
-    {SXCommand::PreviousRow, u"PreviousRow"_s},
-    {SXCommand::NextContainer, u"NextContainer"_s},
-    {SXCommand::PreviousContainer, u"PreviousContainer"_s},
-    {SXCommand::TagEditor, u"TagEditor"_s},
-    {SXCommand::FileInfo, u"FileInfo"_s},
-    {SXCommand::Start, u"Start"_s},
-    {SXCommand::Stop, u"Stop"_s},
-    {SXCommand::Quit, u"Quit"_s},
-    {SXCommand::Help, u"Help"_s}};
+// Every command of the menus, in SXCommand's order, by the name the tables use.
+const QStringList kCommands =
+    u"NewContainer Open NewFormat CloseTab Preferences Delete Clear NextRow PreviousRow "
+    "NextContainer PreviousContainer TagEditor FileInfo Start Stop Quit Help"_s.split(u' ');
 
 // The names of the commands that are enabled, that beep when chosen though greyed out, and that
 // the application's dispatcher refuses before a window sees them.
@@ -65,7 +50,9 @@ struct CommandAnswers {
 
 CommandAnswers answersFor(const SXCommandContext& context) {
     CommandAnswers answers;
-    for (const auto& [command, name] : kCommands) {
+    for (qsizetype i = 0; i < kCommands.size(); ++i) {
+        const auto command = SXCommand(i);
+        const QString& name = kCommands.at(i);
         const SXCommandAnswer answer = sxValidateMenuCommand(command, context);
         if (answer.enabled)
             answers.enabled.append(name);
@@ -187,18 +174,12 @@ void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun() {
     QFETCH(bool, previewing);
     QFETCH(bool, paused);
     QFETCH(QString, menu);
-    static const QMap<SXRowCommand, QString> names{
-        {SXRowCommand::Play, u"Play"_s},
-        {SXRowCommand::Pause, u"Pause"_s},
-        {SXRowCommand::Resume, u"Resume"_s},
-        {SXRowCommand::EditTags, u"EditTags"_s},
-        {SXRowCommand::FileInfo, u"FileInfo"_s},
-        {SXRowCommand::ShowInFiles, u"ShowInFiles"_s},
-        {SXRowCommand::Remove, u"Remove"_s},
-        {SXRowCommand::CancelConversion, u"CancelConversion"_s}};
+    // In SXRowCommand's order.
+    static const QStringList names =
+        u"Play Pause Resume EditTags FileInfo ShowInFiles Remove CancelConversion"_s.split(u' ');
     QStringList got;
     for (const SXRowMenuEntry& entry : sxRowMenu({state, progress, previewing, paused}))
-        got.append((entry.enabled ? u""_s : u"-"_s) + names.value(entry.command));
+        got.append((entry.enabled ? u""_s : u"-"_s) + names.value(int(entry.command)));
     QCOMPARE(got.join(u' '), menu);
 }
 
@@ -411,8 +392,7 @@ void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
 
     WorkspaceTestPresenter presenter;
     SXWorkspace workspace;
-    workspace.store().setPresenter(&presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &presenter);
     workspace.tabs().addContainerWithFormat(
         SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
     QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), folder);

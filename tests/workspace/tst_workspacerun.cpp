@@ -22,14 +22,6 @@ using namespace Qt::StringLiterals;
 namespace {
 constexpr int kRunTimeoutMs = 180000;
 
-bool addFiles(SXWorkspace& workspace, const QString& container, const QStringList& paths) {
-    if (!workspace.tabs().selectContainer(container))
-        return false;
-    QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles(paths);
-    return finished.count() > 0 || finished.wait(60000);
-}
-
 QStringList filesIn(const QString& folder) {
     return QDir(folder).entryList(QDir::Files, QDir::Name);
 }
@@ -93,8 +85,7 @@ QList<QVariant> TestWorkspaceRun::runInto(SXWorkspace& workspace, const QString&
 
 void TestWorkspaceRun::startGivesEachContainersChoicesAndFolderToItsFiles() {
     SXWorkspace workspace;
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     m_presenter.formatAnswer = u"FLAC"_s;
     workspace.tabs().addContainer();
 
@@ -218,8 +209,7 @@ void TestWorkspaceRun::overrideAndUnorganisedFolderAndRequeue() {
 
 void TestWorkspaceRun::summaryOfSuccessesAndFailures() {
     SXWorkspace workspace;
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s), source(u"m44.flac"_s)}));
     QVERIFY(addFiles(workspace, u"AAC"_s, {source(u"s48.wav"_s)}));
     auto broken = workspace.store().getFormatSettingForFormatName(u"AAC"_s)->copy();
@@ -297,8 +287,7 @@ void TestWorkspaceRun::totalProgressWeights() {
 
 void TestWorkspaceRun::rightClickCancelsItsOwnRowThenStopEndsTheRun() {
     SXWorkspace workspace;
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     // Three rows of one long source, under three names (a path is added once per container).
     QStringList longSources;
     for (const QString& name : {u"long-a.flac"_s, u"long-b.flac"_s, u"long-c.flac"_s}) {
@@ -370,8 +359,7 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
             QSKIP("mounting a tmpfs is not allowed here");
     }
     SXWorkspace workspace;
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     QVERIFY(addFiles(workspace, u"MP3"_s, {source(u"s48.wav"_s)}));
     QSignalSpy refused(&workspace.scheduler(), &SXWorkspaceScheduler::runRefused);
     LogCapture log;
@@ -395,8 +383,7 @@ void TestWorkspaceRun::unusableOutputFolderStartsNothing() {
 
 void TestWorkspaceRun::nothingLeavesTheListDuringARun() {
     SXWorkspace workspace;
-    workspace.store().setPresenter(&m_presenter);
-    workspace.tabs().addDefaultTabs();
+    prepareWorkspace(workspace, &m_presenter);
     QVERIFY(addFiles(workspace, u"MP3"_s,
                      {source(u"s48.wav"_s), source(u"mid.flac"_s), source(u"m44.flac"_s)}));
     const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);

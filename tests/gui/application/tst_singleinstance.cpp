@@ -50,10 +50,12 @@ private Q_SLOTS:
 
 private:
     // Starts the real program and waits, with this process's event loop running (it answers the
-    // program's call), until it ends. Returns its exit code, -1 when it did not end.
+    // program's call), until it ends. Returns its exit code, -1 when it did not end; its
+    // standard error goes to *error when given, to this test's output otherwise.
     int
     runProgram(const QStringList& arguments, const QString& workingDir,
-               const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment());
+               const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment(),
+               QString* error = nullptr);
     void becomeTheRunningInstance();
     SXWorkspace& workspace() const { return m_app->coreWindow()->workspace(); }
 
@@ -85,11 +87,12 @@ void TestSingleInstance::cleanupTestCase() {
 }
 
 int TestSingleInstance::runProgram(const QStringList& arguments, const QString& workingDir,
-                                   const QProcessEnvironment& environment) {
+                                   const QProcessEnvironment& environment, QString* error) {
     QProcess program;
     program.setProcessEnvironment(environment);
     program.setWorkingDirectory(workingDir);
-    program.setProcessChannelMode(QProcess::ForwardedChannels);
+    program.setProcessChannelMode(error ? QProcess::ForwardedOutputChannel
+                                        : QProcess::ForwardedChannels);
     QElapsedTimer clock;
     clock.start();
     program.start(QStringLiteral(SONORIA_APP_PATH), arguments);
@@ -101,6 +104,8 @@ int TestSingleInstance::runProgram(const QStringList& arguments, const QString& 
         program.waitForFinished();
         return -1;
     }
+    if (error)
+        *error = QString::fromUtf8(program.readAllStandardError());
     return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
 }
 
@@ -225,14 +230,8 @@ void TestSingleInstance::withoutDisplayItPointsToTheTerminalTool() {
     if (!platformVariable.isEmpty())
         environment.insert(u"QT_QPA_PLATFORM"_s, platformVariable);
 
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setWorkingDirectory(m_media.path());
-    program.start(QStringLiteral(SONORIA_APP_PATH), arguments);
-    QVERIFY(QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 60000));
-    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
-    QCOMPARE(program.exitCode(), exitCode);
-    const QString error = QString::fromUtf8(program.readAllStandardError());
+    QString error;
+    QCOMPARE(runProgram(arguments, m_media.path(), environment, &error), exitCode);
     if (!errorText.isEmpty())
         QCOMPARE(error, errorText);
     else

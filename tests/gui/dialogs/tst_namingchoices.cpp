@@ -4,13 +4,13 @@
 #include "support/TestSupport.h"
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWorkspace.h"
+#include "workspace/WorkspaceTestPresenter.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
-#include <QSignalSpy>
 #include <QTemporaryDir>
 
 using namespace SonoriaGuiTest;
@@ -39,10 +39,7 @@ void TestNamingChoices::panelEditsTheContainersNaming() {
         SonoriaTest::makeTone(source, 0.5, {"-metadata", "artist=Nina", "-metadata", "title=One"}));
     SXWorkspace workspace;
     workspace.tabs().addDefaultTabs();
-    QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
-    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
-    workspace.addRun().loadAndParseFiles({source});
-    QVERIFY(loaded.wait(60000));
+    QVERIFY(addFiles(workspace, u"MP3"_s, {source}));
 
     SXSettingsPanel panel(workspace.store());
     panel.showSetting(workspace.store().getSelectedTabFormatSetting());
@@ -68,8 +65,7 @@ void TestNamingChoices::panelEditsTheContainersNaming() {
                  stored.contains(u"\"mirrorFolders\":true"_s),
              qPrintable(stored));
 
-    const QStringList problems = accessibilityProblems(&panel);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    SONORIA_VERIFY_NONE(accessibilityProblems(&panel));
 }
 
 void TestNamingChoices::preferencesStoreTheChoiceForExistingOutputs() {

@@ -76,8 +76,7 @@ void TestPreferences::everyChangeIsStoredAtOnce() {
     QCOMPARE(storedOnDisk(SXServiceRequest::kConsentKey).toString(), QStringLiteral("false"));
 
     // Tab runs through the four controls, and each has a name to read out.
-    const QStringList problems = accessibilityProblems(&window);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(accessibilityProblems(&window));
 }
 
 void TestPreferences::aStoredValueOutsideTheChoicesShowsNoChoice() {

@@ -327,15 +327,12 @@ void TestItemRows::keysSelectDeleteAndMoveWithBeeps() {
     QCOMPARE(workspace.store().selectedRows(), QList<int>{1});
     QCOMPARE(m_view->selectionModel()->selectedRows().size(), 1);
 
-    // The menu's row moves beep at the ends.
+    // The window's row commands reach the list (where they stop is tst_workspacelists').
     m_window->perform(SXCommand::PreviousRow);
     QCOMPARE(workspace.store().selectedRows(), QList<int>{0});
-    m_window->perform(SXCommand::PreviousRow);
-    QCOMPARE(beeps.count(), 1);
     QTest::keyClick(m_view, Qt::Key_End);
-    QCOMPARE(workspace.store().selectedRows(), QList<int>{5});
     m_window->perform(SXCommand::NextRow);
-    QCOMPARE(beeps.count(), 2);
+    QCOMPARE(workspace.store().selectedRows(), QList<int>{5});
 
     // Deleting the last row selects the new last one; deleting everything, then Delete beeps.
     QTest::keyClick(m_view, Qt::Key_Delete);
@@ -344,10 +341,10 @@ void TestItemRows::keysSelectDeleteAndMoveWithBeeps() {
     QCOMPARE(workspace.store().selectedRows().size(), 5);
     QTest::keyClick(m_view, Qt::Key_Delete);
     QCOMPARE(m_view->model()->rowCount(), 0);
-    QCOMPARE(beeps.count(), 2);
+    QCOMPARE(beeps.count(), 1);
     QTest::keyClick(m_view, Qt::Key_Delete);
     m_window->perform(SXCommand::Clear);
-    QCOMPARE(beeps.count(), 4);
+    QCOMPARE(beeps.count(), 3);
 }
 
 SONORIA_GUI_TEST_MAIN(TestItemRows)

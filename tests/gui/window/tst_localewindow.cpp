@@ -72,8 +72,7 @@ void TestLocaleWindow::everyTextFits() {
     QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
     QTest::qWait(50);
     grab(&window, QStringLiteral("locale-window-") + language);
-    const QStringList windowClipped = clippedTexts(&window);
-    QVERIFY2(windowClipped.isEmpty(), qPrintable(windowClipped.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(clippedTexts(&window));
 
     // The summary of a run with failures, in the words the scheduler uses.
     const SXPathFailureList failures{
@@ -92,8 +91,7 @@ void TestLocaleWindow::everyTextFits() {
         QVERIFY2(summary->text().startsWith(QLatin1String("4 files have been converted.")),
                  qPrintable(summary->text()));
     grab(summary, QStringLiteral("locale-summary-") + language);
-    const QStringList alertClipped = clippedTexts(summary);
-    QVERIFY2(alertClipped.isEmpty(), qPrintable(alertClipped.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(clippedTexts(summary));
     QTest::keyClick(summary, Qt::Key_Return);
     QTRY_VERIFY(!summary->isVisible());
 
@@ -103,8 +101,7 @@ void TestLocaleWindow::everyTextFits() {
     QVERIFY(chooser);
     QVERIFY(QTest::qWaitForWindowExposed(chooser));
     grab(chooser, QStringLiteral("locale-chooser-") + language);
-    const QStringList chooserClipped = clippedTexts(chooser);
-    QVERIFY2(chooserClipped.isEmpty(), qPrintable(chooserClipped.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(clippedTexts(chooser));
     QTest::keyClick(chooser, Qt::Key_Escape);
     QTRY_VERIFY(!chooser->isVisible());
 
@@ -112,8 +109,7 @@ void TestLocaleWindow::everyTextFits() {
     preferences.show();
     QVERIFY(QTest::qWaitForWindowExposed(&preferences));
     grab(&preferences, QStringLiteral("locale-preferences-") + language);
-    const QStringList preferencesClipped = clippedTexts(&preferences);
-    QVERIFY2(preferencesClipped.isEmpty(), qPrintable(preferencesClipped.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(clippedTexts(&preferences));
 }
 
 SONORIA_GUI_TEST_MAIN(TestLocaleWindow)

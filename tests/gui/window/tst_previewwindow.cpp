@@ -71,15 +71,11 @@ void TestPreviewWindow::cleanup() {
 }
 
 SXMusicInfoList TestPreviewWindow::addFiles(const QStringList& names) {
-    SXWorkspace& workspace = m_window->workspace();
-    QSignalSpy loaded(&workspace.addRun(), &SXAddRun::loadFinished);
     QStringList paths;
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
-    workspace.addRun().loadAndParseFiles(paths);
-    if (loaded.isEmpty())
-        loaded.wait(30000);
-    return workspace.store().getCurTableDatasource();
+    ::addFiles(m_window->workspace(), paths);
+    return m_window->workspace().store().getCurTableDatasource();
 }
 
 void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
@@ -108,8 +104,7 @@ void TestPreviewWindow::infoPanelFollowsTheSelectionWithItsFallbacks() {
     auto* list = m_window->findChild<SXItemListView*>();
     QTRY_COMPARE(list->visualRect(list->model()->index(0, 0)).width(), list->viewport()->width());
     QVERIFY(!list->horizontalScrollBar()->isVisible());
-    const QStringList problems = SonoriaGuiTest::accessibilityProblems(panel);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(u'\n')));
+    SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(panel));
 
     // It follows the selection, with the core's texts for the row (tst_fileinfotext).
     workspace.store().setSelectedRows({1});

@@ -145,8 +145,7 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     QVERIFY(sheet);
     QVERIFY(sheet->findChildren<QLabel*>().size() > 0);
     grab(sheet, QStringLiteral("output-folder"));
-    const QStringList problems = accessibilityProblems(sheet);
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(accessibilityProblems(sheet));
     sheet->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
     auto* organise = sheet->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
     QVERIFY(organise->isChecked()); // on unless the user turned it off
@@ -251,13 +250,11 @@ void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
     QCOMPARE(list->model()->rowCount(), 4);
     QCOMPARE(ws.store().enumAppState(), int(AppStateConverting));
     startAction()->trigger(); // it reads Stop now
-    for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
-        QCOMPARE(item->dConvertProgress(), -3.0);
 
-    // The summary comes with every row in place; every child was reached.
+    // The summary comes with every row in place; every child was reached. (What Stop marks and
+    // the summary's words: tst_workspacerun.)
     QMessageBox* summary = nullptr;
     QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
-    QCOMPARE(summary->text(), QStringLiteral("0 files has been successfully converted."));
     QCOMPARE(list->model()->rowCount(), 4);
     for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
         QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));

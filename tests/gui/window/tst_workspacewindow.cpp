@@ -292,12 +292,10 @@ void TestWorkspaceWindow::runLocksTabsAndPanel() {
 }
 
 void TestWorkspaceWindow::everyControlIsNamedAndReachedByTab() {
-    const QStringList problems = accessibilityProblems(m_window.get());
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(accessibilityProblems(m_window.get()));
     SXFormatChooserDialog* chooser = openChooser();
     QVERIFY(chooser);
-    const QStringList chooserProblems = accessibilityProblems(chooser);
-    QVERIFY2(chooserProblems.isEmpty(), qPrintable(chooserProblems.join(QLatin1Char('\n'))));
+    SONORIA_VERIFY_NONE(accessibilityProblems(chooser));
     chooser->reject();
     grab(m_window.get(), QStringLiteral("window"));
 }
