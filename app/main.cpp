@@ -1,7 +1,7 @@
 #include "DisplayCheck.h"
 #include "RunFromEnvironment.h"
 #include "WindowScreenshot.h"
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXLog.h"
 #include "base/SXSignalWatcher.h"
 #include "base/SXTranslations.h"
@@ -56,9 +56,9 @@ bool answeredWithoutDisplay(QCommandLineParser& parser, int argc, char** argv) {
         return true;
     }
     if (parser.isSet(QStringLiteral("version"))) {
-        std::printf("%s %s (build %s)\n", qPrintable(SXBundle::productName()),
-                    qPrintable(SXBundle::shortVersionString()),
-                    qPrintable(SXBundle::bundleVersion()));
+        std::printf("%s %s (build %s)\n", qPrintable(SXInstallation::productName()),
+                    qPrintable(SXInstallation::version()),
+                    qPrintable(SXInstallation::buildNumber()));
         return true;
     }
     return false;
@@ -70,7 +70,7 @@ int main(int argc, char** argv) {
     // With --verbose piped into a reader that goes away, a log line must not end the program.
     SXSignalWatcher::ignoreBrokenPipe();
     QApplication::setApplicationName(QStringLiteral("Sonoria"));
-    QApplication::setApplicationVersion(SXBundle::shortVersionString());
+    QApplication::setApplicationVersion(SXInstallation::version());
     QCommandLineParser parser;
     const QCommandLineOption verbose = declareOptions(parser);
     if (answeredWithoutDisplay(parser, argc, argv))
@@ -80,7 +80,7 @@ int main(int argc, char** argv) {
 
     QApplication app(argc, argv);
     SXTranslations::install(app);
-    QApplication::setApplicationDisplayName(SXBundle::productName());
+    QApplication::setApplicationDisplayName(SXInstallation::productName());
     QApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
     parser.process(app);
     SXLog::install(parser.isSet(verbose) || SXLog::verboseFromEnvironment());

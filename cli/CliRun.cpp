@@ -4,8 +4,8 @@
 
 #include "CliOutput.h"
 #include "base/FileHelper.h"
-#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
@@ -288,7 +288,7 @@ void CliRun::runModalAlert(const SXAlert& alert, Answer<int> chosenButton) {
     chosenButton(0);
 }
 
-void CliRun::showSheetAlert(const SXAlert& alert) {
+void CliRun::showNotice(const SXAlert& alert) {
     CliOutput::line(stderr, CliOutput::escaped(alert.messageText));
 }
 

@@ -31,7 +31,7 @@ public:
 
     // SXWorkspacePresenter
     void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) override;
-    void showSheetAlert(const SXAlert& alert) override;
+    void showNotice(const SXAlert& alert) override;
     void chooseOutputFolder(const SXOutputFolderRequest& request,
                             Answer<std::optional<SXOutputFolderChoice>> chosen) override;
     void chooseNewFormat(const QList<SXFormatSettingPtr>& formats,

@@ -1,8 +1,8 @@
 #include "FileHelper.h"
 
-#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
 #include "base/SXFolderScan.h"
+#include "base/SXInstallation.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -240,7 +240,7 @@ QString FileHelper::getLibraryPath() {
 }
 
 QString FileHelper::getAppPath() {
-    return SXBundle::executableDirectory();
+    return SXInstallation::executableDirectory();
 }
 
 QString FileHelper::getTemporaryPath() {

@@ -1,6 +1,6 @@
 #include "base/SXAppIdentity.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 
 #include <QMutex>
@@ -29,17 +29,17 @@ QString SXAppIdentity::normalizedVersion(const QString& shortVersion) {
 }
 
 QString SXAppIdentity::appVersion() {
-    return normalizedVersion(SXBundle::shortVersionString());
+    return normalizedVersion(SXInstallation::version());
 }
 
 QString SXAppIdentity::buildNumber() {
-    return SXBundle::bundleVersion();
+    return SXInstallation::buildNumber();
 }
 
 QString SXAppIdentity::buildVersion() {
     return appVersion() + QLatin1Char('.') + buildNumber();
 }
 
-QString SXAppIdentity::bundleID() {
-    return SXBundle::bundleIdentifier();
+QString SXAppIdentity::applicationId() {
+    return SXInstallation::applicationId();
 }

@@ -12,5 +12,5 @@ public:
     static QString appVersion();
     static QString buildNumber();
     static QString buildVersion(); // appVersion() + "." + buildNumber()
-    static QString bundleID();
+    static QString applicationId();
 };

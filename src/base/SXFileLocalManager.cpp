@@ -1,12 +1,12 @@
 #include "SXFileLocalManager.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 
 #include <QDir>
 #include <QStandardPaths>
 
 QString SXFileLocalManager::getDefaultUpperOutputDir() {
-    return musicDirectory() + QLatin1Char('/') + SXBundle::productName();
+    return musicDirectory() + QLatin1Char('/') + SXInstallation::productName();
 }
 
 QString SXFileLocalManager::musicDirectory() {

@@ -1,6 +1,6 @@
 #include "base/SXTranslations.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -25,7 +25,7 @@ QTranslator* loadCatalogue(const QString& path, QObject* parent) {
 } // namespace
 
 QString SXTranslations::catalogueFolder() {
-    for (const QString& dir : SXBundle::resourceDirectories()) {
+    for (const QString& dir : SXInstallation::resourceDirectories()) {
         const QString folder = dir + QStringLiteral("/translations");
         if (QFileInfo(folder + QLatin1Char('/') + kPrefix + kEnglish + QStringLiteral(".qm"))
                 .isFile())

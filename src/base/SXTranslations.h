@@ -28,7 +28,7 @@ public:
 
     // The languages that have a catalogue ("en", "de", …) in catalogueFolder().
     static QStringList availableLanguages();
-    // The first of SXBundle's resource folders that holds a "translations" folder with the
+    // The first of SXInstallation's resource folders that holds a "translations" folder with the
     // English catalogue; empty when none does.
     static QString catalogueFolder();
 };

@@ -1,6 +1,6 @@
 #include "engine/ConvertCommandLine.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "engine/ConvertJob.h"
 #include "model/LSMedia.h"
 
@@ -45,7 +45,7 @@ QString rangeFilter(const ConvertJob& job) {
 
 QString ConvertCommandLine::ffmpegPath() {
     const QString beside =
-        QDir::cleanPath(SXBundle::executableDirectory() + QStringLiteral("/ffmpeg"));
+        QDir::cleanPath(SXInstallation::executableDirectory() + QStringLiteral("/ffmpeg"));
     const QFileInfo info(beside);
     if (info.isFile() && info.isExecutable())
         return beside;

@@ -1,6 +1,6 @@
 #include "engine/ConvertEngineChoice.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "engine/ConvertJob.h"
 
 #include <QDir>
@@ -33,7 +33,7 @@ const QStringList& ConvertEngineChoice::workerEncoders() {
 
 QString ConvertEngineChoice::workerPath() {
     const QString beside =
-        QDir::cleanPath(SXBundle::executableDirectory() + QStringLiteral("/sonoria-worker"));
+        QDir::cleanPath(SXInstallation::executableDirectory() + QStringLiteral("/sonoria-worker"));
     if (isExecutableFile(beside))
         return beside;
     const QString fromEnvironment = qEnvironmentVariable("SONORIA_WORKER");

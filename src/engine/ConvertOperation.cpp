@@ -1,6 +1,6 @@
 #include "engine/ConvertOperation.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "engine/ConvertCommandLine.h"

@@ -1,7 +1,7 @@
 #include "engine/SXLibraryScript.h"
 
-#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXInstallation.h"
 #include "base/SXLog.h"
 
 #include <QFileInfo>
@@ -17,7 +17,7 @@ const QString kMusicVariable = QStringLiteral("SONORIA_MUSIC_DIR");
 
 int SXLibraryScript::run(const QString& outputFile) {
     const QString script =
-        SXBundle::pathForResource(QStringLiteral("sync-music-library"), QStringLiteral("sh"));
+        SXInstallation::pathForResource(QStringLiteral("sync-music-library"), QStringLiteral("sh"));
     if (script.isEmpty()) {
         SXLog::line(QStringLiteral("library script not found"));
         return -1;

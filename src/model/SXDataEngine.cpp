@@ -1,7 +1,7 @@
 #include "model/SXDataEngine.h"
 
-#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXInstallation.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "model/SXPropertyListReader.h"
@@ -37,7 +37,7 @@ SXDataEngine* SXDataEngine::shareInstance() {
     QMutexLocker locker(&creationLock);
     if (!instance)
         instance = new SXDataEngine(
-            SXBundle::pathForResource(QStringLiteral("Formats"), QStringLiteral("plist")));
+            SXInstallation::pathForResource(QStringLiteral("Formats"), QStringLiteral("plist")));
     return instance;
 }
 

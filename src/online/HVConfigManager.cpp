@@ -1,8 +1,8 @@
 #include "HVConfigManager.h"
 
 #include "base/SXAppIdentity.h"
-#include "base/SXBundle.h"
 #include "base/SXFolderScan.h"
+#include "base/SXInstallation.h"
 #include "base/SXLog.h"
 #include "base/SXSettings.h"
 #include "base/SXSystemInfo.h"
@@ -67,7 +67,7 @@ QString HVConfigManager::onlineConfigQuery() {
     // The short version goes out as the build stamped it, not brought to three components.
     // One pass of arg(), so a value that happens to contain "%4" is not substituted again.
     return QStringLiteral("appver=%1&appid=%2&sysver=%3&appstore=%4")
-        .arg(SXBundle::shortVersionString(), SXAppIdentity::bundleID(),
+        .arg(SXInstallation::version(), SXAppIdentity::applicationId(),
              SXSystemInfo::systemVersionString(), QString::number(0));
 }
 

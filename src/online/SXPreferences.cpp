@@ -1,6 +1,6 @@
 #include "online/SXPreferences.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 #include "online/SXServiceRequest.h"
 
@@ -102,7 +102,8 @@ void SXPreferences::setMainWindowGeometry(const QByteArray& geometry) {
 QUrl SXPreferences::helpPageUrl() {
     // The page made from the README at build time and installed with the resources; no
     // network needed. Empty when the installation lacks it.
-    const QString page = SXBundle::pathForResource(QStringLiteral("help"), QStringLiteral("html"));
+    const QString page =
+        SXInstallation::pathForResource(QStringLiteral("help"), QStringLiteral("html"));
     return page.isEmpty() ? QUrl() : QUrl::fromLocalFile(page);
 }
 
@@ -114,6 +115,6 @@ QUrl SXPreferences::feedbackMailUrl() {
     QUrl url(QStringLiteral("mailto:") + kSupportAddress);
     url.setQuery(QStringLiteral("subject=") +
                  QString::fromLatin1(QUrl::toPercentEncoding(
-                     QStringLiteral("About %1").arg(SXBundle::productName()))));
+                     QStringLiteral("About %1").arg(SXInstallation::productName()))));
     return url;
 }

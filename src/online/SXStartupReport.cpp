@@ -19,7 +19,7 @@ SXStartupReport::SXStartupReport(QObject* parent)
 
 QString SXStartupReport::reportStartupQuery() {
     return QStringLiteral("appver=%1&appid=%2&sysver=%3&channelid=%4&userid=%5")
-        .arg(SXAppIdentity::buildVersion(), SXAppIdentity::bundleID(),
+        .arg(SXAppIdentity::buildVersion(), SXAppIdentity::applicationId(),
              SXSystemInfo::systemVersionString(), QString::number(kChannelId),
              SXAppIdentity::installationId());
 }

@@ -1,6 +1,6 @@
 #include "workspace/SXAboutText.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 
 #include <QCoreApplication>
 
@@ -52,7 +52,7 @@ QString SXAboutText::taglibVersion() {
 }
 
 SXAboutText SXAboutText::current() {
-    const QString product = SXBundle::productName();
+    const QString product = SXInstallation::productName();
     SXAboutText about;
     about.title = QCoreApplication::translate("SXAboutText", "About %1").arg(product);
     about.text =
@@ -60,7 +60,7 @@ SXAboutText SXAboutText::current() {
                        "<li>FFmpeg %7 (libavformat %8, libavcodec %9)</li><li>TagLib %10</li></ul>")
             .arg(product.toHtmlEscaped(),
                  QCoreApplication::translate("SXAboutText", "%1 (build %2)")
-                     .arg(SXBundle::shortVersionString(), SXBundle::bundleVersion())
+                     .arg(SXInstallation::version(), SXInstallation::buildNumber())
                      .toHtmlEscaped(),
                  QCoreApplication::translate("SXAboutText",
                                              "Converts audio and video files to audio formats.")

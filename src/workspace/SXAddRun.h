@@ -30,7 +30,7 @@ public:
     // the container and probes the rest, all off the main thread. Ends with loadFinished()
     // (state back to idle).
     void loadAndParseFiles(const QStringList& paths);
-    // The loading sheet's cancel button.
+    // The loading dialog's cancel button.
     void cancelLoading();
     // The end of an add run on the main thread; `failed` are the items that could not be probed.
     void mainSelCompleteLoad(const SXMusicInfoList& failed);
@@ -73,13 +73,13 @@ public:
     SXMusicInfoPtr metadataEditorAsksForItem(const SXMusicInfoPtr& editing, int function) override;
 
 Q_SIGNALS:
-    // The loading sheet: shown with `text`, then its text and bar (0..1) change. The loader
+    // The loading dialog: shown with `text`, then its text and bar (0..1) change. The loader
     // reports on its worker thread; the newest of its reports reach the main thread at most
     // every 25 ms.
     void loadStarted(const QString& text);
     void loadProgressText(const QString& text);
     void loadProgressValue(double fraction);
-    // The sheet is to be hidden at once (the run still ends with loadFinished).
+    // The dialog is to be hidden at once (the run still ends with loadFinished).
     void loadCancelled();
     void loadFinished(const SXMusicInfoList& failed);
 

@@ -137,7 +137,7 @@ bool SXContainerTabs::shouldCloseTab(const QString& label) {
         return false;
     if (label == QLatin1String("Drake")) {
         if (SXWorkspacePresenter* presenter = m_store.presenter())
-            presenter->showSheetAlert(
+            presenter->showNotice(
                 {tr("No Way!"), tr("I refuse to close a tab named \"Drake\""), {tr("OK")}});
         return false;
     }

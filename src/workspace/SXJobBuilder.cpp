@@ -1,6 +1,6 @@
 #include "workspace/SXJobBuilder.h"
 
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 #include "engine/ConvertNaming.h"
 #include "engine/ConvertOutputFile.h"
@@ -20,7 +20,7 @@ SXJobBuilder::Run SXJobBuilder::Run::fromSettings(const QString& startFolder, bo
             SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
             existing.value_or(SXPreferences::existingOutputs())};
     if (run.playlist.isEmpty())
-        run.playlist = SXBundle::productName();
+        run.playlist = SXInstallation::productName();
     return run;
 }
 

@@ -46,8 +46,9 @@ public:
 
     // A modal alert; answers the index of the chosen button in alert.buttons.
     virtual void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) = 0;
-    // A sheet that only informs (nothing waits for it), such as the refusal to close a tab.
-    virtual void showSheetAlert(const SXAlert& alert) = 0;
+    // A window-modal notice that only informs (nothing waits for it), such as the refusal to close
+    // a tab.
+    virtual void showNotice(const SXAlert& alert) = 0;
     // The output folder of a run; nothing when the user cancelled.
     virtual void chooseOutputFolder(const SXOutputFolderRequest& request,
                                     Answer<std::optional<SXOutputFolderChoice>> chosen) = 0;

@@ -1,4 +1,4 @@
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "engine/SXLibraryScript.h"
 #include "engine/SXPlaylistFileLibrary.h"
 #include "support/LogCapture.h"
@@ -27,7 +27,7 @@ QStringList entriesOf(const QString& folder) {
 
 // The shipped script, as the conversion runs it, with the given music folder.
 int runScript(const QString& file, const QString& music) {
-    const QString script = SXBundle::pathForResource(u"sync-music-library"_s, u"sh"_s);
+    const QString script = SXInstallation::pathForResource(u"sync-music-library"_s, u"sh"_s);
     return SXLibraryScript::runScript(script, file, music);
 }
 } // namespace

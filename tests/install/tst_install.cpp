@@ -1,5 +1,5 @@
-#include "base/SXBundle.h"
 #include "base/SXFolderScan.h"
+#include "base/SXInstallation.h"
 #include "support/TestSupport.h"
 
 #include <QDirIterator>
@@ -199,7 +199,7 @@ void TestInstall::metainfoDescribesThisRelease() {
     }
     QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
     QCOMPARE(launchable, kAppId + u".desktop"_s);
-    QVERIFY2(releases.contains(SXBundle::shortVersionString()), qPrintable(releases.join(u' ')));
+    QVERIFY2(releases.contains(SXInstallation::version()), qPrintable(releases.join(u' ')));
 }
 
 void TestInstall::cliManualListsEveryOption() {
@@ -225,7 +225,7 @@ void TestInstall::installedProgramsAnswerWithoutDisplay_data() {
     QTest::addColumn<QString>("expected");
     QTest::newRow("sonoria --help") << u"sonoria"_s << u"--help"_s << u"Usage: sonoria [options]"_s;
     QTest::newRow("sonoria --version")
-        << u"sonoria"_s << u"--version"_s << u"Sonoria "_s + SXBundle::shortVersionString();
+        << u"sonoria"_s << u"--version"_s << u"Sonoria "_s + SXInstallation::version();
     QTest::newRow("sonoria-cli --help")
         << u"sonoria-cli"_s << u"--help"_s << u"Usage: sonoria-cli"_s;
 }

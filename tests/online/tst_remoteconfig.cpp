@@ -1,5 +1,5 @@
 #include "base/SXAppIdentity.h"
-#include "base/SXBundle.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 #include "base/SXSystemInfo.h"
 #include "online/HVConfigManager.h"
@@ -164,16 +164,17 @@ private Q_SLOTS:
         QCOMPARE(guid.size(), 36);
 
         // Three version components from the build's short version, then the build number.
-        QStringList parts = SXBundle::shortVersionString().split(QLatin1Char('.'));
+        QStringList parts = SXInstallation::version().split(QLatin1Char('.'));
         while (parts.size() < 3)
             parts << QStringLiteral("0");
-        const QString query = "&appid=" + SXAppIdentity::bundleID() +
+        const QString query = "&appid=" + SXAppIdentity::applicationId() +
                               "&sysver=" + SXSystemInfo::systemVersionString();
         const QString report =
             "/common_task/reportstartup.php?appver=" + parts.mid(0, 3).join(QLatin1Char('.')) +
-            QLatin1Char('.') + SXBundle::bundleVersion() + query + "&channelid=5&userid=" + guid;
+            QLatin1Char('.') + SXInstallation::buildNumber() + query +
+            "&channelid=5&userid=" + guid;
         const QString configuration =
-            "/common_task/getconfig.php?appver=" + SXBundle::shortVersionString() + query +
+            "/common_task/getconfig.php?appver=" + SXInstallation::version() + query +
             "&appstore=0";
         QStringList targets;
         for (const ReceivedRequest& request : std::as_const(server.requests)) {

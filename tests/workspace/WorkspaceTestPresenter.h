@@ -15,7 +15,7 @@ public:
         alerts.append(alert);
         chosenButton(alertAnswer);
     }
-    void showSheetAlert(const SXAlert& alert) override { sheets.append(alert); }
+    void showNotice(const SXAlert& alert) override { notices.append(alert); }
     void chooseOutputFolder(const SXOutputFolderRequest& request,
                             Answer<std::optional<SXOutputFolderChoice>> chosen) override {
         folderRequests.append(request);
@@ -35,7 +35,7 @@ public:
     void beep() override { ++beeps; }
     void openFolder(const QString& path) override { openedFolders.append(path); }
 
-    QList<SXAlert> alerts, sheets;
+    QList<SXAlert> alerts, notices;
     int alertAnswer = 0;
     QList<SXOutputFolderRequest> folderRequests;
     std::optional<SXOutputFolderChoice> folderAnswer;

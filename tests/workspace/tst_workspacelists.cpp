@@ -158,12 +158,12 @@ void TestWorkspaceLists::containerRules() {
     QVERIFY(workspace.store().tabLabels().contains(u"WAV"_s));
     workspace.store().setAppState(AppStateIdle);
 
-    // A tab named "Drake" is refused with its sheet.
+    // A tab named "Drake" is refused with its notice.
     workspace.tabs().addNewTabWithName(u"Drake"_s);
     QVERIFY(workspace.tabs().selectContainer(u"Drake"_s));
     QVERIFY(!workspace.tabs().closeTab());
-    QCOMPARE(m_presenter.sheets.size(), 1);
-    QCOMPARE(alertTexts(m_presenter.sheets.first()),
+    QCOMPARE(m_presenter.notices.size(), 1);
+    QCOMPARE(alertTexts(m_presenter.notices.first()),
              (QStringList{u"No Way!"_s, u"I refuse to close a tab named \"Drake\""_s, u"OK"_s}));
     // "Drake" took the place of the first non-fixed tab (WAV) and the appended tab stayed
     // unnamed: the container WAV has no tab any more.

@@ -1,7 +1,7 @@
 #include "gui/window/SXMainAppController.h"
 
 #include "gui/dialogs/SXAddFilesDialog.h"
-#include "gui/dialogs/SXLoadingSheet.h"
+#include "gui/dialogs/SXLoadingDialog.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/list/SXRowContextMenu.h"
@@ -58,7 +58,7 @@ SXMainAppController::SXMainAppController(QWidget* parent)
                 editor->setMusicInfo(item);
                 editor->open();
             });
-    new SXLoadingSheet(m_workspace->addRun(), *this);
+    new SXLoadingDialog(m_workspace->addRun(), *this);
     new SXWindowDrops(*this, *_tabBar, m_workspace->addRun(), m_workspace->moves());
     connectWorkspace();
     if (!restoreGeometry(SXPreferences::mainWindowGeometry()))

@@ -55,7 +55,7 @@ void SXWindowPresenter::runModalAlert(const SXAlert& alert, Answer<int> chosenBu
     box->open();
 }
 
-void SXWindowPresenter::showSheetAlert(const SXAlert& alert) {
+void SXWindowPresenter::showNotice(const SXAlert& alert) {
     messageBox(m_window, alert, QMessageBox::Warning)->open();
 }
 

@@ -16,7 +16,7 @@ public:
     explicit SXWindowPresenter(QWidget& window);
 
     void runModalAlert(const SXAlert& alert, Answer<int> chosenButton) override;
-    void showSheetAlert(const SXAlert& alert) override;
+    void showNotice(const SXAlert& alert) override;
     void chooseOutputFolder(const SXOutputFolderRequest& request,
                             Answer<std::optional<SXOutputFolderChoice>> chosen) override;
     void chooseNewFormat(const QList<SXFormatSettingPtr>& formats,

@@ -1,5 +1,5 @@
-#include "base/SXBundle.h"
 #include "base/SXFileLocalManager.h"
+#include "base/SXInstallation.h"
 #include "base/SXSettings.h"
 #include "gui/application/SXDesktopApp.h"
 #include "gui/application/SXMenuHandler.h"
@@ -212,7 +212,7 @@ void TestDesktopApp::menuCommandsReachTheKeyWindow() {
     // About names the libraries this process loaded: ffprobe loads the same FFmpeg libraries.
     QString probe;
     QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
-    QStringList expected{SXBundle::shortVersionString(), u"Qt "_s + QString::fromLatin1(qVersion()),
+    QStringList expected{SXInstallation::version(), u"Qt "_s + QString::fromLatin1(qVersion()),
                          u"GNU General Public License"_s, u"TagLib 1."_s};
     expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
     for (const char* library : {"libavformat", "libavcodec"}) {

@@ -86,7 +86,7 @@ inline bool dropFilesOnList(SXMainAppController* window, const QStringList& path
     if (!dragAndDrop(view->viewport(), free, data.get()) ||
         !(finished.count() > 0 || finished.wait(60000)))
         return false;
-    // The closed sheet leaves no window active on this platform; a desktop gives it back.
+    // The closed dialog leaves no window active on this platform; a desktop gives it back.
     window->activateWindow();
     return QTest::qWaitForWindowActive(window);
 }

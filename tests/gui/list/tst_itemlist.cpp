@@ -2,7 +2,7 @@
 
 #include "base/SXSettings.h"
 #include "gui/dialogs/SXAddFilesDialog.h"
-#include "gui/dialogs/SXLoadingSheet.h"
+#include "gui/dialogs/SXLoadingDialog.h"
 #include "gui/panels/SXHelpView.h"
 #include "gui/window/SXContainerTabBar.h"
 
@@ -20,7 +20,7 @@ using namespace ItemListTest;
 
 // What the list widgets add to the core's list decisions (tested in tests/workspace): real drops
 // of files and rows reaching the core from the list, the tabs and other windows, the add dialog,
-// the loading sheet, alerts shown as message boxes, and rows read aloud.
+// the loading dialog, alerts shown as message boxes, and rows read aloud.
 class TestItemList : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -28,7 +28,7 @@ private Q_SLOTS:
     void init();
     void droppedFilesBecomeRowsReadAloud();
     void addDialogTakesFilesAndFoldersTogether();
-    void loadingSheetShowsProgressAndCancels();
+    void loadingDialogShowsProgressAndCancels();
     void rowsMoveWithinTheListOntoTabsAndIntoOtherWindows();
     void dropsAreRefusedDuringARun();
 
@@ -127,26 +127,26 @@ void TestItemList::addDialogTakesFilesAndFoldersTogether() {
     QCOMPARE(names, (QStringList{u"c.flac"_s, u"d.ogg"_s, u"e.vob"_s}));
 }
 
-void TestItemList::loadingSheetShowsProgressAndCancels() {
+void TestItemList::loadingDialogShowsProgressAndCancels() {
     const auto window = openWindow();
     QVERIFY(window);
     SXWorkspace& workspace = window->workspace();
     QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
     QStringList seen;
-    SXLoadingSheet* sheet = window->findChild<SXLoadingSheet*>();
+    SXLoadingDialog* dialog = window->findChild<SXLoadingDialog*>();
     int stateWhileShown = -1;
-    QStringList sheetProblems;
+    QStringList dialogProblems;
     connect(&workspace.addRun(), &SXAddRun::loadStarted, this,
-            [&] { seen.append(sheet->progressText()); });
+            [&] { seen.append(dialog->progressText()); });
     QMetaObject::Connection clickCancel;
     clickCancel = connect(&workspace.addRun(), &SXAddRun::loadProgressText, this, [&] {
         disconnect(clickCancel);
-        seen.append(sheet->progressText());
-        stateWhileShown = sheet->isVisible() ? workspace.store().enumAppState() : -1;
-        sheetProblems = SonoriaGuiTest::accessibilityProblems(sheet);
-        SonoriaGuiTest::grab(sheet, u"loading-sheet"_s);
-        QTest::mouseClick(sheet->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
-        seen.append(sheet->isVisible() ? u"still shown"_s : u"hidden"_s);
+        seen.append(dialog->progressText());
+        stateWhileShown = dialog->isVisible() ? workspace.store().enumAppState() : -1;
+        dialogProblems = SonoriaGuiTest::accessibilityProblems(dialog);
+        SonoriaGuiTest::grab(dialog, u"loading-dialog"_s);
+        QTest::mouseClick(dialog->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
+        seen.append(dialog->isVisible() ? u"still shown"_s : u"hidden"_s);
     });
     QVERIFY(dropFilesOnList(window.get(), {path(u"many"_s)}));
     QCOMPARE(seen.size(), 3);
@@ -155,8 +155,8 @@ void TestItemList::loadingSheetShowsProgressAndCancels() {
              qPrintable(seen.at(1)));
     QCOMPARE(seen.at(2), u"hidden"_s);
     QCOMPARE(stateWhileShown, int(AppStateLoading));
-    QVERIFY2(sheetProblems.isEmpty(), qPrintable(sheetProblems.join(u'\n')));
-    QCOMPARE(sheet->windowModality(), Qt::WindowModal);
+    QVERIFY2(dialogProblems.isEmpty(), qPrintable(dialogProblems.join(u'\n')));
+    QCOMPARE(dialog->windowModality(), Qt::WindowModal);
     QCOMPARE(workspace.store().currentTabItemCount(), 0);
 }
 

@@ -55,7 +55,7 @@ public Q_SLOTS:
 
 } // namespace
 
-// A run as a user makes it: Start, the folder sheet, rows converting, the summary; Stop and
+// A run as a user makes it: Start, the folder dialog, rows converting, the summary; Stop and
 // closing the window in the middle; the progress outside the window on a private session bus.
 class TestWindowRun : public QObject {
     Q_OBJECT
@@ -71,7 +71,7 @@ private Q_SLOTS:
 private:
     // Adds generated sources to the selected container and waits until they are listed.
     void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
-    // Presses Start and answers the folder sheet with `folder`, organised by format.
+    // Presses Start and answers the folder dialog with `folder`, organised by format.
     void startInto(const QString& folder, bool byEnterOnTheList = false);
     QAction* startAction() const;
 
@@ -141,15 +141,15 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     } else {
         start->trigger();
     }
-    auto* sheet = openDialog<SXOutputFolderDialog>(m_window.get());
-    QVERIFY(sheet);
-    QVERIFY(sheet->findChildren<QLabel*>().size() > 0);
-    grab(sheet, QStringLiteral("output-folder"));
-    SONORIA_VERIFY_NONE(accessibilityProblems(sheet));
-    sheet->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
-    auto* organise = sheet->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
+    auto* dialog = openDialog<SXOutputFolderDialog>(m_window.get());
+    QVERIFY(dialog);
+    QVERIFY(dialog->findChildren<QLabel*>().size() > 0);
+    grab(dialog, QStringLiteral("output-folder"));
+    SONORIA_VERIFY_NONE(accessibilityProblems(dialog));
+    dialog->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
+    auto* organise = dialog->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
     QVERIFY(organise->isChecked()); // on unless the user turned it off
-    sheet->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
 }
 

@@ -1,4 +1,4 @@
-#include "gui/dialogs/SXLoadingSheet.h"
+#include "gui/dialogs/SXLoadingDialog.h"
 
 #include "workspace/SXAddRun.h"
 
@@ -13,10 +13,10 @@ namespace {
 constexpr int kBarSteps = 1000;
 }
 
-SXLoadingSheet::SXLoadingSheet(SXAddRun& addRun, QWidget& window)
+SXLoadingDialog::SXLoadingDialog(SXAddRun& addRun, QWidget& window)
     : QDialog(&window)
     , m_addRun(addRun) {
-    setObjectName(QStringLiteral("loadingSheet"));
+    setObjectName(QStringLiteral("loadingDialog"));
     setWindowTitle(QApplication::applicationDisplayName());
     setWindowModality(Qt::WindowModal);
     auto* layout = new QVBoxLayout(this);
@@ -35,50 +35,50 @@ SXLoadingSheet::SXLoadingSheet(SXAddRun& addRun, QWidget& window)
     m_cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
     m_cancel->setObjectName(QStringLiteral("btnCancel"));
     layout->addWidget(buttons);
-    connect(buttons, &QDialogButtonBox::rejected, this, &SXLoadingSheet::reject);
+    connect(buttons, &QDialogButtonBox::rejected, this, &SXLoadingDialog::reject);
 
-    connect(&addRun, &SXAddRun::loadStarted, this, &SXLoadingSheet::beginSheet);
-    connect(&addRun, &SXAddRun::loadProgressText, this, &SXLoadingSheet::showText);
-    connect(&addRun, &SXAddRun::loadProgressValue, this, &SXLoadingSheet::showValue);
-    connect(&addRun, &SXAddRun::loadCancelled, this, &SXLoadingSheet::endSheet);
-    connect(&addRun, &SXAddRun::loadFinished, this, &SXLoadingSheet::endSheet);
+    connect(&addRun, &SXAddRun::loadStarted, this, &SXLoadingDialog::begin);
+    connect(&addRun, &SXAddRun::loadProgressText, this, &SXLoadingDialog::showText);
+    connect(&addRun, &SXAddRun::loadProgressValue, this, &SXLoadingDialog::showValue);
+    connect(&addRun, &SXAddRun::loadCancelled, this, &SXLoadingDialog::finish);
+    connect(&addRun, &SXAddRun::loadFinished, this, &SXLoadingDialog::finish);
 }
 
-QString SXLoadingSheet::progressText() const {
+QString SXLoadingDialog::progressText() const {
     return _tfProgressName->text();
 }
 
-double SXLoadingSheet::progressValue() const {
+double SXLoadingDialog::progressValue() const {
     return double(_piIndicator->value()) / kBarSteps;
 }
 
-void SXLoadingSheet::beginSheet(const QString& text) {
+void SXLoadingDialog::begin(const QString& text) {
     showText(text);
     showValue(0.0);
     if (!isVisible())
         open();
 }
 
-void SXLoadingSheet::showText(const QString& text) {
+void SXLoadingDialog::showText(const QString& text) {
     _tfProgressName->setText(text);
     setAccessibleDescription(text);
 }
 
-void SXLoadingSheet::showValue(double fraction) {
+void SXLoadingDialog::showValue(double fraction) {
     _piIndicator->setValue(int(std::clamp(fraction, 0.0, 1.0) * kBarSteps));
 }
 
-void SXLoadingSheet::reject() {
-    // The workspace cancels its loader and answers with loadCancelled, which ends the sheet.
+void SXLoadingDialog::reject() {
+    // The workspace cancels its loader and answers with loadCancelled, which ends the dialog.
     m_addRun.cancelLoading();
 }
 
-void SXLoadingSheet::endSheet() {
+void SXLoadingDialog::finish() {
     if (!isVisible())
         return;
     const bool hadKeyboard = isActiveWindow();
     QDialog::done(QDialog::Accepted);
-    // The sheet ends by itself, not by a click in the window: hand the keyboard back so that
+    // The dialog ends by itself, not by a click in the window: hand the keyboard back so that
     // shortcuts and Space on the list work at once (not every platform does it for us).
     if (hadKeyboard)
         parentWidget()->activateWindow();

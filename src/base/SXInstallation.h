@@ -4,7 +4,7 @@
 
 // What the program knows about its own installation: where its executable and resources are,
 // and the identity and version strings that the build stamped into it.
-class SXBundle {
+class SXInstallation {
 public:
     static QString executablePath();
     static QString executableDirectory();
@@ -15,8 +15,8 @@ public:
     static QString pathForResource(const QString& name, const QString& type);
     static QStringList resourceDirectories();
 
-    static QString shortVersionString(); // "CFBundleShortVersionString"
-    static QString bundleVersion();      // "CFBundleVersion", the build number
-    static QString bundleIdentifier();
-    static QString productName(); // "Sonoria"
+    static QString version();       // "1.0.0", the release
+    static QString buildNumber();   // the build's own number
+    static QString applicationId(); // the reverse-domain name of the desktop entry
+    static QString productName();   // "Sonoria"
 };

@@ -1,4 +1,4 @@
-#include "SXBundle.h"
+#include "SXInstallation.h"
 
 #include "SonoriaVersion.h"
 
@@ -6,17 +6,17 @@
 #include <QDir>
 #include <QFileInfo>
 
-QString SXBundle::executablePath() {
+QString SXInstallation::executablePath() {
     if (QCoreApplication::instance())
         return QCoreApplication::applicationFilePath();
     return QFileInfo(QStringLiteral("/proc/self/exe")).canonicalFilePath();
 }
 
-QString SXBundle::executableDirectory() {
+QString SXInstallation::executableDirectory() {
     return QFileInfo(executablePath()).absolutePath();
 }
 
-QStringList SXBundle::resourceDirectories() {
+QStringList SXInstallation::resourceDirectories() {
     QStringList dirs;
     const QString fromEnv = qEnvironmentVariable("SONORIA_RESOURCES_DIR");
     if (!fromEnv.isEmpty())
@@ -29,7 +29,7 @@ QStringList SXBundle::resourceDirectories() {
     return dirs;
 }
 
-QString SXBundle::pathForResource(const QString& name, const QString& type) {
+QString SXInstallation::pathForResource(const QString& name, const QString& type) {
     const QString fileName = type.isEmpty() ? name : name + QLatin1Char('.') + type;
     for (const QString& dir : resourceDirectories()) {
         const QString candidate = dir + QLatin1Char('/') + fileName;
@@ -39,18 +39,18 @@ QString SXBundle::pathForResource(const QString& name, const QString& type) {
     return {};
 }
 
-QString SXBundle::shortVersionString() {
+QString SXInstallation::version() {
     return QStringLiteral(SONORIA_SHORT_VERSION);
 }
 
-QString SXBundle::bundleVersion() {
+QString SXInstallation::buildNumber() {
     return QStringLiteral(SONORIA_BUILD_NUMBER);
 }
 
-QString SXBundle::bundleIdentifier() {
-    return QStringLiteral(SONORIA_BUNDLE_ID);
+QString SXInstallation::applicationId() {
+    return QStringLiteral(SONORIA_APPLICATION_ID);
 }
 
-QString SXBundle::productName() {
+QString SXInstallation::productName() {
     return QStringLiteral(SONORIA_PRODUCT_NAME);
 }

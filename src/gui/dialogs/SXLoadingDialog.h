@@ -7,14 +7,14 @@ class QProgressBar;
 class QPushButton;
 class SXAddRun;
 
-// The sheet over a workspace window while an add run probes its files: "Loading Media
+// The dialog over a workspace window while an add run probes its files: "Loading Media
 // Files...", then "Importing <name>..." per file, a determinate bar and Cancel. It is
 // window-modal and follows the workspace's load signals; Cancel (or Escape) asks the workspace
-// to cancel, which hides the sheet at once.
-class SXLoadingSheet final : public QDialog {
+// to cancel, which hides the dialog at once.
+class SXLoadingDialog final : public QDialog {
     Q_OBJECT
 public:
-    SXLoadingSheet(SXAddRun& addRun, QWidget& window);
+    SXLoadingDialog(SXAddRun& addRun, QWidget& window);
 
     QString progressText() const;
     double progressValue() const; // 0..1
@@ -23,10 +23,10 @@ public Q_SLOTS:
     void reject() override;
 
 private:
-    void beginSheet(const QString& text);
+    void begin(const QString& text);
     void showText(const QString& text);
     void showValue(double fraction);
-    void endSheet();
+    void finish();
 
     SXAddRun& m_addRun;
     QLabel* _tfProgressName = nullptr;
