@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/SXSafeName.h"
+
 #include <QCoreApplication>
 #include <QString>
 
@@ -34,7 +36,7 @@ class ConvertNaming {
 
 public:
     // What a file system takes as one name, in bytes of UTF-8.
-    static constexpr int kMaxNameBytes = 255;
+    static constexpr int kMaxNameBytes = SXSafeName::kMaxBytes;
 
     // The pattern of a container that asks for nothing else: the source's own name (which the
     // job builder then takes as it is, as outputs were always named).
@@ -46,10 +48,10 @@ public:
     static QString expand(const QString& pattern, const ConvertNameTags& tags,
                           int reservedBytes = 0);
 
-    // `text` as one safe path component: no "/" or NUL, no control characters, no leading dot or
-    // dash (which would hide the file or read as an option), no trailing space or dot, at most
-    // `maxBytes` of UTF-8 cut between characters, never empty.
-    static QString safeComponent(const QString& text, int maxBytes = kMaxNameBytes);
+    // `text` as one safe path component (SXSafeName's rule).
+    static QString safeComponent(const QString& text, int maxBytes = kMaxNameBytes) {
+        return SXSafeName::component(text, maxBytes);
+    }
 
     // The folder of `sourcePath` below `addedFrom` (the folder the user added), each part made
     // safe; empty when the source was not added with a folder or lies outside it.

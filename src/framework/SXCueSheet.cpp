@@ -1,5 +1,7 @@
 #include "framework/SXCueSheet.h"
 
+#include "base/SXSafeName.h"
+
 #include "framework/MTETagFileKind.h"
 
 #include <QCoreApplication>
@@ -115,25 +117,7 @@ QString SXCueTrack::identity() const {
 
 QString SXCueTrack::outputName() const {
     const QString numbered = QStringLiteral("%1").arg(number, 2, 10, QLatin1Char('0'));
-    return SXCueSheet::safeFileName(title.isEmpty() ? numbered
-                                                    : numbered + QLatin1Char(' ') + title);
-}
-
-QString SXCueSheet::safeFileName(const QString& name) {
-    QString safe;
-    safe.reserve(name.size());
-    for (const QChar c : name) {
-        if (c == QLatin1Char('/') || c == QLatin1Char('\\'))
-            safe += QLatin1Char('-');
-        else if (c.category() == QChar::Other_Control)
-            safe += QLatin1Char(' ');
-        else
-            safe += c;
-    }
-    safe = safe.trimmed();
-    while (safe.startsWith(QLatin1Char('.')))
-        safe.remove(0, 1);
-    return safe.isEmpty() ? QStringLiteral("_") : safe;
+    return SXSafeName::component(title.isEmpty() ? numbered : numbered + QLatin1Char(' ') + title);
 }
 
 QString SXCueSheet::decode(const QByteArray& bytes) {

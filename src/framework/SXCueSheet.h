@@ -61,6 +61,4 @@ public:
     // The sheet's bytes as text: UTF-8 (a byte order mark dropped) when they are valid UTF-8,
     // else converted from the encoding uchardet recognises (Windows-1252 when it has no answer).
     static QString decode(const QByteArray& bytes);
-    // `name` made safe as a file name: no '/', no control characters, no leading dot.
-    static QString safeFileName(const QString& name);
 };

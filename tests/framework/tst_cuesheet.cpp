@@ -58,8 +58,6 @@ private Q_SLOTS:
     void samplePositionsFollowTheRate();
     void readFindsTheAudioOrSaysWhatIsMissing();
     void embeddedSheetNamesTheFileItself();
-    void safeFileNames_data();
-    void safeFileNames();
 };
 
 void TestCueSheet::tracksRunFromIndexOneToTheNext() {
@@ -184,22 +182,6 @@ void TestCueSheet::embeddedSheetNamesTheFileItself() {
     const QString plain = dir.filePath(u"plain.flac"_s);
     QVERIFY(SonoriaTest::makeTone(plain, 1.0));
     QVERIFY(SXCueSheet::embedded(plain).tracks.isEmpty());
-}
-
-void TestCueSheet::safeFileNames_data() {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("safe");
-    QTest::newRow("plain") << u"01 Café Noël"_s << u"01 Café Noël"_s;
-    QTest::newRow("slashes") << u"02 AC/DC\\live"_s << u"02 AC-DC-live"_s;
-    QTest::newRow("control") << u"03 a\tb\nc\x1b"_s << u"03 a b c"_s;
-    QTest::newRow("leading dots") << u"..hidden"_s << u"hidden"_s;
-    QTest::newRow("nothing left") << u"."_s << u"_"_s;
-}
-
-void TestCueSheet::safeFileNames() {
-    QFETCH(QString, name);
-    QFETCH(QString, safe);
-    QCOMPARE(SXCueSheet::safeFileName(name), safe);
 }
 
 SONORIA_TEST_MAIN(TestCueSheet)
