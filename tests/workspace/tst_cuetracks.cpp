@@ -43,7 +43,7 @@ FILE "%1" WAVE
 )"_s.arg(audio);
 }
 const QStringList kTitles{u"Café Noël"_s, u"Élan/Vital"_s, u"Fin"_s};
-const QStringList kOutputNames{u"01 Café Noël"_s, u"02 Élan-Vital"_s, u"03 Fin"_s};
+const QStringList kOutputNames{u"01 Café Noël"_s, u"02 Élan_Vital"_s, u"03 Fin"_s};
 
 QByteArray windows1252(const QString& text) {
     QByteArray bytes;
