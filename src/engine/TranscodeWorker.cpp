@@ -21,16 +21,6 @@ namespace {
 constexpr int kQuitGraceMs = 2000;
 constexpr int kOrphanedStatus = 1;
 constexpr int kExecFailedStatus = 127;
-
-int hexValue(char c) {
-    if (c >= '0' && c <= '9')
-        return c - '0';
-    if (c >= 'A' && c <= 'F')
-        return c - 'A' + 10;
-    if (c >= 'a' && c <= 'f')
-        return c - 'a' + 10;
-    return -1;
-}
 } // namespace
 
 std::unique_ptr<TranscodeWorker> TranscodeWorker::launch(const QString& program) {
@@ -207,30 +197,11 @@ QString TranscodeWorker::howItEnded() {
 }
 
 QByteArray TranscodeWorker::encode(const QByteArray& value) {
-    static const char digits[] = "0123456789ABCDEF";
-    QByteArray encoded;
-    encoded.reserve(value.size());
-    for (const char c : value) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte < 0x20 || byte == 0x7f || c == '%')
-            encoded.append('%').append(digits[byte >> 4]).append(digits[byte & 0xf]);
-        else
-            encoded.append(c);
-    }
-    return encoded;
+    // Every byte but the unreserved ones, slashes and spaces becomes %XX: a TAB, line break or
+    // '%' in a path can never split a field, and the worker decodes any %XX the same way.
+    return value.toPercentEncoding(QByteArrayLiteral("/ "));
 }
 
 QByteArray TranscodeWorker::decode(const QByteArray& value) {
-    QByteArray decoded;
-    decoded.reserve(value.size());
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        if (value[i] == '%' && i + 2 < value.size() && hexValue(value[i + 1]) >= 0 &&
-            hexValue(value[i + 2]) >= 0) {
-            decoded.append(char(hexValue(value[i + 1]) * 16 + hexValue(value[i + 2])));
-            i += 2;
-        } else {
-            decoded.append(value[i]);
-        }
-    }
-    return decoded;
+    return QByteArray::fromPercentEncoding(value);
 }
