@@ -99,11 +99,6 @@ LSMediaLoaderListener* LSMediaLoader::listener() const {
     return m_listener.load();
 }
 
-SXMusicInfoList LSMediaLoader::aryMediasToLoad() const {
-    QMutexLocker locker(&m_lock);
-    return m_aryMediasToLoad;
-}
-
 void LSMediaLoader::cancel() {
     m_bCanceled.store(true);
 }
@@ -117,16 +112,23 @@ void LSMediaLoader::loadMediasWithMediaArray(const SXMusicInfoList& medias) {
         completeLoad(std::nullopt, std::nullopt);
         return;
     }
+    loadBatchMadeBy([medias] { return medias; });
+}
+
+void LSMediaLoader::loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch) {
     {
         QMutexLocker locker(&m_lock);
-        m_aryMediasToLoad = medias;
         ++m_runningWorkers;
     }
     // The worker owns a reference, so the loader outlives a caller that lets go of it.
     std::shared_ptr<LSMediaLoader> self = shared_from_this();
     try {
-        std::thread([self, medias] {
-            self->loadMediasThread(medias);
+        std::thread([self, makeBatch = std::move(makeBatch)] {
+            const SXMusicInfoList medias = self->bCanceled() ? SXMusicInfoList() : makeBatch();
+            if (medias.isEmpty())
+                self->completeLoad(std::nullopt, std::nullopt);
+            else
+                self->loadMediasThread(medias);
             self->workerFinished();
         }).detach();
     } catch (const std::system_error& failure) {
@@ -136,35 +138,6 @@ void LSMediaLoader::loadMediasWithMediaArray(const SXMusicInfoList& medias) {
         completeLoad(std::nullopt, std::nullopt);
         workerFinished();
     }
-}
-
-void LSMediaLoader::loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch) {
-    {
-        QMutexLocker locker(&m_lock);
-        ++m_runningWorkers;
-    }
-    std::shared_ptr<LSMediaLoader> self = shared_from_this();
-    const auto work = [self, makeBatch = std::move(makeBatch)] {
-        self->loadOnThisThread(self->bCanceled() ? SXMusicInfoList() : makeBatch());
-        self->workerFinished();
-    };
-    try {
-        std::thread(work).detach();
-    } catch (const std::system_error&) {
-        work(); // no thread to be had: the caller waits instead
-    }
-}
-
-void LSMediaLoader::loadOnThisThread(const SXMusicInfoList& medias) {
-    if (medias.isEmpty()) {
-        completeLoad(std::nullopt, std::nullopt);
-        return;
-    }
-    {
-        QMutexLocker locker(&m_lock);
-        m_aryMediasToLoad = medias;
-    }
-    loadMediasThread(medias);
 }
 
 void LSMediaLoader::loadMediasThread(const SXMusicInfoList& medias) {

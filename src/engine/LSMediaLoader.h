@@ -30,7 +30,6 @@ public:
     // while), then loads it there. waitUntilDone() waits for the making too: a batch still being
     // made when its window goes must not read the settings of a program that is ending.
     void loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch);
-    SXMusicInfoList aryMediasToLoad() const;
 
     // Noticed by the worker before the next item and after the current item's probe.
     void cancel();
@@ -43,7 +42,6 @@ public:
 private:
     LSMediaLoader() = default;
     void loadMediasThread(const SXMusicInfoList& medias);
-    void loadOnThisThread(const SXMusicInfoList& medias);
     void completeLoad(const std::optional<SXMusicInfoList>& medias,
                       const std::optional<QSet<int>>& failedIndex);
     void workerFinished();
@@ -52,7 +50,6 @@ private:
     std::atomic<bool> m_bCanceled{false};
     mutable QMutex m_lock;
     QWaitCondition m_idle;
-    SXMusicInfoList m_aryMediasToLoad;
     int m_runningWorkers = 0;
 };
 
