@@ -25,6 +25,16 @@ double sampleRate(const ConvertJob& job) {
     return job.choices.sampleRate ? double(*job.choices.sampleRate) : job.sourceSampleRate;
 }
 
+// The texts ffmpeg is given; settings() reads its numbers from the same texts, so that both
+// round alike ("192.00k" is 192000 bit/s).
+QString sampleRateText(const ConvertJob& job) {
+    return QString::number(sampleRate(job), 'f', 2);
+}
+
+QString kbpsText(const ConvertJob& job) {
+    return QString::number(bitRateKbps(job), 'f', 2);
+}
+
 int channels(const ConvertJob& job) {
     if (bitRateKbps(job) > kForceStereoAboveKbps)
         return 2;
@@ -65,11 +75,15 @@ QStringList ConvertCommandLine::arguments(const QString& executable, const Conve
     if (!filters.isEmpty())
         arguments << QStringLiteral("-af") << filters.join(QLatin1Char(','));
     arguments << QStringLiteral("-acodec") << job.encoder << QStringLiteral("-ar")
-              << QString::number(sampleRate(job), 'f', 2) << QStringLiteral("-b:a")
-              << QString::number(bitRateKbps(job), 'f', 2) + QLatin1Char('k')
+              << sampleRateText(job) << QStringLiteral("-b:a") << kbpsText(job) + QLatin1Char('k')
               << QStringLiteral("-ac") << QString::number(channels(job)) << QStringLiteral("-y")
               << outputFile;
     return arguments;
+}
+
+ConvertEncoderSettings ConvertCommandLine::settings(const ConvertJob& job) {
+    return {job.encoder, qRound(sampleRateText(job).toDouble()),
+            qRound64(kbpsText(job).toDouble() * 1000.0), channels(job)};
 }
 
 QString ConvertCommandLine::readable(const QStringList& arguments) {

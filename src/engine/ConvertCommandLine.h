@@ -5,6 +5,15 @@
 
 struct ConvertJob;
 
+// The numbers the encoder is asked for: exactly what ffmpeg reads from the argument list, so that
+// a converter given these instead of the list makes the same file.
+struct ConvertEncoderSettings {
+    QString encoder;    // ffmpeg's encoder name ("libmp3lame")
+    int sampleRate = 0; // Hz
+    qint64 bitRate = 0; // bit/s; 0 for the lossless encoders
+    int channels = 0;
+};
+
 // The ffmpeg command line of one conversion: which ffmpeg runs, and the arguments its job gets,
 // always in the same order and never more than these. Every rule that turns a container's
 // choices into numbers for ffmpeg is here.
@@ -16,6 +25,9 @@ public:
     // The argument vector (element 0 is the executable), in its fixed order.
     static QStringList arguments(const QString& executable, const ConvertJob& job,
                                  const QString& outputFile);
+
+    // The encoder's numbers of those arguments, as ffmpeg reads them.
+    static ConvertEncoderSettings settings(const ConvertJob& job);
 
     // The arguments as the log shows them: ("a", "b", ...).
     static QString readable(const QStringList& arguments);

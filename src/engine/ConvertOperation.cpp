@@ -147,8 +147,8 @@ void ConvertOperation::main() {
         ConvertCommandLine::arguments(ffmpeg, m_job, m_output.temporaryPath());
     SXLog::line(QStringLiteral("tOutFile:") + m_output.finalPath());
     SXLog::line(QStringLiteral("args:") + ConvertCommandLine::readable(arguments));
-    const WorkerPath path = ConvertEngineChoice::workerTakes(m_job) ? convertWithWorker(arguments)
-                                                                    : WorkerPath::Unavailable;
+    const WorkerPath path =
+        ConvertEngineChoice::workerTakes(m_job) ? convertWithWorker() : WorkerPath::Unavailable;
     if (path == WorkerPath::Unavailable)
         SXLog::line(QStringLiteral("engine: ffmpeg"));
     // Cancelled after the queue let it run but before the child started: like a waiting

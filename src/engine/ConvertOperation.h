@@ -75,7 +75,7 @@ private:
     // What becomes of a conversion that was not cancelled: checked, tagged and named, or failed.
     void concludeOutput();
     enum class WorkerPath { Unavailable, Converted, CancelledEarly };
-    WorkerPath convertWithWorker(const QStringList& arguments);
+    WorkerPath convertWithWorker();
     // Verifies the child's output, writes its tags and gives it its final name: empty on
     // success, else the reason the conversion failed.
     // Keeps on the item what of its tags arrived in `outputPath`.

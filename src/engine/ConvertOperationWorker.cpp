@@ -1,12 +1,13 @@
 // ConvertOperation's conversion through a sonoria-worker: the rest of the operation (the output's
 // name, its check, tags, commit and delivery) is the same for both ways of converting.
 #include "base/SXLog.h"
+#include "engine/ConvertCommandLine.h"
 #include "engine/ConvertEngineChoice.h"
 #include "engine/ConvertOperation.h"
 
 #include <QMutexLocker>
 
-ConvertOperation::WorkerPath ConvertOperation::convertWithWorker(const QStringList& arguments) {
+ConvertOperation::WorkerPath ConvertOperation::convertWithWorker() {
     {
         QMutexLocker locker(&m_lock);
         if (isCancelled())
@@ -19,7 +20,8 @@ ConvertOperation::WorkerPath ConvertOperation::convertWithWorker(const QStringLi
     if (m_listener)
         m_listener->didConvertOperationStart(this);
     const ConvertWorkerRun::Result result = m_workerRun.run(
-        ConvertEngineChoice::workerPath(), arguments, m_job.sourceDuration, [this](double percent) {
+        ConvertEngineChoice::workerPath(), m_job.sourcePath, m_output.temporaryPath(),
+        ConvertCommandLine::settings(m_job), m_job.sourceDuration, [this](double percent) {
             if (m_listener)
                 m_listener->convertOperationHandleProgress(this, percent);
         });

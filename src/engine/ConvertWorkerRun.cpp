@@ -20,12 +20,6 @@ constexpr int kPollMs = 100;
 constexpr auto kStopGrace = std::chrono::seconds(10);
 std::atomic<qint64> g_nextJobId{1};
 
-// The value after `option` in the ffmpeg command line.
-QString optionValue(const QStringList& arguments, const QString& option) {
-    const qsizetype at = arguments.indexOf(option);
-    return at >= 0 && at + 1 < arguments.size() ? arguments.at(at + 1) : QString();
-}
-
 struct Report {
     QByteArray word;
     QMap<QByteArray, QByteArray> fields;
@@ -56,21 +50,15 @@ QString failureReason(const QString& words) {
 }
 } // namespace
 
-QByteArray ConvertWorkerRun::jobLine(qint64 id, const QStringList& arguments) {
-    // ffmpeg reads "-b:a 192.00k" as 192000 bit/s and "-ar 44100.00" as 44100 Hz.
-    const qint64 bitRate =
-        qRound64(optionValue(arguments, QStringLiteral("-b:a")).chopped(1).toDouble() * 1000.0);
-    const int sampleRate = qRound(optionValue(arguments, QStringLiteral("-ar")).toDouble());
+QByteArray ConvertWorkerRun::jobLine(qint64 id, const QString& source, const QString& output,
+                                     const ConvertEncoderSettings& settings) {
     QByteArray line = "job\tid=" + QByteArray::number(id);
-    line += "\tin=" + TranscodeWorker::encode(
-                          QFile::encodeName(optionValue(arguments, QStringLiteral("-i"))));
-    line += "\tout=" +
-            TranscodeWorker::encode(QFile::encodeName(arguments.value(arguments.size() - 1)));
-    line += "\tcodec=" +
-            TranscodeWorker::encode(optionValue(arguments, QStringLiteral("-acodec")).toUtf8());
-    line += "\tar=" + QByteArray::number(sampleRate);
-    line += "\tb=" + QByteArray::number(bitRate);
-    line += "\tac=" + optionValue(arguments, QStringLiteral("-ac")).toUtf8();
+    line += "\tin=" + TranscodeWorker::encode(QFile::encodeName(source));
+    line += "\tout=" + TranscodeWorker::encode(QFile::encodeName(output));
+    line += "\tcodec=" + TranscodeWorker::encode(settings.encoder.toUtf8());
+    line += "\tar=" + QByteArray::number(settings.sampleRate);
+    line += "\tb=" + QByteArray::number(settings.bitRate);
+    line += "\tac=" + QByteArray::number(settings.channels);
     return line;
 }
 
@@ -81,15 +69,16 @@ void ConvertWorkerRun::publish(pid_t pid) {
         ::kill(pid, SIGSTOP);
 }
 
-ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
-                                               const QStringList& arguments, double seconds,
-                                               const Progress& progress) {
+ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram, const QString& source,
+                                               const QString& output,
+                                               const ConvertEncoderSettings& settings,
+                                               double seconds, const Progress& progress) {
     if (m_cancel)
         return {Result::Kind::Cancelled, {}, {}};
     TranscodeWorkerPool& pool = TranscodeWorkerPool::instance();
     std::unique_ptr<TranscodeWorker> worker = pool.acquire(workerProgram);
     const qint64 id = g_nextJobId.fetch_add(1);
-    const QByteArray job = jobLine(id, arguments);
+    const QByteArray job = jobLine(id, source, output, settings);
     if (worker && !worker->send(job)) {
         worker = pool.acquire(workerProgram); // the idle one died unseen: a new one
         if (worker && !worker->send(job))
@@ -100,7 +89,7 @@ ConvertWorkerRun::Result ConvertWorkerRun::run(const QString& workerProgram,
     SXLog::line(QStringLiteral("worker %1 job %2").arg(worker->pid()).arg(id));
     publish(worker->pid());
     const QByteArray idText = QByteArray::number(id);
-    const double sampleRate = optionValue(arguments, QStringLiteral("-ar")).toDouble();
+    const double sampleRate = settings.sampleRate;
 
     Result result;
     bool cancelSent = false;

@@ -1,8 +1,9 @@
 #pragma once
 
+#include "engine/ConvertCommandLine.h"
+
 #include <QByteArray>
 #include <QString>
-#include <QStringList>
 #include <atomic>
 #include <functional>
 #include <mutex>
@@ -25,21 +26,21 @@ public:
     };
     using Progress = std::function<void(double percent)>;
 
-    // `arguments`: the job's ffmpeg command line (ConvertCommandLine::arguments); `seconds`: the
-    // source's duration, which the percentages count against as with ffmpeg (0: unknown, the
-    // worker's own estimate then). NotStarted
-    // when no worker could be started (the job then goes to ffmpeg); else returns once the job
-    // ended.
-    Result run(const QString& workerProgram, const QStringList& arguments, double seconds,
-               const Progress& progress);
+    // `settings`: the encoder's numbers of the job's ffmpeg command line
+    // (ConvertCommandLine::settings); `seconds`: the source's duration, which the percentages count
+    // against as with ffmpeg (0: unknown, the worker's own estimate then). NotStarted when no
+    // worker could be started (the job then goes to ffmpeg); else returns once the job ended.
+    Result run(const QString& workerProgram, const QString& source, const QString& output,
+               const ConvertEncoderSettings& settings, double seconds, const Progress& progress);
     // Once running: the worker is told to stop and run() returns Cancelled; before: run() returns
     // Cancelled at once.
     void cancel();
     void pause();
     void resume();
 
-    // The protocol's job line for the ffmpeg command line `arguments`.
-    static QByteArray jobLine(qint64 id, const QStringList& arguments);
+    // The protocol's job line.
+    static QByteArray jobLine(qint64 id, const QString& source, const QString& output,
+                              const ConvertEncoderSettings& settings);
 
 private:
     void publish(pid_t pid);
