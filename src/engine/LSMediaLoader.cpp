@@ -123,14 +123,16 @@ void LSMediaLoader::loadBatchMadeBy(std::function<SXMusicInfoList()> makeBatch) 
     // The worker owns a reference, so the loader outlives a caller that lets go of it.
     std::shared_ptr<LSMediaLoader> self = shared_from_this();
     try {
-        std::thread([self, makeBatch = std::move(makeBatch)] {
+        std::thread worker([self, makeBatch = std::move(makeBatch)] {
             const SXMusicInfoList medias = self->bCanceled() ? SXMusicInfoList() : makeBatch();
             if (medias.isEmpty())
                 self->completeLoad(std::nullopt, std::nullopt);
             else
                 self->loadMediasThread(medias);
             self->workerFinished();
-        }).detach();
+        });
+        QMutexLocker locker(&m_lock);
+        m_threads.push_back(std::move(worker));
     } catch (const std::system_error& failure) {
         // No thread could be made: nothing of the batch is delivered, as after a cancel.
         SXLog::line(QStringLiteral("cannot start the loading thread: %1")
@@ -191,10 +193,36 @@ void LSMediaLoader::workerFinished() {
 bool LSMediaLoader::waitUntilDone(int timeoutMs) {
     QDeadlineTimer deadline =
         timeoutMs < 0 ? QDeadlineTimer(QDeadlineTimer::Forever) : QDeadlineTimer(timeoutMs);
-    QMutexLocker locker(&m_lock);
-    while (m_runningWorkers > 0) {
-        if (!m_idle.wait(&m_lock, deadline))
-            return m_runningWorkers == 0;
+    {
+        QMutexLocker locker(&m_lock);
+        while (m_runningWorkers > 0) {
+            if (!m_idle.wait(&m_lock, deadline) && m_runningWorkers > 0)
+                return false;
+        }
     }
+    joinEndedWorkers();
     return true;
+}
+
+// A worker that has reported still runs for a moment: it lets go of the batch and of Qt's
+// per-thread data (the collator the folder scan sorted with). Joined, none of that can run
+// while the program ends.
+void LSMediaLoader::joinEndedWorkers() {
+    std::vector<std::thread> ended;
+    {
+        QMutexLocker locker(&m_lock);
+        ended.swap(m_threads);
+    }
+    for (std::thread& thread : ended) {
+        if (thread.get_id() == std::this_thread::get_id())
+            thread.detach();
+        else if (thread.joinable())
+            thread.join();
+    }
+}
+
+LSMediaLoader::~LSMediaLoader() {
+    // With the last reference gone no worker still reports; one that dropped that reference
+    // itself is this very thread and cannot be joined.
+    joinEndedWorkers();
 }

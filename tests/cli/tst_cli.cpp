@@ -78,7 +78,7 @@ void TestCli::convertsAFolderOrganisedByFormat() {
     const QString out = fresh(u"organised"_s);
 
     const RunResult result = runCli({"-f", "MP3", "-o", out, "-j", "2", m_sources});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     // Without a terminal: one line per file, then the window's summary.
     const QStringList shown = lines(result.out);
     QCOMPARE(shown.size(), kSources.size() + 1);
@@ -101,7 +101,7 @@ void TestCli::neverReplacesAndChoicesReachTheFile() {
     // Choices match the catalogue's texts without regard to letter case.
     const RunResult result =
         runCli({"--no-organize", "-b", "64", "-r", "22050", "-c", "mono", "-o", out, wav});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QVERIFY2(result.out.contains(u"done: %1 -> %2/plain tone(1).mp3"_s.arg(wav, out)),
              qPrintable(result.out));
     QCOMPARE(filesBelow(out, true), (QStringList{u"plain tone(1).mp3"_s, u"plain tone.mp3"_s}));
@@ -139,7 +139,7 @@ void TestCli::usageErrorsExitTwoWithOneLine() {
     QFETCH(QString, reason);
     const QStringList before = filesBelow(m_work.path(), true);
     const RunResult result = runCli(arguments);
-    QCOMPARE(result.exitCode, 2);
+    SONORIA_COMPARE_EXIT(result, 2);
     QVERIFY(result.out.isEmpty());
     QCOMPARE(lines(result.err).size(), 1);
     QVERIFY2(result.err.contains(reason), qPrintable(result.err));
@@ -150,7 +150,7 @@ void TestCli::failuresAreNamedAndExitOne() {
     const QString out = fresh(u"failures"_s);
     const QString wav = source(u"plain tone.wav"_s);
     RunResult result = runCli({"-v", "-o", out, m_textAsMp3, wav, fresh(u"no such.wav"_s)});
-    QCOMPARE(result.exitCode, 1);
+    SONORIA_COMPARE_EXIT(result, 1);
     // Each file that did not load, with its folder and why.
     for (const QString& expected :
          {u"The following files could not be added:\n"_s,
@@ -165,7 +165,7 @@ void TestCli::failuresAreNamedAndExitOne() {
     // An output folder that cannot be made (a regular file stands there): no child starts, and
     // the folder is named with the reason.
     result = runCli({"-v", "--no-organize", "-o", m_textAsMp3, wav});
-    QCOMPARE(result.exitCode, 1);
+    SONORIA_COMPARE_EXIT(result, 1);
     QVERIFY2(result.err.contains(u"sonoria-cli: Cannot write into the output folder \""_s +
                                  m_textAsMp3 +
                                  u"\": The output folder's name is taken by a file"_s),
@@ -178,7 +178,7 @@ void TestCli::failuresAreNamedAndExitOne() {
     QVERIFY(SonoriaTest::makeTone(cut, 2.0));
     QVERIFY(SonoriaTest::cutFlacAfterMetadata(cut));
     result = runCli({"--no-organize", "-o", fresh(u"cut-out"_s), cut});
-    QCOMPARE(result.exitCode, 1);
+    SONORIA_COMPARE_EXIT(result, 1);
     const QStringList shown = lines(result.out);
     QVERIFY2(!shown.isEmpty() &&
                  shown.first() == u"failed: %1: The source gave no audio to convert"_s.arg(cut),
@@ -225,14 +225,14 @@ void TestCli::hostileTextIsEscaped() {
     };
 
     RunResult result = runCli({"--no-organize", "-o", folder + u"/out"_s, file});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QVERIFY2(quiet(result.out) && quiet(result.err), qPrintable(result.out));
     QCOMPARE(lines(result.out).size(), 2);
     QVERIFY2(result.out.startsWith(u"done: %1/%2.flac -> "_s.arg(folder, shown)),
              qPrintable(result.out));
 
     result = runCli({"--info", file});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QVERIFY(quiet(result.out));
     QVERIFY2(lines(result.out).contains(u"%1 %2"_s.arg(u"Title:"_s, -15).arg(shown)),
              qPrintable(result.out));
@@ -277,7 +277,7 @@ void TestCli::unreadableFoldersAndBadNamesFailTheRun() {
     const RunResult result = SonoriaTest::runProgram(
         u"sh"_s, {u"-c"_s, u"exec %1\"$CLI\" --dry-run %2"_s.arg(asUser, input)}, env,
         m_work.path());
-    QCOMPARE(result.exitCode, 1);
+    SONORIA_COMPARE_EXIT(result, 1);
     QVERIFY2(lines(result.err).contains(u"failed to load: %1/%2: %3"_s.arg(dir, failed, reason)),
              qPrintable(result.err));
 }
@@ -287,7 +287,7 @@ void TestCli::dryRunCreatesNothing() {
     QVERIFY(SonoriaTest::writeFile(out + u"/MP3/plain tone.mp3"_s, {}));
     const QStringList before = filesBelow(m_work.path(), true);
     const RunResult result = runCli({"--dry-run", "-o", out, m_sources});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QCOMPARE(filesBelow(m_work.path(), true), before);
     const QStringList shown = lines(result.out);
     QCOMPARE(shown.size(), kSources.size() + 1);
@@ -307,20 +307,20 @@ void TestCli::cueSheetsAreListedAndConvertedByTrack() {
                                    "TRACK 02 AUDIO\n  TITLE \"Two\"\n  INDEX 01 00:01:00\n"));
     const QString out = fresh(u"cue-out"_s);
     const RunResult listed = runCli({"-n", "-f", "WAV", "--no-organize", "-o", out, album});
-    QCOMPARE(listed.exitCode, 0);
+    SONORIA_COMPARE_EXIT(listed, 0);
     QCOMPARE(lines(listed.out).mid(0, 2),
              (QStringList{u"would convert: %1/disc.cue#01 -> %2/01 One.wav"_s.arg(album, out),
                           u"would convert: %1/disc.cue#02 -> %2/02 Two.wav"_s.arg(album, out)}));
     const RunResult converted =
         runCli({"-f", "WAV", "--no-organize", "-o", out, album + u"/disc.cue"_s});
-    QCOMPARE(converted.exitCode, 0);
+    SONORIA_COMPARE_EXIT(converted, 0);
     QCOMPARE(filesBelow(out), (QStringList{u"01 One.wav"_s, u"02 Two.wav"_s}));
     QCOMPARE(ProbeReference::read(out + u"/02 Two.wav"_s).codecName, u"pcm_s16le"_s);
 }
 
 void TestCli::listsTheCatalogueInOrder() {
     const RunResult result = runCli({"--list-formats"});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     const QStringList formats = lines(result.out).filter(u" (."_s);
     QVERIFY2(formats.size() >= 4, qPrintable(result.out));
     QVERIFY(formats.at(0).startsWith(u"MP3 (.mp3): "_s));
@@ -333,7 +333,7 @@ void TestCli::listsTheCatalogueInOrder() {
 
 void TestCli::infoShowsTheFallbackTexts() {
     RunResult result = runCli({"--info", m_surround});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     const QStringList shown = lines(result.out);
     // Six channels read "5.1" next to their count.
     const QList<std::pair<QString, QString>> expected{
@@ -346,7 +346,7 @@ void TestCli::infoShowsTheFallbackTexts() {
                  qPrintable(result.out));
 
     result = runCli({"--info", m_textAsMp3});
-    QCOMPARE(result.exitCode, 1);
+    SONORIA_COMPARE_EXIT(result, 1);
     QVERIFY(result.out.isEmpty());
     QVERIFY2(result.err.contains(u"cannot read"_s), qPrintable(result.err));
 }
@@ -379,7 +379,7 @@ void TestCli::drawsAProgressBarOnATerminal() {
     env.insert(u"SRC"_s, m_sources);
     const RunResult result = SonoriaTest::runProgram(
         u"script"_s, {"-qec", "\"$CLI\" -o \"$OUT\" \"$SRC\"", "/dev/null"}, env);
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     const QString& shown = result.out;
     QVERIFY2(shown.contains(u"\r["_s), qPrintable(shown));
     QVERIFY(shown.contains(u"100%  4/4 done"_s));

@@ -89,7 +89,7 @@ void TestCliInterrupt::closedOutputPipeDoesNotStopTheRun() {
                                           u"exit \"${PIPESTATUS[0]}\""_s},
                                 env);
     QCOMPARE(result.out, u"d"_s); // of "done: "
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     // Every file whole: as long as its source.
     QCOMPARE(SonoriaTest::filesBelow(out, true),
              (QStringList{u"long.mp3"_s, u"plain tone.mp3"_s, u"second tone.mp3"_s}));

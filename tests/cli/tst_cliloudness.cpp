@@ -127,7 +127,7 @@ private Q_SLOTS:
         const QString out = m_work.filePath(u"cut-out"_s);
         const SonoriaTest::RunResult result = SonoriaTest::runCli(
             {u"--replaygain"_s, u"track"_s, u"--no-organize"_s, u"-o"_s, out, cut, m_single});
-        QCOMPARE(result.exitCode, 1);
+        SONORIA_COMPARE_EXIT(result, 1);
         QVERIFY2(result.out.contains(
                      u"failed: %1: The loudness of the source could not be measured: "_s.arg(cut)),
                  qPrintable(result.out));

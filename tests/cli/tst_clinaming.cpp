@@ -32,7 +32,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
     const QStringList tree{u"A"_s, u"A/Nina"_s,           u"A/Nina/One.mp3"_s,
                            u"B"_s, u"B/Unknown Artist"_s, u"B/Unknown Artist/x.mp3"_s};
     SonoriaTest::RunResult result = SonoriaTest::runCli(arguments);
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QCOMPARE(SonoriaTest::filesBelow(out, true), tree);
     QVERIFY2(result.out.contains(u"done: %1/A/x.flac -> %2/A/Nina/One.mp3"_s.arg(in, out)),
              qPrintable(result.out));
@@ -40,7 +40,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
 
     // A dry run says what a run would leave, and counts only what it would convert.
     result = SonoriaTest::runCli(QStringList{"-n"} + arguments);
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QCOMPARE(lines(result.out).filter(u"already converted: "_s).size(), 2);
     QVERIFY2(result.out.contains(u"0 files would be converted"_s), qPrintable(result.out));
     QVERIFY2(
@@ -49,7 +49,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
         "keep both plans a numbered name");
 
     result = SonoriaTest::runCli(arguments);
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QVERIFY2(result.out.contains(
                  u"already converted: %1/B/x.flac -> %2/B/Unknown Artist/x.mp3"_s.arg(in, out)),
              qPrintable(result.out));
@@ -60,7 +60,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
     QCOMPARE(SonoriaTest::filesBelow(out, true), tree);
 
     result = SonoriaTest::runCli(arguments + QStringList{"--existing", "both"});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QStringList numbered =
         tree + QStringList{u"A/Nina/One(1).mp3"_s, u"B/Unknown Artist/x(1).mp3"_s};
     numbered.sort();
@@ -71,7 +71,7 @@ void TestCliNaming::namesFromTagsMirrorAndExistingOutputs() {
     // numbered files are not what was planned and stay as they were.
     const QByteArray second = SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s);
     result = SonoriaTest::runCli(arguments + QStringList{"--existing", "replace", "-b", "64"});
-    QCOMPARE(result.exitCode, 0);
+    SONORIA_COMPARE_EXIT(result, 0);
     QCOMPARE(SonoriaTest::filesBelow(out, true), numbered);
     QCOMPARE(ProbeReference::read(out + u"/A/Nina/One.mp3"_s).bitRate, 64000.0);
     QCOMPARE(SonoriaTest::readFile(out + u"/A/Nina/One(1).mp3"_s), second);

@@ -205,10 +205,10 @@ void TestInstall::metainfoDescribesThisRelease() {
 void TestInstall::cliManualListsEveryOption() {
     const RunResult help =
         runWith(installed(u"bin/sonoria-cli"_s), {u"--help"_s}, userEnvironment());
-    QCOMPARE(help.exitCode, 0);
+    SONORIA_COMPARE_EXIT(help, 0);
     const RunResult page =
         runWith(u"gzip"_s, {u"-dc"_s, manual(u"sonoria-cli"_s)}, userEnvironment());
-    QCOMPARE(page.exitCode, 0);
+    SONORIA_COMPARE_EXIT(page, 0);
     QStringList undocumented;
     const QRegularExpression option(u"--([a-z][a-z-]+)"_s);
     for (const QRegularExpressionMatch& match : option.globalMatch(help.out)) {
@@ -255,7 +255,7 @@ void TestInstall::installedCliConvertsWithThePrefixAlone() {
     QVERIFY(QDir().rename(resources, resources + u".away"_s));
     const RunResult stranded = runWith(cli, arguments, userEnvironment());
     QVERIFY(QDir().rename(resources + u".away"_s, resources));
-    QCOMPARE(stranded.exitCode, 2);
+    SONORIA_COMPARE_EXIT(stranded, 2);
     QVERIFY2(stranded.err.contains(u"unknown format \"MP3\""_s), qPrintable(stranded.err));
 }
 

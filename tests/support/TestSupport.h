@@ -97,6 +97,19 @@ QList<qint64> processesMentioning(const QString& text);
         QVERIFY2(found_.isEmpty(), qPrintable(found_.join(QLatin1Char('\n'))));                    \
     } while (false)
 
+// Passes when a finished program's exit status is `expected`; shows what it printed when not, so
+// that a failure seen once on a build machine carries its reason.
+#define SONORIA_COMPARE_EXIT(run, expected)                                                        \
+    do {                                                                                           \
+        const SonoriaTest::RunResult& run_ = (run);                                                \
+        QVERIFY2(                                                                                  \
+            run_.exitCode == (expected),                                                           \
+            qPrintable(QStringLiteral("exit status %1, expected %2\nstdout:\n%3\nstderr:\n%4")     \
+                           .arg(run_.exitCode)                                                     \
+                           .arg(expected)                                                          \
+                           .arg(run_.out, run_.err)));                                             \
+    } while (false)
+
 #define SONORIA_TEST_MAIN(TestObject)                                                              \
     int main(int argc, char** argv) {                                                              \
         SonoriaTest::prepareEnvironment();                                                         \
