@@ -175,9 +175,9 @@ FormatContextPtr openMedia(const QString& path, QString* error) {
     const QByteArray url = "file:" + QFile::encodeName(QFileInfo(path).absoluteFilePath());
     AVDictionary* options = nullptr;
     av_dict_set(&options, "protocol_whitelist", "file", 0);
-    // 16-bit PCM in WAV would otherwise be run past every format detector, up to a megabyte of
-    // packets, in case it hides another codec; that costs ten times a whole MP3 probe. The rare
-    // hidden stream is still found by ffmpeg itself when it converts.
+    // 16-bit PCM in WAV would otherwise be run past every format detector, up to 32 growing
+    // packets, in case it hides another codec; that costs ten times a whole MP3 probe. The first
+    // packet is still probed, which finds a hidden MP3; the converter worker does the same.
     av_dict_set(&options, "max_probe_packets", "0", 0);
     const MediaStart start = findMediaStart(path);
     if (start.offset > 0)

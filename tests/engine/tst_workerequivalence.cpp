@@ -153,6 +153,56 @@ private Q_SLOTS:
                  qPrintable(u"%1 dB"_s.arg(snrDb(fromFfmpeg, fromWorker))));
     }
 
+    // A WAV whose header says 16-bit samples but that holds an MP3: the worker probes only the
+    // first packet of such a file, which must still find the MP3, as ffmpeg's fuller probe does.
+    void hiddenMp3InWav() {
+        const QString mp3 = m_sources.filePath(u"hidden.mp3"_s);
+        QCOMPARE(SonoriaTest::run(u"ffmpeg"_s, QStringList{u"-nostdin"_s, u"-v"_s, u"error"_s} +
+                                                   lavfi(u"sine=duration=3"_s) +
+                                                   QStringList{u"-ac"_s, u"2"_s, u"-y"_s, mp3}),
+                 0);
+        const QByteArray frames = SonoriaTest::readFile(mp3);
+        QByteArray wav;
+        const auto le32 = [&wav](quint32 value) {
+            for (int shift = 0; shift < 32; shift += 8)
+                wav.append(char((value >> shift) & 0xff));
+        };
+        const auto le16 = [&wav](quint16 value) {
+            wav.append(char(value & 0xff)).append(char(value >> 8));
+        };
+        wav.append("RIFF");
+        le32(quint32(36 + frames.size()));
+        wav.append("WAVEfmt ");
+        le32(16);
+        le16(1); // PCM
+        le16(2);
+        le32(44100);
+        le32(44100 * 4);
+        le16(4);
+        le16(16);
+        wav.append("data");
+        le32(quint32(frames.size()));
+        wav.append(frames);
+        const QString hidden = m_sources.filePath(u"hidden.wav"_s);
+        QVERIFY(SonoriaTest::writeFile(hidden, wav));
+
+        Item item = makeItem(hidden, 3.0, u"Test"_s, u"flac"_s, u"flac"_s);
+        item.job.choices = {std::nullopt, 44100, 2, true};
+        QTemporaryDir out;
+        LogCapture log;
+        const ConvertOperationPtr operation = convert(item, out.path(), nullptr);
+        QVERIFY(log.contains(u"engine: worker"_s));
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        const QString reference = out.filePath(u"reference.flac"_s);
+        const QStringList arguments =
+            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
+        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
+        const QByteArray fromFfmpeg = decoded(reference);
+        // Three seconds of sound, not the MP3's bytes read as 0.4 s of noise.
+        QVERIFY(fromFfmpeg.size() >= 3 * 44100 * 2 * 4);
+        QVERIFY(decoded(operation->strOutFilePath()) == fromFfmpeg);
+    }
+
     // The rule: the worker's encoders only, no cue range or gain, and never when ffmpeg is asked
     // for.
     void choice_data() {
