@@ -106,8 +106,18 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         ConvertOutputFile::removeLeftovers(output);
 
     stopPlayerWithRefreshUI();
-    if (!_queueConvertTask)
+    if (!_queueConvertTask) {
         _queueConvertTask = std::make_unique<SXOperationQueue>();
+        // The run ends as its last conversion does, not at the next tick of the progress timer:
+        // for a batch of short files that tick was a tenth of the run.
+        connect(
+            _queueConvertTask.get(), &SXOperationQueue::operationFinished, this,
+            [this] {
+                if (_timerToRefresh && !m_survey && _queueConvertTask->operationCount() == 0)
+                    refreshTimeFired();
+            },
+            Qt::QueuedConnection);
+    }
     _queueConvertTask->setMaxConcurrentOperationCount(
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
     m_totalConvertOps = getTotalNeedConvertMusic();
