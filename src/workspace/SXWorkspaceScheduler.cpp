@@ -5,21 +5,21 @@
 #include "base/SXSettings.h"
 #include "engine/ConvertFailure.h"
 #include "engine/ConvertOutputFile.h"
-#include "workspace/SXFailureTexts.h"
 #include "workspace/SXJobBuilder.h"
 #include "workspace/SXLoudnessSurvey.h"
-#include "workspace/SXRunSummary.h"
 #include "workspace/SXWorkspacePreview.h"
 
-#include <QCoreApplication>
-#include <QFileInfo>
 #include <QMutexLocker>
 #include <QPointer>
-#include <QSet>
 
 #include <algorithm>
 #include <utility>
 #include <vector>
+
+namespace {
+// Rows follow their conversions 25 times a second: smooth to the eye, cheap for the window.
+constexpr int kRowRedrawMs = 40;
+} // namespace
 
 SXWorkspaceScheduler::SXWorkspaceScheduler(SXContainerStore& store, SXWorkspacePreview& preview,
                                            QObject* parent)
@@ -27,7 +27,8 @@ SXWorkspaceScheduler::SXWorkspaceScheduler(SXContainerStore& store, SXWorkspaceP
     , m_store(store)
     , m_preview(preview)
     , m_bOrganized(SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true))
-    , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false)) {}
+    , m_bOverOpen(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false))
+    , m_redraw(*this, kRowRedrawMs, [this] { Q_EMIT rowsRedrawRequested(); }) {}
 
 SXWorkspaceScheduler::~SXWorkspaceScheduler() {
     if (_timerToRefresh)
@@ -110,13 +111,8 @@ bool SXWorkspaceScheduler::doRealConverterTask(const QString& folder) {
         _queueConvertTask = std::make_unique<SXOperationQueue>();
         // The run ends as its last conversion does, not at the next tick of the progress timer:
         // for a batch of short files that tick was a tenth of the run.
-        connect(
-            _queueConvertTask.get(), &SXOperationQueue::operationFinished, this,
-            [this] {
-                if (_timerToRefresh && !m_survey && _queueConvertTask->operationCount() == 0)
-                    refreshTimeFired();
-            },
-            Qt::QueuedConnection);
+        connect(_queueConvertTask.get(), &SXOperationQueue::operationFinished, this,
+                &SXWorkspaceScheduler::finishIfDone, Qt::QueuedConnection);
     }
     _queueConvertTask->setMaxConcurrentOperationCount(
         m_maxConcurrentOverride.value_or(SXSettings::integerForKey(SXSettingsKey::MaxTask)));
@@ -232,86 +228,6 @@ void SXWorkspaceScheduler::abandonRun() {
     setConvertOperationFinished();
 }
 
-// --- Progress ---
-
-void SXWorkspaceScheduler::refreshTimeFired() {
-    QMetaObject::invokeMethod(
-        this, [this] { refreshUIOnMainThreadWhenConvert(); }, Qt::QueuedConnection);
-    if (m_survey || (_queueConvertTask && _queueConvertTask->operationCount() > 0))
-        return;
-    finishRun();
-}
-
-void SXWorkspaceScheduler::refreshUIOnMainThreadWhenConvert() {
-    Q_EMIT rowsRedrawRequested();
-    Q_EMIT totalProgressChanged(getTotalConvertProgress() * 100.0);
-}
-
-void SXWorkspaceScheduler::finishRun() {
-    if (_timerToRefresh) {
-        _timerToRefresh->stop();
-        _timerToRefresh->deleteLater();
-        _timerToRefresh = nullptr;
-    }
-    if (!_queueConvertTask || _queueConvertTask->operationCount() == 0)
-        QMetaObject::invokeMethod(
-            this, [this] { setConvertOperationFinished(); }, Qt::QueuedConnection);
-
-    SXMusicInfoList items;
-    for (const QString& name : containerNames())
-        items += getDataForFormat(name);
-    const SXRunSummary summary = SXRunSummary::of(items);
-    const QString message = summaryMessage(summary.converted, summary.failures);
-    runAlert({message, summary.informativeText(), {tr("OK")}, summary.details()});
-    Q_EMIT rowsRedrawRequested();
-    Q_EMIT runFinished(message, summary.converted, int(summary.failures.size()));
-    if (m_bOverOpen && m_store.presenter())
-        m_store.presenter()->openFolder(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath));
-}
-
-QString SXWorkspaceScheduler::summaryMessage(int succeeded, const SXPathFailureList& failures) {
-    // The counts stand in their sentences so that a catalogue can give each its plural form. The
-    // context is named, so the catalogue's entries stay whichever class builds the summary.
-    QString message = QCoreApplication::translate(
-        "SXWorkspaceScheduler", "%n files has been successfully converted.", nullptr, succeeded);
-    if (failures.isEmpty())
-        return message;
-    message += QCoreApplication::translate(
-        "SXWorkspaceScheduler", "except %n files failed,including:", nullptr, int(failures.size()));
-    for (int i = 0; i < failures.size(); ++i) {
-        if (i == 3) {
-            message += QStringLiteral("...");
-            break;
-        }
-        const SXPathFailure& failure = failures.at(i);
-        message += QStringLiteral(" \n%1").arg(
-            QCoreApplication::translate("SXWorkspaceScheduler", "%1: %2")
-                .arg(QFileInfo(failure.path).completeBaseName(), failure.reason));
-    }
-    return message;
-}
-
-double SXWorkspaceScheduler::getTotalConvertProgress() const {
-    double sum = 0;
-    qsizetype count = 0;
-    for (const QString& name : containerNames()) {
-        for (const SXMusicInfoPtr& item : getDataForFormat(name)) {
-            const double value = item->dConvertProgress();
-            ++count;
-            if (value == SXProgress::Failed || value == SXProgress::Canceled ||
-                value == SXProgress::Done)
-                sum += 100;
-            else if (value == SXProgress::Sending)
-                sum += 90;
-            else if (value != SXProgress::Waiting)
-                sum += value;
-        }
-    }
-    // Without items there is nothing to divide by: no progress, never NaN, which the state strip
-    // and the launcher would turn into an integer.
-    return count == 0 ? 0.0 : sum / (double(count) * 100.0);
-}
-
 // --- Cancel ---
 
 void SXWorkspaceScheduler::cancelAll() {
@@ -401,52 +317,4 @@ void SXWorkspaceScheduler::cancelOrEditTags(const SXMusicInfoPtr& item) {
         cancelled->setDConvertProgress(SXProgress::Canceled);
         Q_EMIT rowsRedrawRequested();
     }
-}
-
-// --- Operation callbacks (worker threads) ---
-
-void SXWorkspaceScheduler::requestRedraw() {
-    QMetaObject::invokeMethod(
-        this, [this] { Q_EMIT rowsRedrawRequested(); }, Qt::QueuedConnection);
-}
-
-void SXWorkspaceScheduler::didConvertOperationStart(ConvertOperation* operation) {
-    if (const SXMusicInfoPtr item = operation->musicToConvert())
-        item->setDConvertProgress(0);
-    requestRedraw();
-}
-
-void SXWorkspaceScheduler::convertOperationHandleProgress(ConvertOperation* operation,
-                                                          double percent) {
-    if (const SXMusicInfoPtr item = operation->musicToConvert())
-        item->setDConvertProgress(percent);
-    requestRedraw();
-}
-
-void SXWorkspaceScheduler::convertStartSync(ConvertOperation* operation) {
-    const SXMusicInfoPtr item = operation->musicToConvert();
-    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
-    if (media && media->eumCvtState() == CvtStateSending)
-        item->setDConvertProgress(SXProgress::Sending);
-    requestRedraw();
-}
-
-void SXWorkspaceScheduler::didConvertOperationFinish(ConvertOperation* operation) {
-    const SXMusicInfoPtr item = operation->musicToConvert();
-    const LSMediaPtr media = item ? item->mediaInfo() : nullptr;
-    if (media) {
-        const int state = media->eumCvtState();
-        item->setDConvertProgress(state == CvtStateCanceled ? SXProgress::Canceled
-                                  : state == CvtStateFailed ? SXProgress::Failed
-                                                            : SXProgress::Done);
-    }
-    const QString outputFile = operation->strOutFilePath();
-    QMetaObject::invokeMethod(
-        this,
-        [this, item, outputFile] {
-            if (item)
-                Q_EMIT itemFinished(item, outputFile);
-            Q_EMIT rowsRedrawRequested();
-        },
-        Qt::QueuedConnection);
 }

@@ -4,10 +4,12 @@
 #include "engine/ConvertOperation.h"
 #include "engine/SXOperationQueue.h"
 #include "workspace/SXContainerStore.h"
+#include "workspace/SXRedrawThrottle.h"
 
 #include <QMutex>
 #include <QObject>
 #include <QTimer>
+#include <atomic>
 #include <memory>
 #include <optional>
 
@@ -121,6 +123,8 @@ private:
     void surveyLoudness(QList<Pending> pending);
     void outputFolderChosen(const std::optional<SXOutputFolderChoice>& choice);
     void refreshTimeFired();
+    bool runIsOver() const;
+    void finishIfDone();
     void refreshUIOnMainThreadWhenConvert();
     void finishRun();
     void requestRedraw();
@@ -136,4 +140,6 @@ private:
     bool m_bOrganized = true;
     bool m_bOverOpen = false;
     int m_totalConvertOps = 0;
+    SXRedrawThrottle m_redraw;                   // the rows, redrawn as conversions report
+    std::atomic<int> m_finishReportsInFlight{0}; // posted to this thread, not yet delivered
 };
