@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/HVFrameSource.h"
+
 #include <QString>
 
 #include <atomic>
@@ -7,10 +9,7 @@
 #include <functional>
 #include <vector>
 
-struct AVCodecContext;
-struct AVFormatContext;
 struct AVFrame;
-struct AVPacket;
 struct SwrContext;
 
 // Decodes the best audio stream of a file, whole and in order, into interleaved 32-bit float
@@ -40,12 +39,8 @@ public:
 private:
     bool convert(const AVFrame* frame, const Consumer& consume);
 
-    AVFormatContext* m_format = nullptr;
-    AVCodecContext* m_codec = nullptr;
+    HVFrameSource m_source;
     SwrContext* m_swr = nullptr;
-    AVPacket* m_packet = nullptr;
-    AVFrame* m_frame = nullptr;
-    int m_stream = -1;
     int m_sampleRate = 0;
     std::vector<Channel> m_roles;
     std::vector<float> m_buffer;

@@ -1,17 +1,16 @@
 #pragma once
 
+#include "framework/HVFrameSource.h"
+
 #include <QByteArray>
 #include <QString>
 
-struct AVCodecContext;
-struct AVFormatContext;
-struct AVFrame;
-struct AVPacket;
 struct SwrContext;
 
 // Decodes the best audio stream of a file (a video file's sound included) into interleaved
-// signed 16-bit samples at a chosen rate and channel count, with libavformat, libavcodec and
-// libswresample: the decoder that probing already trusts. Not thread-safe; one thread uses it.
+// signed 16-bit samples at a chosen rate and channel count: the frames of HVFrameSource, the
+// decoder that probing and measuring already trust, through libswresample. Not thread-safe; one
+// thread uses it.
 class HVAudioDecoder {
 public:
     HVAudioDecoder(int sampleRate, int channels);
@@ -36,22 +35,18 @@ public:
 private:
     bool openResampler();
     QByteArray decodeNext();
-    QByteArray convertFrame();
+    QByteArray convertFrame(const AVFrame& frame);
     QByteArray drainResampler();
 
     int m_sampleRate;
     int m_channels;
-    AVFormatContext* m_format = nullptr;
-    AVCodecContext* m_codec = nullptr;
+    HVFrameSource m_source;
     SwrContext* m_swr = nullptr;
-    AVPacket* m_packet = nullptr;
-    AVFrame* m_frame = nullptr;
-    int m_stream = -1;
+    bool m_opened = false;
     double m_duration = 0;
     double m_skipUntil = 0; // after a seek, samples before the target are dropped
     double m_rangeStart = 0;
     double m_rangeEnd = -1;
     qint64 m_bytesLeft = -1; // of the part, from the last seek; -1: to the end of the file
-    bool m_inputDone = false;
     bool m_finished = false;
 };
