@@ -752,6 +752,10 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Klingelton</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1141,7 +1145,7 @@ werden oder wurde abgebrochen (auch nach SIGTERM, das den Lauf abbricht); 2 Fehl
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Ladefortschritt</translation>

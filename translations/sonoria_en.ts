@@ -751,6 +751,10 @@ cancels the run; partial outputs are removed).
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Ringtone</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1140,7 +1144,7 @@ cancels the run; partial outputs are removed).
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Loading progress</translation>

@@ -752,6 +752,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Tono de llamada</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1141,7 +1145,7 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Progreso de la carga</translation>

@@ -753,6 +753,10 @@ partielles sont supprimées).
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Sonnerie</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1142,7 +1146,7 @@ partielles sont supprimées).
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Progression du chargement</translation>

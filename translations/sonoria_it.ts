@@ -752,6 +752,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Suoneria</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1141,7 +1145,7 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Avanzamento del caricamento</translation>

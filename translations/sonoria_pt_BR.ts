@@ -752,6 +752,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>%1 Hz</source>
         <translation>%1 Hz</translation>
     </message>
+    <message>
+        <source>Ringtone</source>
+        <translation>Toque</translation>
+    </message>
 </context>
 <context>
     <name>SXCommandValidation</name>
@@ -1141,7 +1145,7 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
     </message>
 </context>
 <context>
-    <name>SXLoadingSheet</name>
+    <name>SXLoadingDialog</name>
     <message>
         <source>Loading progress</source>
         <translation>Progresso do carregamento</translation>

@@ -47,3 +47,9 @@ QString SXCatalogueTexts::choiceTitle(Choice kind, const QString& title) {
 QString SXCatalogueTexts::description(const QString& text) {
     return QCoreApplication::translate("SXCatalogueTexts", text.toUtf8().constData());
 }
+
+QString SXCatalogueTexts::formatName(const QString& name) {
+    if (name == QLatin1String("Ringtone"))
+        return tr("Ringtone");
+    return name;
+}

@@ -19,4 +19,8 @@ public:
     // A format's one-line description from the catalogue, translated when the catalogue
     // knows it.
     static QString description(const QString& text);
+    // A format's name as shown: the names of codecs and products ("MP3", "Apple Lossless") as
+    // they are, a plain word ("Ringtone") in the user's language. The name itself stays the
+    // container's key and what `sonoria-cli -f` takes.
+    static QString formatName(const QString& name);
 };

@@ -49,7 +49,7 @@ QString SXWorkspaceTexts::countText(int count) {
 }
 
 QString SXWorkspaceTexts::tabAccessibleName(const QString& label, int count) {
-    return tr("%1, %2").arg(label, countText(count));
+    return tr("%1, %2").arg(SXCatalogueTexts::formatName(label), countText(count));
 }
 
 QString SXWorkspaceTexts::windowTitle(const QString& appName, int state, double percent) {

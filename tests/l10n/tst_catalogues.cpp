@@ -5,7 +5,9 @@
 #include <QDir>
 #include <QFile>
 #include <QHash>
+#include <QLibraryInfo>
 #include <QRegularExpression>
+#include <QSet>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -124,6 +126,7 @@ class TestCatalogues : public QObject {
 private Q_SLOTS:
     void catalogueIsComplete_data();
     void catalogueIsComplete();
+    void catalogueFollowsTheSources();
     void checkFindsFaults_data();
     void checkFindsFaults();
     void languageIsChosen_data();
@@ -147,6 +150,35 @@ void TestCatalogues::catalogueIsComplete() {
     QVERIFY2(error.isEmpty(), qPrintable(error));
     QVERIFY(entries.size() > 100);
     SONORIA_VERIFY_NONE(problemsOf(entries));
+}
+
+// Every text the sources hand to tr(), under the class it is in now, is in every catalogue:
+// a renamed class otherwise takes its texts out of the catalogues' reach, and people read
+// them in English although each has its translation under the old name.
+void TestCatalogues::catalogueFollowsTheSources() {
+    QTemporaryDir scratch;
+    const QString scanned = scratch.filePath(u"sources.ts"_s);
+    const QString lupdate = QLibraryInfo::path(QLibraryInfo::BinariesPath) + u"/lupdate"_s;
+    const SonoriaTest::RunResult scan = SonoriaTest::runProgram(
+        lupdate,
+        {u"-silent"_s, u"-locations"_s, u"none"_s, u"-extensions"_s, u"cpp,h"_s, u"src"_s, u"cli"_s,
+         u"app"_s, u"-source-language"_s, u"en"_s, u"-ts"_s, scanned},
+        {}, QStringLiteral(SONORIA_SOURCE_DIR));
+    SONORIA_COMPARE_EXIT(scan, 0);
+    QString error;
+    const QList<Entry> wanted = readCatalogue(scanned, &error);
+    QVERIFY2(wanted.size() > 100, qPrintable(error));
+    for (const QString& file : QDir(kCatalogues).entryList({u"sonoria_*.ts"_s}, QDir::Files)) {
+        QSet<QString> present;
+        for (const Entry& entry : readCatalogue(kCatalogues + u'/' + file, &error))
+            present.insert(entry.context + u'|' + entry.source);
+        QStringList missing;
+        for (const Entry& entry : wanted) {
+            if (!present.contains(entry.context + u'|' + entry.source))
+                missing.append(file + u": "_s + entry.context + u" | "_s + entry.source);
+        }
+        SONORIA_VERIFY_NONE(missing);
+    }
 }
 
 // The check itself, on small catalogues with one fault each.

@@ -40,7 +40,8 @@ SXFormatChooserDialog::SXFormatChooserDialog(const QList<SXFormatSettingPtr>& le
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(popFormat, &QComboBox::textActivated, this, &SXFormatChooserDialog::changeFormatSelect);
+    connect(popFormat, &QComboBox::activated, this,
+            [this](int index) { changeFormatSelect(popFormat->itemData(index).toString()); });
     windowDidLoad();
 }
 
@@ -60,7 +61,8 @@ void SXFormatChooserDialog::windowDidLoad() {
     if (names.isEmpty())
         return;
     popFormat->clear();
-    popFormat->addItems(names);
+    for (const QString& name : names)
+        popFormat->addItem(SXCatalogueTexts::formatName(name), name);
     popFormat->setCurrentIndex(0);
     changeFormatSelect(names.first());
 }
@@ -79,7 +81,7 @@ void SXFormatChooserDialog::changeFormatSelect(const QString& name) {
 
 SXFormatSettingPtr SXFormatChooserDialog::getFormatSettingResult() const {
     SXFormatSettingPtr result = m_chooser.getFormatSettingResult(
-        {popFormat->currentText(), SXPopUps::selectedTitle(popSmpRate),
+        {popFormat->currentData().toString(), SXPopUps::selectedTitle(popSmpRate),
          SXPopUps::selectedTitle(popBitRate), SXPopUps::selectedTitle(popChannel),
          btnAddToLibrary->isChecked()});
     if (result) {

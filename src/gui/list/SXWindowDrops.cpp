@@ -63,7 +63,7 @@ bool SXWindowDrops::tabBarEvent(QEvent* event) {
     const bool taken =
         event->type() == QEvent::DragEnter ||
         (tab >= 0 && (event->type() == QEvent::DragMove ||
-                      SXListDrop::dropOnTab(m_moves, content, m_tabBar.tabText(tab))));
+                      SXListDrop::dropOnTab(m_moves, content, m_tabBar.tabData(tab).toString())));
     drop->setAccepted(taken);
     return true;
 }

@@ -2,6 +2,7 @@
 
 #include "gui/panels/SXIcons.h"
 #include "gui/window/SXCountBadge.h"
+#include "workspace/SXCatalogueTexts.h"
 #include "workspace/SXCommandValidation.h"
 #include "workspace/SXContainerTabs.h"
 #include "workspace/SXWorkspaceTexts.h"
@@ -48,8 +49,10 @@ void SXContainerTabBar::showTabs(const QStringList& labels, int selectedIndex) {
         removeTab(count() - 1);
     for (int i = 0; i < labels.size(); ++i) {
         if (i >= count())
-            addTab(labels.at(i));
-        setTabText(i, labels.at(i));
+            addTab(QString());
+        // What a tab shows may be translated; the container's own name travels as its data.
+        setTabText(i, SXCatalogueTexts::formatName(labels.at(i)));
+        setTabData(i, labels.at(i));
         setTabToolTip(i, SXWorkspaceTexts::tabToolTip(
                              m_tabs.store().getFormatSettingForFormatName(labels.at(i))));
         if (!qobject_cast<SXCountBadge*>(tabButton(i, QTabBar::LeftSide)))
@@ -82,10 +85,14 @@ void SXContainerTabBar::refreshCloseButtons() {
     for (int i = 0; i < count(); ++i) {
         QWidget* close = tabButton(i, QTabBar::RightSide);
         if (close)
-            close->setVisible(sxTabCloseButtonShown(state, !m_tabs.disableTabClose(tabText(i))));
+            close->setVisible(sxTabCloseButtonShown(state, !m_tabs.disableTabClose(labelAt(i))));
     }
 }
 
 void SXContainerTabBar::closeRequested(int index) {
-    m_tabs.closeContainer(tabText(index));
+    m_tabs.closeContainer(labelAt(index));
+}
+
+QString SXContainerTabBar::labelAt(int index) const {
+    return tabData(index).toString();
 }

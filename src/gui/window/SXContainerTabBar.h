@@ -23,6 +23,8 @@ private:
     void showTabs(const QStringList& labels, int selectedIndex);
     void showCounts(const QStringList& labels, const QList<int>& counts);
     void closeRequested(int index);
+    // The container a tab stands for (its text may be a translation of it).
+    QString labelAt(int index) const;
 
     SXContainerTabs& m_tabs;
     QToolButton* m_addButton = nullptr;
