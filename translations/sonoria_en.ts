@@ -1149,6 +1149,10 @@ cancels the run; partial outputs are removed).
         <source>Loading progress</source>
         <translation>Loading progress</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>SXMainAppController</name>
@@ -1691,6 +1695,13 @@ cancels the run; partial outputs are removed).
             <numerusform>%n hour</numerusform>
             <numerusform>%n hours</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SXWindowPresenter</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -1150,6 +1150,10 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
         <source>Loading progress</source>
         <translation>Progreso de la carga</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>SXMainAppController</name>
@@ -1692,6 +1696,13 @@ SIGINT (Ctrl-C cancela la ejecución; se eliminan las salidas parciales).
             <numerusform>%n hora</numerusform>
             <numerusform>%n horas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SXWindowPresenter</name>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
     </message>
 </context>
 <context>

@@ -1151,6 +1151,10 @@ partielles sont supprimées).
         <source>Loading progress</source>
         <translation>Progression du chargement</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
 </context>
 <context>
     <name>SXMainAppController</name>
@@ -1693,6 +1697,13 @@ partielles sont supprimées).
             <numerusform>%n heure</numerusform>
             <numerusform>%n heures</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SXWindowPresenter</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -1150,6 +1150,10 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
         <source>Loading progress</source>
         <translation>Avanzamento del caricamento</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annulla</translation>
+    </message>
 </context>
 <context>
     <name>SXMainAppController</name>
@@ -1692,6 +1696,13 @@ SIGINT (Ctrl-C annulla l&apos;esecuzione; i file parziali vengono rimossi).
             <numerusform>%n ora</numerusform>
             <numerusform>%n ore</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SXWindowPresenter</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -1150,6 +1150,10 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
         <source>Loading progress</source>
         <translation>Progresso do carregamento</translation>
     </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>SXMainAppController</name>
@@ -1692,6 +1696,13 @@ SIGINT (Ctrl-C cancela a execução; as saídas parciais são removidas).
             <numerusform>%n hora</numerusform>
             <numerusform>%n horas</numerusform>
         </translation>
+    </message>
+</context>
+<context>
+    <name>SXWindowPresenter</name>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
     </message>
 </context>
 <context>

@@ -32,7 +32,7 @@ SXLoadingDialog::SXLoadingDialog(SXAddRun& addRun, QWidget& window)
     _piIndicator->setTextVisible(false);
     layout->addWidget(_piIndicator);
     auto* buttons = new QDialogButtonBox(this);
-    m_cancel = buttons->addButton(QStringLiteral("Cancel"), QDialogButtonBox::RejectRole);
+    m_cancel = buttons->addButton(tr("Cancel"), QDialogButtonBox::RejectRole);
     m_cancel->setObjectName(QStringLiteral("btnCancel"));
     layout->addWidget(buttons);
     connect(buttons, &QDialogButtonBox::rejected, this, &SXLoadingDialog::reject);

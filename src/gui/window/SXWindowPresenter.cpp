@@ -24,7 +24,9 @@ QMessageBox* messageBox(QWidget& window, const SXAlert& alert, QMessageBox::Icon
     if (!alert.details.isEmpty())
         box->setDetailedText(alert.details);
     const QStringList buttons =
-        alert.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : alert.buttons;
+        alert.buttons.isEmpty()
+            ? QStringList{QCoreApplication::translate("SXWindowPresenter", "OK")}
+            : alert.buttons;
     for (int i = 0; i < buttons.size(); ++i) {
         QPushButton* button = box->addButton(buttons.at(i), QMessageBox::AcceptRole);
         button->setProperty("sxIndex", i);
