@@ -42,7 +42,7 @@ private Q_SLOTS:
         for (std::thread& thread : threads)
             thread.join();
         const int total = requested.load();
-        QTRY_COMPARE_WITH_TIMEOUT(requestedAtLastCall, total, 2000);
+        QTRY_COMPARE_WITH_TIMEOUT(requestedAtLastCall, total, 5000);
         const qint64 elapsed = clock.elapsed();
 
         QVERIFY(!offMainThread);
