@@ -1,14 +1,11 @@
 #include "framework/HVFrameSource.h"
 
-#include <QFile>
-#include <QFileInfo>
-
-#include <mutex>
+#include "framework/HVLocalInput.h"
 
 extern "C" {
 #include <libavcodec/avcodec.h>
 #include <libavformat/avformat.h>
-#include <libavutil/log.h>
+#include <libavutil/channel_layout.h>
 }
 
 HVFrameSource::~HVFrameSource() {
@@ -19,17 +16,7 @@ HVFrameSource::~HVFrameSource() {
 }
 
 HVFrameSource::OpenResult HVFrameSource::open(const QString& path) {
-    // Damaged input is reported by the callers in their words, not by libav on standard error.
-    static std::once_flag quiet;
-    std::call_once(quiet, [] { av_log_set_level(AV_LOG_QUIET); });
-    const QByteArray url = "file:" + QFile::encodeName(QFileInfo(path).absoluteFilePath());
-    AVDictionary* options = nullptr;
-    av_dict_set(&options, "protocol_whitelist", "file", 0);
-    // A 16-bit WAV is probed for a hidden codec on its first packet only, as the probe and the
-    // converter worker do; libavformat's default probe of 32 packets costs more than the file.
-    av_dict_set(&options, "max_probe_packets", "0", 0);
-    const int opened = avformat_open_input(&m_format, url.constData(), nullptr, &options);
-    av_dict_free(&options);
+    const int opened = HVLocalInput::open(&m_format, path);
     if (opened < 0 || avformat_find_stream_info(m_format, nullptr) < 0)
         return OpenResult::Unreadable;
     const AVCodec* decoder = nullptr;
@@ -80,6 +67,13 @@ void HVFrameSource::seek(double seconds) {
     av_seek_frame(m_format, -1, int64_t(seconds * AV_TIME_BASE), AVSEEK_FLAG_BACKWARD);
     avcodec_flush_buffers(m_codec);
     m_inputDone = false;
+}
+
+void HVFrameSource::channelLayout(AVChannelLayout* layout) const {
+    if (m_codec->ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
+        av_channel_layout_default(layout, m_codec->ch_layout.nb_channels);
+    else
+        av_channel_layout_copy(layout, &m_codec->ch_layout);
 }
 
 const AVStream* HVFrameSource::stream() const {

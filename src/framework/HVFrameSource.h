@@ -2,6 +2,7 @@
 
 #include <QString>
 
+struct AVChannelLayout;
 struct AVCodecContext;
 struct AVFormatContext;
 struct AVFrame;
@@ -10,8 +11,8 @@ struct AVStream;
 
 // The decoded frames of a file's best audio stream (a video file's sound included), in order:
 // the one decoding loop of the player and the loudness meter. It opens the file as the probe
-// does (a local file only, whatever its name looks like), skips every other stream in the
-// demuxer, skips damaged packets as the converter does and flushes the decoder at the end.
+// does (HVLocalInput), skips every other stream in the demuxer, skips damaged packets as the
+// converter does and flushes the decoder at the end.
 // Not thread-safe; one thread uses it.
 class HVFrameSource {
 public:
@@ -30,6 +31,9 @@ public:
     void seek(double seconds);
 
     const AVCodecContext* codec() const { return m_codec; }
+    // The decoder's channel layout, a default one for its channel count when the file names
+    // none (a layout for the resampler); the caller uninitialises it.
+    void channelLayout(AVChannelLayout* layout) const;
     const AVStream* stream() const;
     // Seconds from the stream or the container; 0 while unknown.
     double duration() const;

@@ -1,11 +1,12 @@
 #include "framework/HVMediaInfo.h"
 
+#include "framework/HVLocalInput.h"
+
 #include <QByteArray>
 #include <QFile>
 #include <QFileInfo>
 #include <algorithm>
 #include <memory>
-#include <mutex>
 #include <vector>
 
 extern "C" {
@@ -14,18 +15,10 @@ extern "C" {
 #include <libavutil/avutil.h>
 #include <libavutil/dict.h>
 #include <libavutil/error.h>
-#include <libavutil/log.h>
 #include <libavutil/pixfmt.h>
 }
 
 namespace {
-
-// libav prints its complaints about damaged input straight to standard error; the probe reports
-// failures through its own error text instead.
-void silenceLibavLogging() {
-    static std::once_flag once;
-    std::call_once(once, [] { av_log_set_level(AV_LOG_QUIET); });
-}
 
 QString libavErrorText(int code) {
     char text[AV_ERROR_MAX_STRING_SIZE] = {};
@@ -170,21 +163,9 @@ void skipCoverDecoding(AVFormatContext& context) {
 // Opens the file and reads just enough packets to know its streams (libav's default probe size
 // and analysis duration bound that read; nothing is decoded beyond it).
 FormatContextPtr openMedia(const QString& path, QString* error) {
-    // The "file:" prefix keeps a name such as "http:x.mp3" a local file, and the whitelist keeps
-    // playlist-like inputs from reaching for anything but local files.
-    const QByteArray url = "file:" + QFile::encodeName(QFileInfo(path).absoluteFilePath());
-    AVDictionary* options = nullptr;
-    av_dict_set(&options, "protocol_whitelist", "file", 0);
-    // 16-bit PCM in WAV would otherwise be run past every format detector, up to 32 growing
-    // packets, in case it hides another codec; that costs ten times a whole MP3 probe. The first
-    // packet is still probed, which finds a hidden MP3; the converter worker does the same.
-    av_dict_set(&options, "max_probe_packets", "0", 0);
     const MediaStart start = findMediaStart(path);
-    if (start.offset > 0)
-        av_dict_set_int(&options, "skip_initial_bytes", start.offset, 0);
     AVFormatContext* raw = nullptr;
-    const int opened = avformat_open_input(&raw, url.constData(), start.format, &options);
-    av_dict_free(&options);
+    const int opened = HVLocalInput::open(&raw, path, start.format, start.offset);
     if (opened < 0) {
         fail(error,
              QStringLiteral("cannot open %1 as media: %2").arg(path, libavErrorText(opened)));
@@ -204,7 +185,6 @@ FormatContextPtr openMedia(const QString& path, QString* error) {
 } // namespace
 
 bool HVMediaInfo::dumpMediaInfo(HVMediaInfoItem& item, QString* error) {
-    silenceLibavLogging();
     const QString path = item.filePath();
     const QFileInfo info(path);
     if (path.isEmpty() || !info.exists())

@@ -53,10 +53,7 @@ bool HVSampleReader::open(const QString& path, QString* error) {
     }
     const AVCodecContext& codec = *m_source.codec();
     AVChannelLayout layout = {};
-    if (codec.ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
-        av_channel_layout_default(&layout, codec.ch_layout.nb_channels);
-    else
-        av_channel_layout_copy(&layout, &codec.ch_layout);
+    m_source.channelLayout(&layout);
     for (int i = 0; i < layout.nb_channels; ++i)
         m_roles.push_back(roleOf(av_channel_layout_channel_from_index(&layout, unsigned(i))));
     m_sampleRate = codec.sample_rate;

@@ -47,10 +47,7 @@ bool HVAudioDecoder::openResampler() {
     AVChannelLayout out = {};
     av_channel_layout_default(&out, m_channels);
     AVChannelLayout in = {};
-    if (codec.ch_layout.order == AV_CHANNEL_ORDER_UNSPEC)
-        av_channel_layout_default(&in, codec.ch_layout.nb_channels);
-    else
-        av_channel_layout_copy(&in, &codec.ch_layout);
+    m_source.channelLayout(&in);
     const int made = swr_alloc_set_opts2(&m_swr, &out, AV_SAMPLE_FMT_S16, m_sampleRate, &in,
                                          codec.sample_fmt, codec.sample_rate, 0, nullptr);
     av_channel_layout_uninit(&in);
