@@ -1,5 +1,6 @@
 #include "engine/ConvertNaming.h"
 
+#include "base/SXSafeName.h"
 #include "framework/MTEAudioFile.h"
 #include "framework/MTETagFamily.h"
 #include "framework/MTETagFileKind.h"
@@ -112,9 +113,9 @@ QString ConvertNaming::expand(const QString& pattern, const ConvertNameTags& tag
     QStringList path;
     for (qsizetype i = 0; i < parts.size(); ++i) {
         const bool last = i == parts.size() - 1;
-        path.append(
-            safeComponent(expandPart(parts.at(i), tags),
-                          last ? std::max(1, kMaxNameBytes - reservedBytes) : kMaxNameBytes));
+        path.append(SXSafeName::component(expandPart(parts.at(i), tags),
+                                          last ? std::max(1, SXSafeName::kMaxBytes - reservedBytes)
+                                               : SXSafeName::kMaxBytes));
     }
     return path.join(QLatin1Char('/'));
 }
@@ -129,7 +130,7 @@ QString ConvertNaming::mirroredFolder(const QString& sourcePath, const QString& 
         return {};
     QStringList parts;
     for (const QString& part : relative.split(QLatin1Char('/'), Qt::SkipEmptyParts))
-        parts.append(safeComponent(part));
+        parts.append(SXSafeName::component(part));
     return parts.join(QLatin1Char('/'));
 }
 

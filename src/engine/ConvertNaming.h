@@ -1,7 +1,5 @@
 #pragma once
 
-#include "base/SXSafeName.h"
-
 #include <QCoreApplication>
 #include <QString>
 
@@ -35,9 +33,6 @@ class ConvertNaming {
     Q_DECLARE_TR_FUNCTIONS(ConvertNaming)
 
 public:
-    // What a file system takes as one name, in bytes of UTF-8.
-    static constexpr int kMaxNameBytes = SXSafeName::kMaxBytes;
-
     // The pattern of a container that asks for nothing else: the source's own name (which the
     // job builder then takes as it is, as outputs were always named).
     static QString defaultPattern() { return QStringLiteral("{filename}"); }
@@ -47,11 +42,6 @@ public:
     // keeps `reservedBytes` of its 255 free for the extension and a counter.
     static QString expand(const QString& pattern, const ConvertNameTags& tags,
                           int reservedBytes = 0);
-
-    // `text` as one safe path component (SXSafeName's rule).
-    static QString safeComponent(const QString& text, int maxBytes = kMaxNameBytes) {
-        return SXSafeName::component(text, maxBytes);
-    }
 
     // The folder of `sourcePath` below `addedFrom` (the folder the user added), each part made
     // safe; empty when the source was not added with a folder or lies outside it.

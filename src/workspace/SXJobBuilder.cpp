@@ -1,6 +1,7 @@
 #include "workspace/SXJobBuilder.h"
 
 #include "base/SXInstallation.h"
+#include "base/SXSafeName.h"
 #include "base/SXSettings.h"
 #include "engine/ConvertNaming.h"
 #include "engine/ConvertOutputFile.h"
@@ -49,8 +50,7 @@ QString SXJobBuilder::relativeOutput(const SXMusicInfo& item, const SXFormatSett
     // A cue track's own name is made from the sheet's title, which no file system has checked:
     // it gets the same length limit as a name from tags.
     if (asBefore && media->cueTrack())
-        named = ConvertNaming::safeComponent(named,
-                                             std::max(1, ConvertNaming::kMaxNameBytes - reserved));
+        named = SXSafeName::component(named, std::max(1, SXSafeName::kMaxBytes - reserved));
     const QString mirrored =
         setting.mirrorFolders()
             ? ConvertNaming::mirroredFolder(media->filePath(), media->addedFromFolder())

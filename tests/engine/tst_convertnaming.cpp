@@ -1,5 +1,6 @@
 #include "support/TestSupport.h"
 
+#include "base/SXSafeName.h"
 #include "engine/ConvertNaming.h"
 #include "framework/MTEAudioFileMgr.h"
 
@@ -79,7 +80,7 @@ private Q_SLOTS:
     void components() {
         QFETCH(QString, text);
         QFETCH(QString, expected);
-        QCOMPARE(ConvertNaming::safeComponent(text), expected);
+        QCOMPARE(SXSafeName::component(text), expected);
     }
 
     // At most 255 bytes of UTF-8, cut between characters (two-, three- and four-byte ones), and
