@@ -5,6 +5,7 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
+#include <QDataStream>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <cmath>
@@ -125,32 +126,22 @@ private Q_SLOTS:
         item.job.choices = {enc.lossless ? std::nullopt : std::optional<int>(192), enc.sampleRate,
                             src.channels, enc.lossless};
         QVERIFY(ConvertEngineChoice::workerTakes(item.job));
-
-        QTemporaryDir out;
-        LogCapture log;
         Recorder recorder;
-        const ConvertOperationPtr operation = convert(item, out.path(), &recorder);
-        QVERIFY(log.contains(u"engine: worker"_s));
-        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        Decoded both;
+        convertBothWays(item, &recorder, &both);
+        if (QTest::currentTestFailed())
+            return;
         QVERIFY(recorder.isWellFormed());
-
-        const QString reference = out.filePath(u"reference."_s + QString::fromUtf8(enc.extension));
-        const QStringList arguments =
-            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
-        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
-
-        const QByteArray fromWorker = decoded(operation->strOutFilePath());
-        const QByteArray fromFfmpeg = decoded(reference);
-        QVERIFY(!fromFfmpeg.isEmpty());
+        QVERIFY(!both.ffmpeg.isEmpty());
         if (enc.lossless) {
-            QVERIFY(fromWorker == fromFfmpeg);
+            QVERIFY(both.worker == both.ffmpeg);
             return;
         }
         // One frame of the largest encoder (2048 samples) either way.
         const qsizetype frameBytes = 2048 * 4 * src.channels;
-        QVERIFY(std::abs(fromWorker.size() - fromFfmpeg.size()) <= frameBytes);
-        QVERIFY2(snrDb(fromFfmpeg, fromWorker) >= 60.0,
-                 qPrintable(u"%1 dB"_s.arg(snrDb(fromFfmpeg, fromWorker))));
+        QVERIFY(std::abs(both.worker.size() - both.ffmpeg.size()) <= frameBytes);
+        QVERIFY2(snrDb(both.ffmpeg, both.worker) >= 60.0,
+                 qPrintable(u"%1 dB"_s.arg(snrDb(both.ffmpeg, both.worker))));
     }
 
     // A WAV whose header says 16-bit samples but that holds an MP3: the worker probes only the
@@ -163,44 +154,28 @@ private Q_SLOTS:
                  0);
         const QByteArray frames = SonoriaTest::readFile(mp3);
         QByteArray wav;
-        const auto le32 = [&wav](quint32 value) {
-            for (int shift = 0; shift < 32; shift += 8)
-                wav.append(char((value >> shift) & 0xff));
-        };
-        const auto le16 = [&wav](quint16 value) {
-            wav.append(char(value & 0xff)).append(char(value >> 8));
-        };
-        wav.append("RIFF");
-        le32(quint32(36 + frames.size()));
-        wav.append("WAVEfmt ");
-        le32(16);
-        le16(1); // PCM
-        le16(2);
-        le32(44100);
-        le32(44100 * 4);
-        le16(4);
-        le16(16);
-        wav.append("data");
-        le32(quint32(frames.size()));
-        wav.append(frames);
+        QDataStream header(&wav, QIODevice::WriteOnly);
+        header.setByteOrder(QDataStream::LittleEndian);
+        header.writeRawData("RIFF", 4);
+        header << quint32(36 + frames.size());
+        header.writeRawData("WAVEfmt ", 8);
+        // PCM, two channels of 16 bits at 44.1 kHz.
+        header << quint32(16) << quint16(1) << quint16(2) << quint32(44100) << quint32(44100 * 4)
+               << quint16(4) << quint16(16);
+        header.writeRawData("data", 4);
+        header << quint32(frames.size());
         const QString hidden = m_sources.filePath(u"hidden.wav"_s);
-        QVERIFY(SonoriaTest::writeFile(hidden, wav));
+        QVERIFY(SonoriaTest::writeFile(hidden, wav + frames));
 
         Item item = makeItem(hidden, 3.0, u"Test"_s, u"flac"_s, u"flac"_s);
         item.job.choices = {std::nullopt, 44100, 2, true};
-        QTemporaryDir out;
-        LogCapture log;
-        const ConvertOperationPtr operation = convert(item, out.path(), nullptr);
-        QVERIFY(log.contains(u"engine: worker"_s));
-        QCOMPARE(stateOf(item), int(CvtStateFinished));
-        const QString reference = out.filePath(u"reference.flac"_s);
-        const QStringList arguments =
-            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
-        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
-        const QByteArray fromFfmpeg = decoded(reference);
+        Decoded both;
+        convertBothWays(item, nullptr, &both);
+        if (QTest::currentTestFailed())
+            return;
         // Three seconds of sound, not the MP3's bytes read as 0.4 s of noise.
-        QVERIFY(fromFfmpeg.size() >= 3 * 44100 * 2 * 4);
-        QVERIFY(decoded(operation->strOutFilePath()) == fromFfmpeg);
+        QVERIFY(both.ffmpeg.size() >= 3 * 44100 * 2 * 4);
+        QVERIFY(both.worker == both.ffmpeg);
     }
 
     // The rule: the worker's encoders only, no cue range or gain, and never when ffmpeg is asked
@@ -230,6 +205,26 @@ private Q_SLOTS:
     }
 
 private:
+    struct Decoded {
+        QByteArray worker;
+        QByteArray ffmpeg;
+    };
+    // Converts `item` through the worker, then its job through an ffmpeg child; both outputs
+    // decoded.
+    static void convertBothWays(const Item& item, Recorder* recorder, Decoded* both) {
+        QTemporaryDir out;
+        LogCapture log;
+        const ConvertOperationPtr operation = convert(item, out.path(), recorder);
+        QVERIFY(log.contains(u"engine: worker"_s));
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
+        const QString reference = out.filePath(u"reference."_s + item.job.extension);
+        const QStringList arguments =
+            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
+        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
+        both->worker = decoded(operation->strOutFilePath());
+        both->ffmpeg = decoded(reference);
+    }
+
     QTemporaryDir m_sources;
 };
 
