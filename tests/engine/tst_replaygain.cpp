@@ -305,21 +305,6 @@ private Q_SLOTS:
         QCOMPARE(loudnessFields(operation->strOutFilePath()), (QMap<QString, QString>{}));
     }
 
-    // An undecodable source fails with the meter's reason and no child ever starts.
-    void unmeasuredSourceFails() {
-        Item item = makeItem(m_source, 4.0);
-        item.job.loudness.tags = SXReplayGainMode::Track;
-        item.job.loudness.failure = u"its audio cannot be decoded"_s;
-        const QString folder = m_dir.filePath(u"unmeasured"_s);
-        QVERIFY(QDir().mkpath(folder));
-        Recorder recorder;
-        convert(item, folder, &recorder);
-        QCOMPARE(stateOf(item), int(CvtStateFailed));
-        QCOMPARE(item->mediaInfo()->failReason(),
-                 ConvertLoudness::notMeasured(u"its audio cannot be decoded"_s));
-        QCOMPARE(entries(folder), QStringList());
-    }
-
 private:
     QTemporaryDir m_dir;
     QString m_source;

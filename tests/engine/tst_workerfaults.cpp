@@ -145,18 +145,43 @@ private Q_SLOTS:
         QVERIFY(workers().contains(worker)); // back in the pool for the next job
     }
 
-    // A cancel mid-job leaves nothing on disk, and the worker serves the next job.
+    // A cancel leaves nothing on disk, whether the job runs or is paused (the stopped worker
+    // must still act on it), and the worker serves the next job. A job waiting behind it on the
+    // single slot is cancelled first: it never runs and reports nothing.
+    void cancelLeavesNothing_data() {
+        QTest::addColumn<bool>("paused");
+        QTest::newRow("while running") << false;
+        QTest::newRow("while paused") << true;
+    }
     void cancelLeavesNothing() {
+        QFETCH(bool, paused);
         QTemporaryDir dir;
         const QString out = dir.filePath(u"out"_s);
         RealtimeSource source;
         QVERIFY(source.start(dir.path(), 30.0));
         Running running(source.path, 30.0, out);
+        running.queue.setMaxConcurrentOperationCount(1);
+        Recorder waitingRecorder;
+        const Item waitingItem = makeItem(m_tone.filePath(u"tone.wav"_s), 1.0);
+        const ConvertOperationPtr waiting = makeOperation(waitingItem, out, &waitingRecorder);
+        running.queue.addOperation(waiting);
         const qint64 worker = running.worker();
         QVERIFY(worker > 0);
+        // While it writes, only a hidden temporary file is there, never the final name.
+        QVERIFY(!QFileInfo::exists(running.operation->strOutFilePath()));
+        QCOMPARE(QDir(out).entryList(QDir::Files | QDir::Hidden).size(), 1);
+
+        waiting->cancel();
+        QCOMPARE(stateOf(waitingItem), int(CvtStateCanceled));
+        if (paused) {
+            running.operation->pause();
+            QCOMPARE(stateOf(running.item), int(CvtStatePaused));
+        }
         running.operation->cancel();
         running.queue.waitUntilAllOperationsAreFinished();
         QCOMPARE(stateOf(running.item), int(CvtStateCanceled));
+        QVERIFY2(running.recorder.isWellFormed(), qPrintable(running.recorder.events().join(u' ')));
+        QCOMPARE(waitingRecorder.events(), QStringList());
         QCOMPARE(SonoriaTest::filesBelow(out), QStringList());
         QVERIFY(convertsAfterwards(dir.filePath(u"next"_s), m_tone.filePath(u"tone.wav"_s)));
         QCOMPARE(workers(), QList<qint64>{worker});

@@ -35,17 +35,6 @@ SXMusicInfoPtr item(const QString& path, const QString& type = QStringLiteral("M
 class TestRecords : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    // Log lines quote these texts, blanks and misspellings included.
-    void descriptionsForLogs() {
-        const auto a = item(QStringLiteral("/x/1.mp3"));
-        a->setStrMusicName(QStringLiteral("One"));
-        QVERIFY(a->description().startsWith(QStringLiteral("P = 0x")));
-        QVERIFY(a->description().endsWith(QStringLiteral(
-            ", path = /music/a song.flac, name = One, sample = 44100.000000, birat = "
-            "912000.000000,             channel = 2, inFormatType = MP3")));
-        QVERIFY(a->mediaInfo()->description().contains(
-            QRegularExpression(QStringLiteral("^id:0x[0-9a-f]+, filePath = /music/a song.flac$"))));
-    }
 
     // The record's own keys follow the probed ones; the output settings' keys are still there,
     // holding what a record that has not run held (the probe's values, no encoder).

@@ -51,7 +51,6 @@ class TestWorkspaceLists : public QObject {
 private Q_SLOTS:
     void initTestCase();
     void init();
-    void windowLifecycle();
     void containerRules();
     void addRunExpandsFoldersAndAppliesTheVobRule();
     void addRunDropsPathsAlreadyInTheContainer();
@@ -83,52 +82,6 @@ void TestWorkspaceLists::initTestCase() {
 void TestWorkspaceLists::init() {
     SXSettings::removeKey(SXSettingsKey::AppSupportVob);
     m_presenter = WorkspaceTestPresenter();
-}
-
-void TestWorkspaceLists::windowLifecycle() {
-    const auto registered = [](SXWorkspace* window) {
-        return SXWindowRegistry::instance().registeredWindows().contains(window);
-    };
-    SXWorkspace workspace;
-    QVERIFY(registered(&workspace));
-    QVERIFY(workspace.store().tabLabels().isEmpty());
-    prepareWorkspace(workspace, &m_presenter);
-    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
-    QCOMPARE(workspace.store().tabLabels(), fixed);
-
-    // A revived window starts empty again, without the containers added meanwhile.
-    m_presenter.formatAnswer = u"FLAC"_s;
-    workspace.tabs().addContainer();
-    QVERIFY(addFiles(workspace, {path(u"a.mp3"_s)}));
-    workspace.reNewDefaultWindow();
-    QCOMPARE(workspace.store().tabLabels(), fixed);
-    QCOMPARE(workspace.store().containerNames(), fixed);
-    QCOMPARE(workspace.store().getSelectedMusicFormat(), fixed.first());
-    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 0);
-    QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
-
-    // Only the last window asks before it closes; a destroyed one no longer counts.
-    workspace.store().setData(madeUpItems(u"AAC"_s, {u"1.wav"_s}), u"AAC"_s);
-    QSignalSpy closing(&workspace, &SXWorkspace::lastWorkspaceClosing);
-    {
-        SXWorkspace other;
-        QVERIFY(closes(other));
-        QVERIFY(m_presenter.alerts.isEmpty());
-    }
-    m_presenter.alertAnswer = 0; // "Cancel"
-    QVERIFY(!closes(workspace));
-    QCOMPARE(
-        alertTexts(m_presenter.alerts.last()),
-        (QStringList{u"Warnning"_s, u"Do you want to close all window without save information?"_s,
-                     u"Cancel"_s, u"OK"_s}));
-    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 1);
-    QCOMPARE(closing.count(), 0);
-    m_presenter.alertAnswer = 1; // "OK"
-    QVERIFY(closes(workspace));
-    QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 0);
-    QCOMPARE(workspace.store().tabLabels(), fixed);
-    QCOMPARE(closing.count(), 1);
-    QVERIFY(!registered(&workspace));
 }
 
 void TestWorkspaceLists::containerRules() {

@@ -76,7 +76,6 @@ private Q_SLOTS:
     void playButtonTogglesAndStopTwiceIsHarmless();
     void workspaceStopsThePreview_data();
     void workspaceStopsThePreview();
-    void movedItemKeepsPlaying();
     void failureAndForeignStopReturnToIdle();
     void sliderSeeksOnlyWhenTheDragPauses();
 
@@ -225,22 +224,6 @@ void TestWorkspacePreview::workspaceStopsThePreview() {
     QCOMPARE(!m_player->playingMusic(), stops);
     if (stops)
         QVERIFY(m_workspace->store().enumAppState() != AppStatePlaying);
-}
-
-void TestWorkspacePreview::movedItemKeepsPlaying() {
-    m_workspace->preview().togglePlay(row(2));
-    const SXMusicInfoList dragged = SXMusicInfo::unarchiveItems(
-        SXMusicInfo::archiveItems({m_workspace->store().getDataForFormat(u"MP3"_s).at(2)}));
-    m_workspace->moves().acceptDropOnTab(dragged, u"AAC"_s);
-
-    QCOMPARE(m_workspace->store().getDataForFormat(u"MP3"_s).size(), 2);
-    const SXMusicInfoPtr moved = m_workspace->store().getDataForFormat(u"AAC"_s).last();
-    QVERIFY(m_workspace->preview().isPlayingMusic(moved));
-    QCOMPARE(m_player->playingMusic()->getStrMusicType(), u"AAC"_s);
-    // It now runs on in its new container, where it is the last row.
-    m_player->runOut();
-    QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(m_player->played.size(), 1);
 }
 
 void TestWorkspacePreview::failureAndForeignStopReturnToIdle() {
