@@ -56,7 +56,6 @@ private Q_SLOTS:
 private:
     // Adds a real two-second tone to the primary window and waits until it is listed.
     void addTone(const QString& name);
-    void activate();
     void pressInWindow(Qt::Key key);
     QAction* action(SXCommand command) const { return m_app->menus().action(command); }
     SXMainAppController& window() const { return *m_app->coreWindow(); }
@@ -92,21 +91,11 @@ void TestDesktopApp::addTone(const QString& name) {
     QCOMPARE(ws.store().currentTabItemCount(), before + 1);
     // A load slow enough to show the loading dialog (a sanitizer build, a busy machine) leaves
     // no window active on this platform once the dialog has closed; a desktop gives it back.
-    activate();
-}
-
-// A window-modal dialog that opened and closed leaves activation events behind on this platform,
-// and the next event delivery replays them, so the window could lose its activation just as a
-// key arrives or the menus read which window is the key one: they are handled first, then the
-// window is made active.
-void TestDesktopApp::activate() {
-    QTest::qWait(20);
-    QTRY_VERIFY_WITH_TIMEOUT((window().activateWindow(), QApplication::activeWindow() == &window()),
-                             5000);
+    QVERIFY(SonoriaGuiTest::activate(&window()));
 }
 
 void TestDesktopApp::pressInWindow(Qt::Key key) {
-    activate();
+    QVERIFY(SonoriaGuiTest::activate(&window()));
     QTest::keyClick(&window(), key, Qt::ControlModifier);
 }
 
@@ -335,8 +324,7 @@ void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
 
     // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.
     const auto openPreferences = [this] {
-        window().activateWindow();
-        if (!QTest::qWaitForWindowActive(&window()))
+        if (!SonoriaGuiTest::activate(&window()))
             return static_cast<SXPreferencesDialog*>(nullptr);
         QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
         SXPreferencesDialog* preferences = m_app->preferencesDialog();

@@ -75,6 +75,8 @@ SXMusicInfoList TestPreviewWindow::addFiles(const QStringList& names) {
     for (const QString& name : names)
         paths.append(m_dir.filePath(name));
     ::addFiles(m_window->workspace(), paths);
+    // The keys below are the window's shortcuts, which act only while it is the active one.
+    [&] { QVERIFY(SonoriaGuiTest::activate(m_window.get())); }();
     return m_window->workspace().store().getCurTableDatasource();
 }
 

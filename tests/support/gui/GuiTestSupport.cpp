@@ -18,6 +18,16 @@
 
 namespace SonoriaGuiTest {
 
+bool activate(QWidget* window) {
+    QTest::qWait(20);
+    return QTest::qWaitFor(
+        [window] {
+            window->activateWindow();
+            return QApplication::activeWindow() == window;
+        },
+        5000);
+}
+
 void prepareGuiEnvironment() {
     SonoriaTest::prepareEnvironment();
     qputenv("SONORIA_NO_DESKTOP_OPEN", "1");

@@ -33,6 +33,11 @@ template <class T> T* openDialog(QWidget* window) {
     return found;
 }
 
+// Makes `window` the active window once the activation events that a closed window-modal dialog
+// left behind on this platform have been handled: replayed later, they would take the activation
+// away just as a key or a shortcut arrives. False when it is not active within 5 s.
+bool activate(QWidget* window);
+
 // The texts of a message box: its text, informative text and button texts.
 QStringList messageTexts(QMessageBox* box);
 // Clicks the button of a message box that reads `text`; false when there is none.
