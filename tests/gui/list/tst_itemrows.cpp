@@ -97,14 +97,15 @@ void TestItemRows::refill() {
     m_window->workspace().addRun().clearContainer();
     QVERIFY(dropFilesOnList(m_window.get(), m_files));
     QCOMPARE(m_view->model()->rowCount(), 8);
+    // The keys of the tests are the window's shortcuts too.
+    QVERIFY(SonoriaGuiTest::activate(m_window.get()));
 }
 
 void TestItemRows::closeTagEditor() const {
     auto* editor = SonoriaGuiTest::openDialog<SXMetadataEditDialog>(m_window.get());
     QVERIFY(editor);
     editor->reject();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    QVERIFY(SonoriaGuiTest::activate(m_window.get()));
 }
 
 QStringList TestItemRows::menuEntries() const {
