@@ -1,4 +1,5 @@
 #include "framework/HVLoudness.h"
+#include "framework/HVTruePeak.h"
 #include "support/TestSupport.h"
 
 #include <QTemporaryDir>
@@ -40,10 +41,11 @@ private Q_SLOTS:
         QTest::newRow("stereo mp3")
             << u"e.mp3"_s << u"volume=6,aformat=channel_layouts=stereo"_s << false << sine;
         // A quarter of the sample rate at 45 degrees: every sample is 3 dB below the waveform's
-        // crests, which only the oversampled peak finds.
+        // crests, which only the oversampled peak finds. Faded in and out, because a tone that
+        // starts on a crest rings differently through every oversampling filter.
         QTest::newRow("peaks between the samples")
-            << u"f.wav"_s << u"aformat=channel_layouts=stereo"_s << false
-            << u"aevalsrc=0.5*sin(2*PI*11025*t+PI/4):s=44100:d=6"_s;
+            << u"f.wav"_s << u"afade=t=in:d=0.5,afade=t=out:st=5.5:d=0.5"_s << false
+            << u"aevalsrc=0.5*sin(2*PI*11025*t+PI/4)|0.5*sin(2*PI*11025*t+PI/4):s=44100:d=6"_s;
     }
     void measuresAsFfmpeg() {
         QFETCH(QString, name);
@@ -98,6 +100,40 @@ private Q_SLOTS:
         QVERIFY2(std::abs(*album - gatedMean) <= 0.02,
                  qPrintable(u"%1 vs %2"_s.arg(*album).arg(gatedMean)));
         QVERIFY(!HVLoudness::albumLoudness({}));
+    }
+
+    // Tones of amplitude 0.5 whose crests mostly fall between the samples, faded in and out,
+    // fed in awkward pieces: the peak is the crest within 0.05 dB from the bass to the top of
+    // the band, at each oversampling factor, and never below the sample peak.
+    void truePeakFindsTheCrest_data() {
+        QTest::addColumn<int>("rate");
+        QTest::addColumn<double>("frequency");
+        for (const int rate : {44100, 48000, 96000})
+            // Off a simple ratio near the top, so the crests drift across the oversampled
+            // points (at 0.45 exactly they would keep missing the same crest by 0.1 dB).
+            for (const double frequency : {997.0, rate / 4.0, rate * 0.45 - 11.1})
+                QTest::addRow("%d Hz at %d", int(frequency), rate) << rate << frequency;
+        QTest::newRow("192 kHz, the samples themselves") << 192000 << 1000.0;
+    }
+    void truePeakFindsTheCrest() {
+        QFETCH(int, rate);
+        QFETCH(double, frequency);
+        const std::size_t frames = std::size_t(rate) / 2;
+        std::vector<float> samples(frames * 2);
+        float samplePeak = 0;
+        for (std::size_t i = 0; i < frames; ++i) {
+            const double fade = std::min(1.0, double(std::min(i, frames - 1 - i)) / 2000.0);
+            const double t = double(i) / rate;
+            samples[2 * i] = float(0.5 * fade * std::sin(2 * M_PI * frequency * t + M_PI / 4));
+            samples[2 * i + 1] = -samples[2 * i];
+            samplePeak = std::max(samplePeak, std::abs(samples[2 * i]));
+        }
+        HVTruePeak meter(2, rate);
+        for (std::size_t done = 0, piece = 1; done < frames; done += piece, piece = piece * 3 + 1)
+            meter.add(samples.data() + 2 * done, std::min(piece, frames - done));
+        const double peak = meter.finish();
+        QVERIFY2(std::abs(decibels(peak / 0.5)) <= 0.05, qPrintable(QString::number(peak)));
+        QVERIFY(peak >= samplePeak);
     }
 
     void silenceHasNoLoudness() {
