@@ -15,12 +15,8 @@ find "$dir" -name '*.gcda' -delete
 
 scratch="$(mktemp -d "${TMPDIR:-/tmp}/sonoria-coverage.XXXXXX")"
 trap 'rm -rf "$scratch"' EXIT
-mkdir -p "$scratch/home"
 status=0
-env -u XDG_MUSIC_DIR -u XDG_VIDEOS_DIR -u XDG_DOCUMENTS_DIR HOME="$scratch/home" \
-    XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share" \
-    XDG_STATE_HOME="$scratch/home/.local/state" XDG_CACHE_HOME="$scratch/home/.cache" \
-    ctest --test-dir "$dir" --output-on-failure --timeout 900 -j 2 || status=1
+"$root/scripts/ctest-home.sh" "$dir" "$scratch/home" || status=1
 
 # lcov, without the warnings about redefined subroutines that Debian's geninfo prints each time.
 quiet_lcov() {

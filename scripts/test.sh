@@ -53,14 +53,6 @@ real_home="$(getent passwd "$(id -u)" | cut -d: -f6)"
 homes=("$real_home")
 if [ -n "${HOME:-}" ] && [ "$HOME" != "$real_home" ]; then homes+=("$HOME"); fi
 
-# Used for the test runs only: the builds keep the user's home and so their compiler cache.
-test_environment=(
-    HOME="$scratch/home"
-    XDG_CONFIG_HOME="$scratch/home/.config" XDG_DATA_HOME="$scratch/home/.local/share"
-    XDG_STATE_HOME="$scratch/home/.local/state" XDG_CACHE_HOME="$scratch/home/.cache"
-)
-mkdir -p "$scratch/home" "$scratch/user"
-
 status=0
 run_suite() {
     local name="$1"; shift
@@ -75,10 +67,9 @@ run_suite() {
     echo "== $name: testing"
     # Around the tests only: a build may write the compiler cache into the home.
     home_snapshot "${homes[@]}" > "$scratch/home-before"
-    if ! env -u XDG_MUSIC_DIR -u XDG_VIDEOS_DIR -u XDG_DOCUMENTS_DIR "${test_environment[@]}" \
-        ctest --test-dir "$dir" --output-on-failure --timeout 900 -j 2; then
-        status=1
-    fi
+    # The temporary home is for the tests only: the builds keep the user's home and so their
+    # compiler cache.
+    "$root/scripts/ctest-home.sh" "$dir" "$scratch/home" || status=1
     home_snapshot "${homes[@]}" > "$scratch/home-after"
     local written
     written="$(comm -13 "$scratch/home-before" "$scratch/home-after")"

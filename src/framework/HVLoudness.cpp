@@ -58,12 +58,13 @@ std::optional<HVLoudnessMeasurement> HVLoudness::measure(const QString& path, bo
         ebur128_init(unsigned(channels), unsigned(reader.sampleRate()), EBUR128_MODE_I),
         [](void* state) { destroyMeter(state); });
     auto* state = static_cast<ebur128_state*>(meter.get());
-    HVTruePeak truePeak(channels, reader.sampleRate());
-    if (!state || !truePeak.isValid()) {
+    // libebur128 refuses a stream without channels or with a rate it cannot filter.
+    if (!state) {
         if (error)
             *error = QCoreApplication::translate("HVLoudness", "its loudness cannot be measured");
         return std::nullopt;
     }
+    HVTruePeak truePeak(channels, reader.sampleRate());
     int fronts = 0;
     int surrounds = 0;
     for (int i = 0; i < channels; ++i)

@@ -17,7 +17,6 @@ class HVTruePeak {
 public:
     HVTruePeak(int channels, int sampleRate);
 
-    bool isValid() const { return m_channels > 0; }
     void add(const float* samples, std::size_t frames);
     // Linear, 1.0 = full scale, the largest over all channels; flushes the filter's tail, so the
     // stream ends here.
