@@ -44,19 +44,155 @@ QStringList treeWithIdentity(const QString& dir, bool identity = true) {
 class TestOutputNaming : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void patternAndMirrorMakeTheTreeAndASecondRunSkipsIt();
-    void itemsOfOneRunNeverShareANameNorCountAsEachOthersResult();
-    void keepBothNumbersAndReplaceSwapsOnlyOurOwnOutputs();
-    void replaceKeepsTheOldOutputWhenTheConversionFails();
+    void initTestCase() {
+        QVERIFY(m_sources.isValid() && m_outputs.isValid());
+        for (const QString& folder : {u"Incoming/A"_s, u"Incoming/B/C"_s, u"loose"_s})
+            QVERIFY(QDir().mkpath(in(folder)));
+        QVERIFY(SonoriaTest::makeTone(in(u"Incoming/A/x.flac"_s), 1.0,
+                                      {"-metadata", "artist=Nina", "-metadata", "album=Live",
+                                       "-metadata", "track=1", "-metadata", "title=One"}));
+        QVERIFY(SonoriaTest::makeTone(in(u"Incoming/B/x.flac"_s), 1.0));
+        QVERIFY(SonoriaTest::makeTone(in(u"Incoming/B/C/y.flac"_s), 1.0,
+                                      {"-metadata", "artist=.hidden/dir"}));
+        QVERIFY(SonoriaTest::makeTone(in(u"loose/p.flac"_s), 1.0));
+        QVERIFY(SonoriaTest::makeTone(in(u"loose/q.flac"_s), 1.0));
+    }
+
+    void init() {
+        SXSettings::removeKey(SXSettingsKey::ExistingOutputs);
+        SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+        m_presenter = WorkspaceTestPresenter();
+    }
+
+    // Incoming/A/x.flac and Incoming/B/x.flac land in A/… and B/… below the output folder, named
+    // from their tags; a run over the same outputs converts, renames and writes nothing.
+    void patternAndMirrorMakeTheTreeAndASecondRunSkipsIt() {
+        SXWorkspace workspace;
+        QCOMPARE(setUp(workspace, {in(u"Incoming"_s)}, u"{artist}/{track:02} {title}"_s, true), 3);
+        QCOMPARE(SXSettingPanelActions::namePreview(workspace.store()), u"A/Nina/01 One.mp3"_s);
+        const QString folder = out(u"mirrored"_s);
+        QVERIFY(runInto(workspace, folder));
+        const QStringList tree{
+            u"A"_s,
+            u"A/Nina"_s,
+            u"A/Nina/01 One.mp3"_s,
+            u"B"_s,
+            u"B/C"_s,
+            u"B/C/_hidden_dir"_s,
+            u"B/C/_hidden_dir/Unknown Track y.mp3"_s,
+            u"B/Unknown Artist"_s,
+            u"B/Unknown Artist/Unknown Track x.mp3"_s,
+        };
+        QCOMPARE(treeWithIdentity(folder, false), tree);
+        const QStringList before = treeWithIdentity(folder);
+
+        QSignalSpy done(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
+        QVERIFY(runInto(workspace, folder));
+        QCOMPARE(treeWithIdentity(folder), before);
+        QTRY_COMPARE(done.size(), 3);
+        for (const QList<QVariant>& finished : std::as_const(done)) {
+            const auto item = finished.at(0).value<SXMusicInfoPtr>();
+            QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFinished));
+            QVERIFY(item->mediaInfo()->alreadyConverted());
+            // The row says so: its state and its tool tip.
+            QCOMPARE(SXItemRowLookRules::rowLook(workspace.store(), item, false, false, true)
+                         .state.toolTip,
+                     u"already converted"_s);
+            QVERIFY(SXFailureTexts::rowToolTip(*item).contains(u"Already converted"_s));
+            QVERIFY(before.join(u'\n').contains(
+                QDir(folder).relativeFilePath(finished.at(1).toString())));
+        }
+    }
+
+    // Two items planning the same name: the second is numbered, and on the next run the first
+    // one's output is not taken for the second one's result.
+    void itemsOfOneRunNeverShareANameNorCountAsEachOthersResult() {
+        SXWorkspace workspace;
+        QCOMPARE(
+            setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{album}"_s, false),
+            2);
+        const QString folder = out(u"shared"_s);
+        QVERIFY(runInto(workspace, folder));
+        QCOMPARE(treeWithIdentity(folder, false),
+                 (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
+        QVERIFY(runInto(workspace, folder));
+        QCOMPARE(treeWithIdentity(folder, false),
+                 (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album(2).mp3"_s,
+                              u"Unknown Album.mp3"_s}));
+        const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
+        QVERIFY(items.first()->mediaInfo()->alreadyConverted());
+        QVERIFY(!items.last()->mediaInfo()->alreadyConverted());
+    }
+
+    void keepBothNumbersAndReplaceSwapsOnlyOurOwnOutputs() {
+        SXWorkspace workspace;
+        QCOMPARE(setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{filename}"_s,
+                       false),
+                 2);
+        const QString folder = out(u"both"_s);
+        // q.mp3 is the user's own file (whole audio, newer than the source): never ours to replace.
+        QVERIFY(QDir().mkpath(folder) && SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
+        const QByteArray users = SonoriaTest::readFile(folder + u"/q.mp3"_s);
+        SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
+        QVERIFY(runInto(workspace, folder));
+        QVERIFY(runInto(workspace, folder));
+        QCOMPARE(
+            treeWithIdentity(folder, false),
+            (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s, u"q.mp3"_s}));
+
+        SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
+        const QStringList before = treeWithIdentity(folder);
+        QVERIFY(runInto(workspace, folder));
+        const QStringList after = treeWithIdentity(folder);
+        // p.mp3 got a new file under its name; the user's q.mp3 stayed, and q's output went to the
+        // next free name.
+        QCOMPARE(treeWithIdentity(folder, false),
+                 (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s,
+                              u"q(3).mp3"_s, u"q.mp3"_s}));
+        QVERIFY(!after.contains(before.filter(u"p.mp3 "_s).first()));
+        QVERIFY(after.contains(before.filter(u"p(1).mp3 "_s).first()));
+        QCOMPARE(SonoriaTest::readFile(folder + u"/q.mp3"_s), users);
+        QCOMPARE(workspace.store().getDataForFormat(u"MP3"_s).first()->mediaInfo()->eumCvtState(),
+                 int(CvtStateFinished));
+    }
+
+    // The new output is whole before it takes the old one's name: when the conversion fails the old
+    // output is still there byte for byte, and a folder made for a failed output is gone again.
+    void replaceKeepsTheOldOutputWhenTheConversionFails() {
+        QTemporaryDir sources;
+        const QString good = sources.filePath(u"r.flac"_s);
+        const QString deep = sources.filePath(u"tree/Deep/z.flac"_s);
+        QVERIFY(QDir().mkpath(QFileInfo(deep).path()));
+        QVERIFY(SonoriaTest::makeTone(good, 1.0) && SonoriaTest::makeTone(deep, 1.0));
+        SXWorkspace workspace;
+        QCOMPARE(setUp(workspace, {good}, u"{filename}"_s, true), 1);
+        const QString folder = out(u"replace"_s);
+        QVERIFY(runInto(workspace, folder));
+        const QByteArray old = SonoriaTest::readFile(folder + u"/r.mp3"_s);
+        QVERIFY(!old.isEmpty());
+
+        QVERIFY(addFiles(workspace, {sources.filePath(u"tree"_s)}));
+        // Both sources now promise audio and hold none.
+        QVERIFY(SonoriaTest::cutFlacAfterMetadata(good) && SonoriaTest::cutFlacAfterMetadata(deep));
+        SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
+        QVERIFY(runInto(workspace, folder));
+        for (const SXMusicInfoPtr& item : workspace.store().getDataForFormat(u"MP3"_s))
+            QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFailed));
+        QCOMPARE(treeWithIdentity(folder, false), QStringList{u"r.mp3"_s});
+        QCOMPARE(SonoriaTest::readFile(folder + u"/r.mp3"_s), old);
+    }
 
 private:
     // A workspace whose MP3 container holds what `paths` add, named by `pattern`; the number of
     // items, or -1.
     int setUp(SXWorkspace& workspace, const QStringList& paths, const QString& pattern,
               bool mirror);
-    bool runInto(SXWorkspace& workspace, const QString& folder);
+    bool runInto(SXWorkspace& workspace, const QString& folder) {
+        QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+        workspace.scheduler().doRealConverterTask(folder);
+        return finished.wait(kRunTimeoutMs);
+    }
+
     QString in(const QString& name) const { return m_sources.filePath(name); }
     QString out(const QString& name) const { return m_outputs.filePath(name); }
 
@@ -64,26 +200,6 @@ private:
     QTemporaryDir m_outputs;
     WorkspaceTestPresenter m_presenter;
 };
-
-void TestOutputNaming::initTestCase() {
-    QVERIFY(m_sources.isValid() && m_outputs.isValid());
-    for (const QString& folder : {u"Incoming/A"_s, u"Incoming/B/C"_s, u"loose"_s})
-        QVERIFY(QDir().mkpath(in(folder)));
-    QVERIFY(SonoriaTest::makeTone(in(u"Incoming/A/x.flac"_s), 1.0,
-                                  {"-metadata", "artist=Nina", "-metadata", "album=Live",
-                                   "-metadata", "track=1", "-metadata", "title=One"}));
-    QVERIFY(SonoriaTest::makeTone(in(u"Incoming/B/x.flac"_s), 1.0));
-    QVERIFY(SonoriaTest::makeTone(in(u"Incoming/B/C/y.flac"_s), 1.0,
-                                  {"-metadata", "artist=.hidden/dir"}));
-    QVERIFY(SonoriaTest::makeTone(in(u"loose/p.flac"_s), 1.0));
-    QVERIFY(SonoriaTest::makeTone(in(u"loose/q.flac"_s), 1.0));
-}
-
-void TestOutputNaming::init() {
-    SXSettings::removeKey(SXSettingsKey::ExistingOutputs);
-    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
-    m_presenter = WorkspaceTestPresenter();
-}
 
 int TestOutputNaming::setUp(SXWorkspace& workspace, const QStringList& paths,
                             const QString& pattern, bool mirror) {
@@ -96,128 +212,6 @@ int TestOutputNaming::setUp(SXWorkspace& workspace, const QStringList& paths,
         return -1;
     workspace.scheduler().setOrganizeByFormat(false);
     return int(workspace.store().getDataForFormat(u"MP3"_s).size());
-}
-
-bool TestOutputNaming::runInto(SXWorkspace& workspace, const QString& folder) {
-    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
-    workspace.scheduler().doRealConverterTask(folder);
-    return finished.wait(kRunTimeoutMs);
-}
-
-// Incoming/A/x.flac and Incoming/B/x.flac land in A/… and B/… below the output folder, named
-// from their tags; a run over the same outputs converts, renames and writes nothing.
-void TestOutputNaming::patternAndMirrorMakeTheTreeAndASecondRunSkipsIt() {
-    SXWorkspace workspace;
-    QCOMPARE(setUp(workspace, {in(u"Incoming"_s)}, u"{artist}/{track:02} {title}"_s, true), 3);
-    QCOMPARE(SXSettingPanelActions::namePreview(workspace.store()), u"A/Nina/01 One.mp3"_s);
-    const QString folder = out(u"mirrored"_s);
-    QVERIFY(runInto(workspace, folder));
-    const QStringList tree{
-        u"A"_s,
-        u"A/Nina"_s,
-        u"A/Nina/01 One.mp3"_s,
-        u"B"_s,
-        u"B/C"_s,
-        u"B/C/_hidden_dir"_s,
-        u"B/C/_hidden_dir/Unknown Track y.mp3"_s,
-        u"B/Unknown Artist"_s,
-        u"B/Unknown Artist/Unknown Track x.mp3"_s,
-    };
-    QCOMPARE(treeWithIdentity(folder, false), tree);
-    const QStringList before = treeWithIdentity(folder);
-
-    QSignalSpy done(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
-    QVERIFY(runInto(workspace, folder));
-    QCOMPARE(treeWithIdentity(folder), before);
-    QTRY_COMPARE(done.size(), 3);
-    for (const QList<QVariant>& finished : std::as_const(done)) {
-        const auto item = finished.at(0).value<SXMusicInfoPtr>();
-        QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFinished));
-        QVERIFY(item->mediaInfo()->alreadyConverted());
-        // The row says so: its state and its tool tip.
-        QCOMPARE(
-            SXItemRowLookRules::rowLook(workspace.store(), item, false, false, true).state.toolTip,
-            u"already converted"_s);
-        QVERIFY(SXFailureTexts::rowToolTip(*item).contains(u"Already converted"_s));
-        QVERIFY(
-            before.join(u'\n').contains(QDir(folder).relativeFilePath(finished.at(1).toString())));
-    }
-}
-
-// Two items planning the same name: the second is numbered, and on the next run the first
-// one's output is not taken for the second one's result.
-void TestOutputNaming::itemsOfOneRunNeverShareANameNorCountAsEachOthersResult() {
-    SXWorkspace workspace;
-    QCOMPARE(setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{album}"_s, false),
-             2);
-    const QString folder = out(u"shared"_s);
-    QVERIFY(runInto(workspace, folder));
-    QCOMPARE(treeWithIdentity(folder, false),
-             (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
-    QVERIFY(runInto(workspace, folder));
-    QCOMPARE(treeWithIdentity(folder, false),
-             (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album(2).mp3"_s,
-                          u"Unknown Album.mp3"_s}));
-    const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
-    QVERIFY(items.first()->mediaInfo()->alreadyConverted());
-    QVERIFY(!items.last()->mediaInfo()->alreadyConverted());
-}
-
-void TestOutputNaming::keepBothNumbersAndReplaceSwapsOnlyOurOwnOutputs() {
-    SXWorkspace workspace;
-    QCOMPARE(
-        setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{filename}"_s, false),
-        2);
-    const QString folder = out(u"both"_s);
-    // q.mp3 is the user's own file (whole audio, newer than the source): never ours to replace.
-    QVERIFY(QDir().mkpath(folder) && SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
-    const QByteArray users = SonoriaTest::readFile(folder + u"/q.mp3"_s);
-    SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
-    QVERIFY(runInto(workspace, folder));
-    QVERIFY(runInto(workspace, folder));
-    QCOMPARE(treeWithIdentity(folder, false),
-             (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s, u"q.mp3"_s}));
-
-    SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
-    const QStringList before = treeWithIdentity(folder);
-    QVERIFY(runInto(workspace, folder));
-    const QStringList after = treeWithIdentity(folder);
-    // p.mp3 got a new file under its name; the user's q.mp3 stayed, and q's output went to the
-    // next free name.
-    QCOMPARE(treeWithIdentity(folder, false),
-             (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s, u"q(3).mp3"_s,
-                          u"q.mp3"_s}));
-    QVERIFY(!after.contains(before.filter(u"p.mp3 "_s).first()));
-    QVERIFY(after.contains(before.filter(u"p(1).mp3 "_s).first()));
-    QCOMPARE(SonoriaTest::readFile(folder + u"/q.mp3"_s), users);
-    QCOMPARE(workspace.store().getDataForFormat(u"MP3"_s).first()->mediaInfo()->eumCvtState(),
-             int(CvtStateFinished));
-}
-
-// The new output is whole before it takes the old one's name: when the conversion fails the old
-// output is still there byte for byte, and a folder made for a failed output is gone again.
-void TestOutputNaming::replaceKeepsTheOldOutputWhenTheConversionFails() {
-    QTemporaryDir sources;
-    const QString good = sources.filePath(u"r.flac"_s);
-    const QString deep = sources.filePath(u"tree/Deep/z.flac"_s);
-    QVERIFY(QDir().mkpath(QFileInfo(deep).path()));
-    QVERIFY(SonoriaTest::makeTone(good, 1.0) && SonoriaTest::makeTone(deep, 1.0));
-    SXWorkspace workspace;
-    QCOMPARE(setUp(workspace, {good}, u"{filename}"_s, true), 1);
-    const QString folder = out(u"replace"_s);
-    QVERIFY(runInto(workspace, folder));
-    const QByteArray old = SonoriaTest::readFile(folder + u"/r.mp3"_s);
-    QVERIFY(!old.isEmpty());
-
-    QVERIFY(addFiles(workspace, {sources.filePath(u"tree"_s)}));
-    // Both sources now promise audio and hold none.
-    QVERIFY(SonoriaTest::cutFlacAfterMetadata(good) && SonoriaTest::cutFlacAfterMetadata(deep));
-    SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
-    QVERIFY(runInto(workspace, folder));
-    for (const SXMusicInfoPtr& item : workspace.store().getDataForFormat(u"MP3"_s))
-        QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFailed));
-    QCOMPARE(treeWithIdentity(folder, false), QStringList{u"r.mp3"_s});
-    QCOMPARE(SonoriaTest::readFile(folder + u"/r.mp3"_s), old);
 }
 
 SONORIA_TEST_MAIN(TestOutputNaming)

@@ -17,24 +17,6 @@
 
 using namespace Qt::StringLiterals;
 
-// The decisions a workspace window only shows: which commands are enabled in which state, the
-// chooser's result, the help bar and the state strip.
-class TestWindowDecisions : public QObject {
-    Q_OBJECT
-private Q_SLOTS:
-    void menuCommandsFollowTheState_data();
-    void menuCommandsFollowTheState();
-    void toolbarFollowsTheRun();
-    void rowMenuFollowsTheRowAndTheRun_data();
-    void rowMenuFollowsTheRowAndTheRun();
-    void chooserResultSharesListsAndKeepsNoLibrary();
-    void helpBarSumsEveryContainer();
-    void stripBarNeverGoesBackAndNamesThePreview();
-    void containersAndChoicesSurviveARestart();
-    void showInFilesAndACancelledStartCreateNothing_data();
-    void showInFilesAndACancelledStartCreateNothing();
-};
-
 namespace {
 
 // Every command of the menus, in SXCommand's order, by the name the tables use.
@@ -74,339 +56,348 @@ SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
 
 } // namespace
 
-void TestWindowDecisions::menuCommandsFollowTheState_data() {
-    QTest::addColumn<int>("state");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<bool>("selected");
-    QTest::addColumn<QString>("format");
-    QTest::addColumn<bool>("primaryOpen");
-    QTest::addColumn<bool>("primaryIsKey");
-    QTest::addColumn<QStringList>("enabled");
-    QTest::addColumn<QStringList>("beeping");
-    QTest::addColumn<QStringList>("refused"); // by the dispatcher, with a beep
+// The decisions a workspace window only shows: which commands are enabled in which state, the
+// chooser's result, the help bar and the state strip.
+class TestWindowDecisions : public QObject {
+    Q_OBJECT
+private Q_SLOTS:
+    void menuCommandsFollowTheState_data() {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<int>("count");
+        QTest::addColumn<bool>("selected");
+        QTest::addColumn<QString>("format");
+        QTest::addColumn<bool>("primaryOpen");
+        QTest::addColumn<bool>("primaryIsKey");
+        QTest::addColumn<QStringList>("enabled");
+        QTest::addColumn<QStringList>("beeping");
+        QTest::addColumn<QStringList>("refused"); // by the dispatcher, with a beep
 
-    const QStringList always{u"Quit"_s, u"Help"_s};
-    const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
-                              u"Stop"_s};
-    QTest::newRow("idle, empty fixed container")
-        << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
-        << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always << QStringList{u"CloseTab"_s}
-        << QStringList();
-    const QStringList withItems{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
-                                u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s};
-    QTest::newRow("idle, items, nothing selected, closable container")
-        << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
-        << withItems + neutral + always << QStringList() << QStringList();
-    QTest::newRow("adding files, items")
-        << int(AppStateLoading) << 1 << false << u"FLAC"_s << true << true
-        << withItems + neutral + always << QStringList() << QStringList();
-    QTest::newRow("playing, a row selected, primary not key")
-        << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
-        << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
-                       u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
-               neutral + always
-        << QStringList{u"CloseTab"_s} << QStringList{u"NewFormat"_s};
-    QTest::newRow("converting: only Stop")
-        << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
-        << QStringList{u"Stop"_s} + always << QStringList() << QStringList();
-    QTest::newRow("primary window closed: New Container only")
-        << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
-        << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s}
-        << QStringList{u"NewFormat"_s};
-}
-
-void TestWindowDecisions::menuCommandsFollowTheState() {
-    QFETCH(int, state);
-    QFETCH(int, count);
-    QFETCH(bool, selected);
-    QFETCH(QString, format);
-    QFETCH(bool, primaryOpen);
-    QFETCH(bool, primaryIsKey);
-    QFETCH(QStringList, enabled);
-    QFETCH(QStringList, beeping);
-    QFETCH(QStringList, refused);
-    SXCommandContext context;
-    context.state = state;
-    context.count = count;
-    context.hasKeyWorkspace = true;
-    context.keyHasSelection = selected;
-    context.keySelectedFormat = format;
-    context.primaryOpen = primaryOpen;
-    context.primaryIsKey = primaryIsKey;
-    const CommandAnswers got = answersFor(context);
-    enabled.sort();
-    QCOMPARE(got.enabled, enabled);
-    QCOMPARE(got.beeping, beeping);
-    QCOMPARE(got.refused, refused);
-    // The Delete and Clear buttons answer as their menu items do.
-    QCOMPARE(sxRemoveButtonsEnabled(state, count), got.enabled.contains(u"Delete"_s));
-}
-
-void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun_data() {
-    QTest::addColumn<int>("state");
-    QTest::addColumn<double>("progress");
-    QTest::addColumn<bool>("previewing");
-    QTest::addColumn<bool>("paused");
-    QTest::addColumn<QString>("menu"); // entries in order, "-" before a disabled one
-    const QString rest = u" EditTags FileInfo ShowInFiles Remove"_s;
-    QTest::newRow("idle") << int(AppStateIdle) << SXProgress::Waiting << false << false
-                          << u"Play"_s + rest;
-    QTest::newRow("this row plays")
-        << int(AppStatePlaying) << 0.0 << true << false << u"Pause"_s + rest;
-    QTest::newRow("this row paused")
-        << int(AppStatePlaying) << 0.0 << true << true << u"Resume"_s + rest;
-    QTest::newRow("another row plays")
-        << int(AppStatePlaying) << 0.0 << false << false << u"Play"_s + rest;
-    QTest::newRow("adding files") << int(AppStateLoading) << 0.0 << false << false
-                                  << u"-Play -EditTags -FileInfo ShowInFiles -Remove"_s;
-    QTest::newRow("run, waiting") << int(AppStateConverting) << SXProgress::Waiting << false
-                                  << false << u"CancelConversion ShowInFiles"_s;
-    QTest::newRow("run, converting")
-        << int(AppStateConverting) << 42.0 << false << false << u"CancelConversion ShowInFiles"_s;
-    for (double ended : {SXProgress::Done, SXProgress::Failed, SXProgress::Canceled})
-        QTest::addRow("run, ended %g", ended) << int(AppStateConverting) << ended << false << false
-                                              << u"-CancelConversion ShowInFiles"_s;
-}
-
-void TestWindowDecisions::rowMenuFollowsTheRowAndTheRun() {
-    QFETCH(int, state);
-    QFETCH(double, progress);
-    QFETCH(bool, previewing);
-    QFETCH(bool, paused);
-    QFETCH(QString, menu);
-    // In SXRowCommand's order.
-    static const QStringList names =
-        u"Play Pause Resume EditTags FileInfo ShowInFiles Remove CancelConversion"_s.split(u' ');
-    QStringList got;
-    for (const SXRowMenuEntry& entry : sxRowMenu({state, progress, previewing, paused}))
-        got.append((entry.enabled ? u""_s : u"-"_s) + names.value(int(entry.command)));
-    QCOMPARE(got.join(u' '), menu);
-}
-
-void TestWindowDecisions::toolbarFollowsTheRun() {
-    // Start needs an item anywhere in the window; the editors need a selected row; a run
-    // leaves Start (reading Stop) alone enabled.
-    QVERIFY(!sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 0, false));
-    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 1, false));
-    QVERIFY(!sxValidateToolbarCommand(SXCommand::TagEditor, AppStateIdle, 1, false));
-    QVERIFY(sxValidateToolbarCommand(SXCommand::FileInfo, AppStatePlaying, 1, true));
-    QVERIFY(sxValidateToolbarCommand(SXCommand::Help, AppStateIdle, 0, false));
-    QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateConverting, 4, true));
-    for (SXCommand other :
-         {SXCommand::TagEditor, SXCommand::FileInfo, SXCommand::Preferences, SXCommand::Help})
-        QVERIFY(!sxValidateToolbarCommand(other, AppStateConverting, 4, true));
-    const SXToolbarLook stop = sxStartToolbarLook(AppStateConverting);
-    QCOMPARE((QStringList{stop.image, stop.label, stop.toolTip}),
-             (QStringList{u"stopConvert"_s, u"Stop"_s, u"Stop convert all files"_s}));
-    const SXToolbarLook start = sxStartToolbarLook(AppStateIdle);
-    QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
-             (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
-    QVERIFY(!sxSettingPanelEnabled(AppStateConverting) && sxSettingPanelEnabled(AppStateLoading));
-    // The tab bar adds and closes no container during a run, and never closes a fixed one.
-    QVERIFY(sxTabCloseButtonShown(AppStatePlaying, true) &&
-            !sxTabCloseButtonShown(AppStateIdle, false));
-    QVERIFY(!sxTabCloseButtonShown(AppStateConverting, true));
-    QVERIFY(sxAddContainerButtonShown(AppStateLoading, true) &&
-            !sxAddContainerButtonShown(AppStateConverting, true));
-}
-
-void TestWindowDecisions::chooserResultSharesListsAndKeepsNoLibrary() {
-    SXDataEngine* engine = SXDataEngine::shareInstance();
-    const SXFormatSettingPtr flac = engine->getFormatWithName(u"FLAC"_s);
-    const SXFormatSettingPtr wav = engine->getFormatWithName(u"WAV"_s);
-    QVERIFY(flac && wav);
-    const SXFormatChooser chooser({flac, wav});
-    QCOMPARE(chooser.formatNames(), (QStringList{u"FLAC"_s, u"WAV"_s}));
-
-    const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
-    QCOMPARE(shown.bitRates, flac->aryBiteRate());
-    QCOMPARE(shown.sampleRate, flac->sampleRate());
-    QCOMPARE(shown.libraryVisible, flac->enumAddToLibrary() != -1);
-
-    const QString rate = flac->arySampleRate().last();
-    const SXFormatSettingPtr result = chooser.getFormatSettingResult(
-        {u"FLAC"_s, rate, flac->aryBiteRate().first(), flac->aryChannels().first(), true});
-    QVERIFY(result && result != flac);
-    QCOMPARE(result->sampleRate(), rate);
-    QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
-    result->setFmtName(u"changed"_s);
-    QCOMPARE(flac->fmtName(), u"FLAC"_s);
-    QCOMPARE(result->enumAddToLibrary(), flac->enumAddToLibrary() == -1 ? -1 : 1);
-
-    // A format without the library option keeps -1 whatever the hidden box says.
-    flac->setEnumAddToLibrary(-1);
-    const SXFormatSettingPtr none = chooser.getFormatSettingResult(
-        {u"FLAC"_s, flac->sampleRate(), flac->bitRate(), flac->channels(), true});
-    QCOMPARE(none->enumAddToLibrary(), -1);
-    QVERIFY(!chooser.changeFormatSelect(u"FLAC"_s).libraryVisible);
-    QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
-}
-
-void TestWindowDecisions::helpBarSumsEveryContainer() {
-    // The hours and the size are written as the locale writes numbers.
-    QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
-    SXWorkspace workspace;
-    workspace.store().setData({}, u"AAC"_s);
-    workspace.store().setData({}, u"MP3"_s);
-    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()), QString());
-    workspace.store().setData({itemOf(u"/x/1.wav"_s, 360, 1048576),
-                               itemOf(u"/x/2.wav"_s, 360, 1048576),
-                               itemOf(u"/x/3.wav"_s, 360, 1048576)},
-                              u"MP3"_s);
-    QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()),
-             u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
-    QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
-    QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
-}
-
-void TestWindowDecisions::stripBarNeverGoesBackAndNamesThePreview() {
-    SXStateStripModel strip;
-    QVERIFY(!strip.updateConverterProgress(10)); // hidden while idle: dropped
-    strip.updateForAppState(AppStateConverting, nullptr);
-    QCOMPARE(strip.look().name, u"Converting..."_s);
-    QVERIFY(strip.updateConverterProgress(40));
-    QVERIFY(!strip.updateConverterProgress(35));
-    // No number (a run over no items once gave 0/0) never reaches the bar's integer.
-    QVERIFY(!strip.updateConverterProgress(qQNaN()));
-    QVERIFY(!strip.updateConverterProgress(qInf()));
-    QCOMPARE(strip.look().progress, 40.0);
-    QVERIFY(strip.updateConverterProgress(250));
-    QCOMPARE(strip.look().progress, 100.0);
-    strip.updateForAppState(AppStateIdle, nullptr);
-    QVERIFY(!strip.look().progressShown && strip.look().progress == 0);
-
-    // An untagged item is named by its file; progress of another item is ignored.
-    const SXMusicInfoPtr song = itemOf(u"/x/My Song.flac"_s, 125, 1);
-    strip.updateForAppState(AppStatePlaying, song);
-    QCOMPARE(strip.look().name, u"My Song"_s);
-    QCOMPARE(strip.look().musicTime, u"-00:02:05"_s);
-    QVERIFY(!strip.musicPlayingProgress(itemOf(u"/x/other.flac"_s, 10, 1), 3));
-    QVERIFY(strip.musicPlayingProgress(song, 25));
-    QCOMPARE(strip.look().slider, 20.0);
-    // Loading while previewing hides only the slider.
-    strip.updateForAppState(AppStateLoading, nullptr);
-    QVERIFY(!strip.look().sliderShown && strip.look().nameShown);
-    QCOMPARE(strip.playingMusic(), song);
-}
-
-// The primary window's containers and every container's choices come back in a new workspace
-// that reads them from the settings file; a workspace that does not remember starts from the
-// catalogue, and a stored choice the format no longer offers is ignored.
-void TestWindowDecisions::containersAndChoicesSurviveARestart() {
-    const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
-    const SXFormatSettingPtr catalogueMp3 =
-        SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
-    const QStringList vorbisRates =
-        SXDataEngine::shareInstance()->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
-    QVERIFY(vorbisRates.size() > 1);
-    QStringList expected = fixed;
-    {
-        SXWorkspace first;
-        first.tabs().setRemembersContainers(true);
-        first.tabs().addDefaultTabs();
-        QCOMPARE(first.store().tabLabels(), fixed);
-        for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
-            first.tabs().addContainerWithFormat(
-                SXDataEngine::shareInstance()->getFormatWithName(name));
-        QVERIFY(first.tabs().selectContainer(u"WAV"_s) && first.tabs().closeTab());
-        expected << u"Ogg Vorbis"_s << u"FLAC"_s;
-        QCOMPARE(first.store().tabLabels(), expected);
-
-        QVERIFY(first.tabs().selectContainer(u"MP3"_s));
-        SXSettingPanelActions::setBitRate(first.store(), catalogueMp3->aryBiteRate().first());
-        SXSettingPanelActions::setSampleRate(first.store(), catalogueMp3->arySampleRate().last());
-        SXSettingPanelActions::setChannels(first.store(), catalogueMp3->aryChannels().last());
-        QVERIFY(first.tabs().selectContainer(u"FLAC"_s));
-        SXSettingPanelActions::setChannels(first.store(), u"Mono"_s);
-        // A name with a blank, which must not become a group of the settings file.
-        QVERIFY(first.tabs().selectContainer(u"Ogg Vorbis"_s));
-        SXSettingPanelActions::setBitRate(first.store(), vorbisRates.first());
+        const QStringList always{u"Quit"_s, u"Help"_s};
+        const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
+                                  u"Stop"_s};
+        QTest::newRow("idle, empty fixed container")
+            << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
+            << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always
+            << QStringList{u"CloseTab"_s} << QStringList();
+        const QStringList withItems{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
+                                    u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s};
+        QTest::newRow("idle, items, nothing selected, closable container")
+            << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
+            << withItems + neutral + always << QStringList() << QStringList();
+        QTest::newRow("adding files, items")
+            << int(AppStateLoading) << 1 << false << u"FLAC"_s << true << true
+            << withItems + neutral + always << QStringList() << QStringList();
+        QTest::newRow("playing, a row selected, primary not key")
+            << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
+            << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
+                           u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
+                   neutral + always
+            << QStringList{u"CloseTab"_s} << QStringList{u"NewFormat"_s};
+        QTest::newRow("converting: only Stop")
+            << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
+            << QStringList{u"Stop"_s} + always << QStringList() << QStringList();
+        QTest::newRow("primary window closed: New Container only")
+            << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
+            << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s}
+            << QStringList{u"NewFormat"_s};
     }
-    // On disk, where the next process reads it (this one shares Qt's parsed copy).
-    const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
-    QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome()));
-    QVERIFY(onDisk.value(u"SXContainers"_s).toString().contains(u"FLAC"_s));
 
-    SXWorkspace second;
-    second.tabs().setRemembersContainers(true);
-    second.tabs().addDefaultTabs();
-    QCOMPARE(second.store().tabLabels(), expected);
-    const SXFormatSettingPtr mp3 = second.store().getFormatSettingForFormatName(u"MP3"_s);
-    QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
-    QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
-    QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
-    QCOMPARE(second.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
-    QCOMPARE(second.store().getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(),
-             vorbisRates.first());
-    // The catalogue itself is untouched.
-    QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
-             catalogueMp3->bitRate());
-
-    SXWorkspace other;
-    other.tabs().addDefaultTabs();
-    QCOMPARE(other.store().tabLabels(), fixed);
-    QCOMPARE(other.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
-             catalogueMp3->bitRate());
-
-    // Hand-edited or outdated values: an unknown format and a rate nobody offers.
-    SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
-    SXSettings::setValue(u"SXContainerChoices/MP3"_s,
-                         u"{\"bitRate\":\"7\",\"channels\":\"Mono\"}"_s);
-    SXWorkspace third;
-    third.tabs().setRemembersContainers(true);
-    third.tabs().addDefaultTabs();
-    QCOMPARE(third.store().tabLabels(), fixed + QStringList{u"Opus"_s});
-    QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
-             catalogueMp3->bitRate());
-    QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
-}
-
-void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing_data() {
-    QTest::addColumn<bool>("stored");    // an output folder was chosen before
-    QTest::addColumn<bool>("organized"); // output goes to a folder per format
-    QTest::addColumn<bool>("exists");    // that folder is already there
-    QTest::newRow("fresh account") << false << true << false;
-    QTest::newRow("chosen, organised, not yet made") << true << true << false;
-    QTest::newRow("chosen, organised, made") << true << true << true;
-    QTest::newRow("chosen, not organised") << true << false << true;
-}
-
-void TestWindowDecisions::showInFilesAndACancelledStartCreateNothing() {
-    QFETCH(bool, stored);
-    QFETCH(bool, organized);
-    QFETCH(bool, exists);
-    SonoriaTest::TemporaryHome home;
-    QVERIFY(home.isValid());
-    const QString chosen = home.processHome() + u"/Out"_s;
-    const QString base = stored ? chosen : home.processHome() + u"/Music/Sonoria"_s;
-    const QString folder = organized ? base + u"/FLAC"_s : base;
-    SXSettings::removeKey(SXSettingsKey::DefaultOutputPath);
-    SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, organized);
-    if (stored) {
-        SXSettings::setValue(SXSettingsKey::DefaultOutputPath, chosen);
-        QVERIFY(QDir().mkpath(chosen));
+    void menuCommandsFollowTheState() {
+        QFETCH(int, state);
+        QFETCH(int, count);
+        QFETCH(bool, selected);
+        QFETCH(QString, format);
+        QFETCH(bool, primaryOpen);
+        QFETCH(bool, primaryIsKey);
+        QFETCH(QStringList, enabled);
+        QFETCH(QStringList, beeping);
+        QFETCH(QStringList, refused);
+        SXCommandContext context;
+        context.state = state;
+        context.count = count;
+        context.hasKeyWorkspace = true;
+        context.keyHasSelection = selected;
+        context.keySelectedFormat = format;
+        context.primaryOpen = primaryOpen;
+        context.primaryIsKey = primaryIsKey;
+        const CommandAnswers got = answersFor(context);
+        enabled.sort();
+        QCOMPARE(got.enabled, enabled);
+        QCOMPARE(got.beeping, beeping);
+        QCOMPARE(got.refused, refused);
+        // The Delete and Clear buttons answer as their menu items do.
+        QCOMPARE(sxRemoveButtonsEnabled(state, count), got.enabled.contains(u"Delete"_s));
     }
-    if (exists)
-        QVERIFY(QDir().mkpath(folder));
-    const QStringList before = SonoriaTest::filesBelow(home.processHome(), true);
 
-    WorkspaceTestPresenter presenter;
-    SXWorkspace workspace;
-    prepareWorkspace(workspace, &presenter);
-    workspace.tabs().addContainerWithFormat(
-        SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
-    QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), folder);
-    SXSettingPanelActions::revealOutputFolder(workspace.store());
-    // A folder not made yet shows its nearest existing parent.
-    const QString shown = exists ? folder : stored ? chosen : home.processHome();
-    QCOMPARE(presenter.openedFolders, QStringList{shown});
+    void toolbarFollowsTheRun() {
+        // Start needs an item anywhere in the window; the editors need a selected row; a run
+        // leaves Start (reading Stop) alone enabled.
+        QVERIFY(!sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 0, false));
+        QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateIdle, 1, false));
+        QVERIFY(!sxValidateToolbarCommand(SXCommand::TagEditor, AppStateIdle, 1, false));
+        QVERIFY(sxValidateToolbarCommand(SXCommand::FileInfo, AppStatePlaying, 1, true));
+        QVERIFY(sxValidateToolbarCommand(SXCommand::Help, AppStateIdle, 0, false));
+        QVERIFY(sxValidateToolbarCommand(SXCommand::Start, AppStateConverting, 4, true));
+        for (SXCommand other :
+             {SXCommand::TagEditor, SXCommand::FileInfo, SXCommand::Preferences, SXCommand::Help})
+            QVERIFY(!sxValidateToolbarCommand(other, AppStateConverting, 4, true));
+        const SXToolbarLook stop = sxStartToolbarLook(AppStateConverting);
+        QCOMPARE((QStringList{stop.image, stop.label, stop.toolTip}),
+                 (QStringList{u"stopConvert"_s, u"Stop"_s, u"Stop convert all files"_s}));
+        const SXToolbarLook start = sxStartToolbarLook(AppStateIdle);
+        QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
+                 (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
+        QVERIFY(!sxSettingPanelEnabled(AppStateConverting) &&
+                sxSettingPanelEnabled(AppStateLoading));
+        // The tab bar adds and closes no container during a run, and never closes a fixed one.
+        QVERIFY(sxTabCloseButtonShown(AppStatePlaying, true) &&
+                !sxTabCloseButtonShown(AppStateIdle, false));
+        QVERIFY(!sxTabCloseButtonShown(AppStateConverting, true));
+        QVERIFY(sxAddContainerButtonShown(AppStateLoading, true) &&
+                !sxAddContainerButtonShown(AppStateConverting, true));
+    }
 
-    presenter.folderAnswer.reset(); // the Start dialog is cancelled
-    workspace.scheduler().toggleRun();
-    QCOMPARE(presenter.folderRequests.size(), 1);
-    QCOMPARE(presenter.folderRequests.first().startFolder, base);
-    QCOMPARE(SonoriaTest::filesBelow(home.processHome(), true), before);
-}
+    void rowMenuFollowsTheRowAndTheRun_data() {
+        QTest::addColumn<int>("state");
+        QTest::addColumn<double>("progress");
+        QTest::addColumn<bool>("previewing");
+        QTest::addColumn<bool>("paused");
+        QTest::addColumn<QString>("menu"); // entries in order, "-" before a disabled one
+        const QString rest = u" EditTags FileInfo ShowInFiles Remove"_s;
+        QTest::newRow("idle") << int(AppStateIdle) << SXProgress::Waiting << false << false
+                              << u"Play"_s + rest;
+        QTest::newRow("this row plays")
+            << int(AppStatePlaying) << 0.0 << true << false << u"Pause"_s + rest;
+        QTest::newRow("this row paused")
+            << int(AppStatePlaying) << 0.0 << true << true << u"Resume"_s + rest;
+        QTest::newRow("another row plays")
+            << int(AppStatePlaying) << 0.0 << false << false << u"Play"_s + rest;
+        QTest::newRow("adding files") << int(AppStateLoading) << 0.0 << false << false
+                                      << u"-Play -EditTags -FileInfo ShowInFiles -Remove"_s;
+        QTest::newRow("run, waiting") << int(AppStateConverting) << SXProgress::Waiting << false
+                                      << false << u"CancelConversion ShowInFiles"_s;
+        QTest::newRow("run, converting") << int(AppStateConverting) << 42.0 << false << false
+                                         << u"CancelConversion ShowInFiles"_s;
+        for (double ended : {SXProgress::Done, SXProgress::Failed, SXProgress::Canceled})
+            QTest::addRow("run, ended %g", ended) << int(AppStateConverting) << ended << false
+                                                  << false << u"-CancelConversion ShowInFiles"_s;
+    }
+
+    void rowMenuFollowsTheRowAndTheRun() {
+        QFETCH(int, state);
+        QFETCH(double, progress);
+        QFETCH(bool, previewing);
+        QFETCH(bool, paused);
+        QFETCH(QString, menu);
+        // In SXRowCommand's order.
+        static const QStringList names =
+            u"Play Pause Resume EditTags FileInfo ShowInFiles Remove CancelConversion"_s.split(
+                u' ');
+        QStringList got;
+        for (const SXRowMenuEntry& entry : sxRowMenu({state, progress, previewing, paused}))
+            got.append((entry.enabled ? u""_s : u"-"_s) + names.value(int(entry.command)));
+        QCOMPARE(got.join(u' '), menu);
+    }
+
+    void chooserResultSharesListsAndKeepsNoLibrary() {
+        SXDataEngine* engine = SXDataEngine::shareInstance();
+        const SXFormatSettingPtr flac = engine->getFormatWithName(u"FLAC"_s);
+        const SXFormatSettingPtr wav = engine->getFormatWithName(u"WAV"_s);
+        QVERIFY(flac && wav);
+        const SXFormatChooser chooser({flac, wav});
+        QCOMPARE(chooser.formatNames(), (QStringList{u"FLAC"_s, u"WAV"_s}));
+
+        const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
+        QCOMPARE(shown.bitRates, flac->aryBiteRate());
+        QCOMPARE(shown.sampleRate, flac->sampleRate());
+        QCOMPARE(shown.libraryVisible, flac->enumAddToLibrary() != -1);
+
+        const QString rate = flac->arySampleRate().last();
+        const SXFormatSettingPtr result = chooser.getFormatSettingResult(
+            {u"FLAC"_s, rate, flac->aryBiteRate().first(), flac->aryChannels().first(), true});
+        QVERIFY(result && result != flac);
+        QCOMPARE(result->sampleRate(), rate);
+        QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
+        result->setFmtName(u"changed"_s);
+        QCOMPARE(flac->fmtName(), u"FLAC"_s);
+        QCOMPARE(result->enumAddToLibrary(), flac->enumAddToLibrary() == -1 ? -1 : 1);
+
+        // A format without the library option keeps -1 whatever the hidden box says.
+        flac->setEnumAddToLibrary(-1);
+        const SXFormatSettingPtr none = chooser.getFormatSettingResult(
+            {u"FLAC"_s, flac->sampleRate(), flac->bitRate(), flac->channels(), true});
+        QCOMPARE(none->enumAddToLibrary(), -1);
+        QVERIFY(!chooser.changeFormatSelect(u"FLAC"_s).libraryVisible);
+        QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
+    }
+
+    void helpBarSumsEveryContainer() {
+        // The hours and the size are written as the locale writes numbers.
+        QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+        SXWorkspace workspace;
+        workspace.store().setData({}, u"AAC"_s);
+        workspace.store().setData({}, u"MP3"_s);
+        QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()), QString());
+        workspace.store().setData({itemOf(u"/x/1.wav"_s, 360, 1048576),
+                                   itemOf(u"/x/2.wav"_s, 360, 1048576),
+                                   itemOf(u"/x/3.wav"_s, 360, 1048576)},
+                                  u"MP3"_s);
+        QCOMPARE(SXWorkspaceTexts::helpBarText(workspace.store()),
+                 u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
+        QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
+        QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
+    }
+
+    void stripBarNeverGoesBackAndNamesThePreview() {
+        SXStateStripModel strip;
+        QVERIFY(!strip.updateConverterProgress(10)); // hidden while idle: dropped
+        strip.updateForAppState(AppStateConverting, nullptr);
+        QCOMPARE(strip.look().name, u"Converting..."_s);
+        QVERIFY(strip.updateConverterProgress(40));
+        QVERIFY(!strip.updateConverterProgress(35));
+        // No number (a run over no items once gave 0/0) never reaches the bar's integer.
+        QVERIFY(!strip.updateConverterProgress(qQNaN()));
+        QVERIFY(!strip.updateConverterProgress(qInf()));
+        QCOMPARE(strip.look().progress, 40.0);
+        QVERIFY(strip.updateConverterProgress(250));
+        QCOMPARE(strip.look().progress, 100.0);
+        strip.updateForAppState(AppStateIdle, nullptr);
+        QVERIFY(!strip.look().progressShown && strip.look().progress == 0);
+
+        // An untagged item is named by its file; progress of another item is ignored.
+        const SXMusicInfoPtr song = itemOf(u"/x/My Song.flac"_s, 125, 1);
+        strip.updateForAppState(AppStatePlaying, song);
+        QCOMPARE(strip.look().name, u"My Song"_s);
+        QCOMPARE(strip.look().musicTime, u"-00:02:05"_s);
+        QVERIFY(!strip.musicPlayingProgress(itemOf(u"/x/other.flac"_s, 10, 1), 3));
+        QVERIFY(strip.musicPlayingProgress(song, 25));
+        QCOMPARE(strip.look().slider, 20.0);
+        // Loading while previewing hides only the slider.
+        strip.updateForAppState(AppStateLoading, nullptr);
+        QVERIFY(!strip.look().sliderShown && strip.look().nameShown);
+        QCOMPARE(strip.playingMusic(), song);
+    }
+
+    // The primary window's containers and every container's choices come back in a new workspace
+    // that reads them from the settings file; a workspace that does not remember starts from the
+    // catalogue, and a stored choice the format no longer offers is ignored.
+    void containersAndChoicesSurviveARestart() {
+        const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
+        const SXFormatSettingPtr catalogueMp3 =
+            SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+        const QStringList vorbisRates =
+            SXDataEngine::shareInstance()->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
+        QVERIFY(vorbisRates.size() > 1);
+        QStringList expected = fixed;
+        {
+            SXWorkspace first;
+            first.tabs().setRemembersContainers(true);
+            first.tabs().addDefaultTabs();
+            QCOMPARE(first.store().tabLabels(), fixed);
+            for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
+                first.tabs().addContainerWithFormat(
+                    SXDataEngine::shareInstance()->getFormatWithName(name));
+            QVERIFY(first.tabs().selectContainer(u"WAV"_s) && first.tabs().closeTab());
+            expected << u"Ogg Vorbis"_s << u"FLAC"_s;
+            QCOMPARE(first.store().tabLabels(), expected);
+
+            QVERIFY(first.tabs().selectContainer(u"MP3"_s));
+            SXSettingPanelActions::setBitRate(first.store(), catalogueMp3->aryBiteRate().first());
+            SXSettingPanelActions::setSampleRate(first.store(),
+                                                 catalogueMp3->arySampleRate().last());
+            SXSettingPanelActions::setChannels(first.store(), catalogueMp3->aryChannels().last());
+            QVERIFY(first.tabs().selectContainer(u"FLAC"_s));
+            SXSettingPanelActions::setChannels(first.store(), u"Mono"_s);
+            // A name with a blank, which must not become a group of the settings file.
+            QVERIFY(first.tabs().selectContainer(u"Ogg Vorbis"_s));
+            SXSettingPanelActions::setBitRate(first.store(), vorbisRates.first());
+        }
+        // On disk, where the next process reads it (this one shares Qt's parsed copy).
+        const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
+        QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome()));
+        QVERIFY(onDisk.value(u"SXContainers"_s).toString().contains(u"FLAC"_s));
+
+        SXWorkspace second;
+        second.tabs().setRemembersContainers(true);
+        second.tabs().addDefaultTabs();
+        QCOMPARE(second.store().tabLabels(), expected);
+        const SXFormatSettingPtr mp3 = second.store().getFormatSettingForFormatName(u"MP3"_s);
+        QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
+        QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
+        QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
+        QCOMPARE(second.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
+        QCOMPARE(second.store().getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(),
+                 vorbisRates.first());
+        // The catalogue itself is untouched.
+        QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
+                 catalogueMp3->bitRate());
+
+        SXWorkspace other;
+        other.tabs().addDefaultTabs();
+        QCOMPARE(other.store().tabLabels(), fixed);
+        QCOMPARE(other.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
+                 catalogueMp3->bitRate());
+
+        // Hand-edited or outdated values: an unknown format and a rate nobody offers.
+        SXSettings::setValue(u"SXContainers"_s, u"[\"Opus\",\"NoSuchFormat\"]"_s);
+        SXSettings::setValue(u"SXContainerChoices/MP3"_s,
+                             u"{\"bitRate\":\"7\",\"channels\":\"Mono\"}"_s);
+        SXWorkspace third;
+        third.tabs().setRemembersContainers(true);
+        third.tabs().addDefaultTabs();
+        QCOMPARE(third.store().tabLabels(), fixed + QStringList{u"Opus"_s});
+        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
+                 catalogueMp3->bitRate());
+        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+    }
+
+    void showInFilesAndACancelledStartCreateNothing_data() {
+        QTest::addColumn<bool>("stored");    // an output folder was chosen before
+        QTest::addColumn<bool>("organized"); // output goes to a folder per format
+        QTest::addColumn<bool>("exists");    // that folder is already there
+        QTest::newRow("fresh account") << false << true << false;
+        QTest::newRow("chosen, organised, not yet made") << true << true << false;
+        QTest::newRow("chosen, organised, made") << true << true << true;
+        QTest::newRow("chosen, not organised") << true << false << true;
+    }
+
+    void showInFilesAndACancelledStartCreateNothing() {
+        QFETCH(bool, stored);
+        QFETCH(bool, organized);
+        QFETCH(bool, exists);
+        SonoriaTest::TemporaryHome home;
+        QVERIFY(home.isValid());
+        const QString chosen = home.processHome() + u"/Out"_s;
+        const QString base = stored ? chosen : home.processHome() + u"/Music/Sonoria"_s;
+        const QString folder = organized ? base + u"/FLAC"_s : base;
+        SXSettings::removeKey(SXSettingsKey::DefaultOutputPath);
+        SXSettings::setValue(SXSettingsKey::DefaultSetOrganized, organized);
+        if (stored) {
+            SXSettings::setValue(SXSettingsKey::DefaultOutputPath, chosen);
+            QVERIFY(QDir().mkpath(chosen));
+        }
+        if (exists)
+            QVERIFY(QDir().mkpath(folder));
+        const QStringList before = SonoriaTest::filesBelow(home.processHome(), true);
+
+        WorkspaceTestPresenter presenter;
+        SXWorkspace workspace;
+        prepareWorkspace(workspace, &presenter);
+        workspace.tabs().addContainerWithFormat(
+            SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
+        QCOMPARE(SXSettingPanelActions::containerOutputFolder(workspace.store()), folder);
+        SXSettingPanelActions::revealOutputFolder(workspace.store());
+        // A folder not made yet shows its nearest existing parent.
+        const QString shown = exists ? folder : stored ? chosen : home.processHome();
+        QCOMPARE(presenter.openedFolders, QStringList{shown});
+
+        presenter.folderAnswer.reset(); // the Start dialog is cancelled
+        workspace.scheduler().toggleRun();
+        QCOMPARE(presenter.folderRequests.size(), 1);
+        QCOMPARE(presenter.folderRequests.first().startFolder, base);
+        QCOMPARE(SonoriaTest::filesBelow(home.processHome(), true), before);
+    }
+};
 
 SONORIA_TEST_MAIN(TestWindowDecisions)
 #include "tst_windowdecisions.moc"
