@@ -1,5 +1,6 @@
 #include "base/FileHelper.h"
 #include "base/SXAppIdentity.h"
+#include "base/SXCoder.h"
 #include "base/SXFolderScan.h"
 #include "base/SXSettings.h"
 #include "base/SXSystemInfo.h"
@@ -9,6 +10,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include <cmath>
@@ -18,6 +20,7 @@ static void touch(const QString& path) {
     QVERIFY2(SonoriaTest::writeFile(path, {}), qPrintable(path));
 }
 
+// The base layer's helpers: versions, clocks, file names, folder scans, and the settings store.
 class BaseHelpersTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -109,7 +112,7 @@ private Q_SLOTS:
         QCOMPARE(SXTimeText::remainingText(seconds), wording);
     }
 
-    void uniquePathNeverNamesAnExistingEntry() {
+    void uniquePathNeverNamesAnExistingEntryAndFoldersAreMadeSure() {
         QTemporaryDir dir;
         const QString song = dir.filePath("song.mp3");
         QCOMPARE(FileHelper::unusedPath(song, "mp3"), song);
@@ -131,10 +134,8 @@ private Q_SLOTS:
         // Names another writer of this program has claimed count as taken too.
         const auto claimed = [&](const QString& p) { return p == dir.filePath("song(4).mp3"); };
         QCOMPARE(FileHelper::unusedPath(song, "mp3", claimed), dir.filePath("song(5).mp3"));
-    }
 
-    void folderIsMadeSure() {
-        QTemporaryDir dir;
+        // A folder is made with its parents; a file in the way is not taken for one.
         QVERIFY(!FileHelper::makeSureFolderExists(QString()));
         QVERIFY(FileHelper::makeSureFolderExists(dir.filePath("a/b/c")));
         QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
@@ -155,6 +156,11 @@ private Q_SLOTS:
         QVERIFY(QFile::link(dir.path(), dir.filePath("sub/deeper/up")));
         QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("sub/self")));
         QVERIFY(QFile::link(dir.filePath("sub"), dir.filePath("twin")));
+        // Made in reverse, listed as a file manager shows them: numbers by value, case aside.
+        const QStringList natural{"sub/Track 1.flac",   "sub/track 2.flac",   "sub/Track 10.flac",
+                                  "sub/track 026.flac", "sub/Track 227.flac", "sub/track 356.flac"};
+        for (auto name = natural.crbegin(); name != natural.crend(); ++name)
+            touch(dir.filePath(*name));
 
         // Hidden entries (a trash folder, resource forks) stay out; files come before folders;
         // a file matching two filter entries comes once; depth first.
@@ -163,22 +169,9 @@ private Q_SLOTS:
         QStringList relative;
         for (const QString& path : found)
             relative.append(QDir(dir.path()).relativeFilePath(path));
-        QCOMPARE(relative,
-                 (QStringList{"alias.mp3", "song.mp3", "sub/clip.wav", "sub/deeper/track.Mp3"}));
+        QCOMPARE(relative, (QStringList{"alias.mp3", "song.mp3", "sub/clip.wav"} + natural +
+                            QStringList{"sub/deeper/track.Mp3"}));
         QVERIFY(SXFolderScan::filesBelow(dir.filePath("song.mp3"), {"mp3"}).isEmpty());
-    }
-
-    // A folder lists as a file manager shows it: numbers by value, case aside.
-    void scanFollowsNaturalOrder() {
-        QTemporaryDir dir;
-        const QStringList names{"Track 1.flac",   "track 2.flac",   "Track 10.flac",
-                                "track 026.flac", "Track 227.flac", "track 356.flac"};
-        for (auto name = names.crbegin(); name != names.crend(); ++name)
-            touch(dir.filePath(*name));
-        QStringList found;
-        for (const QString& path : SXFolderScan::filesBelow(dir.path(), {"flac"}))
-            found.append(QFileInfo(path).fileName());
-        QCOMPARE(found, names);
     }
 
     void supportedFormatsFollowExperimentalSwitch() {
@@ -195,6 +188,107 @@ private Q_SLOTS:
         QCOMPARE(SXFolderScan::acceptedExtensions(), all);
         SXFolderScan::setExperimentalSwitch({});
         QCOMPARE(SXFolderScan::acceptedExtensions(), all);
+    }
+
+    // A settings file as earlier versions wrote it (the keys' old spellings, which the code's
+    // names no longer show) is read by today's names, and a save keeps those spellings.
+    void fileOfAnEarlierVersionStillLoads() {
+        QVERIFY(QDir().mkpath(QFileInfo(SXSettings::fileName()).path()));
+        QFile file(SXSettings::fileName());
+        QVERIFY(file.open(QIODevice::WriteOnly));
+        file.write("[General]\n"
+                   "com.sx.MaxTastKey=3\n"
+                   "com.sx.iTunesFmtKey=MP3\n"
+                   "com.sx.iTunesPlaylistNameKey=Road trip\n"
+                   "AppBSyncToiTunesKey=true\n"
+                   "DEFAULT_OUTPUT_PATH_KEY=/music/out\n"
+                   "DEFAUTL_SET_ORIGANIZED_KEY=false\n");
+        file.close();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+                 QStringLiteral("Road trip"));
+        QVERIFY(SXSettings::boolForKey(SXSettingsKey::AppBSyncToLibrary));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath),
+                 QStringLiteral("/music/out"));
+        QVERIFY(!SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
+        SXSettings::setPreferenceValue();
+        SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
+        SXSettings::synchronize();
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray saved = file.readAll();
+        QVERIFY(saved.contains("com.sx.iTunesFmtKey=AAC") && saved.contains("AppBSyncToiTunesKey"));
+        QVERIFY(saved.contains("com.sx.iTunesPlaylistNameKey=Road trip"));
+        for (const QString& key :
+             {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat,
+              SXSettingsKey::libraryPlaylistName, SXSettingsKey::AppBSyncToLibrary,
+              SXSettingsKey::DefaultOutputPath, SXSettingsKey::DefaultSetOrganized})
+            SXSettings::removeKey(key);
+        SXSettings::synchronize();
+    }
+
+    // The store lives under the isolated config home; the first run puts the defaults on disk,
+    // later runs keep stored choices and only repair what is empty or zero.
+    void registrationKeepsStoredChoices() {
+        QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome() + "/"));
+        QVERIFY(SXSettings::fileName().endsWith("Sonoria/Sonoria.conf"));
+        SXSettings::setPreferenceValue();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
+        QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat)
+                     .value(SXSettingsKey::libraryPlaylistName),
+                 QStringLiteral("Sonoria"));
+
+        SXSettings::setValue(SXSettingsKey::MaxTask, 3); // not offered, still honoured
+        SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("MP3"));
+        SXSettings::setValue(SXSettingsKey::libraryPlaylistName, QString());
+        SXSettings::setPreferenceValue();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+                 QStringLiteral("Sonoria"));
+        SXSettings::setValue(SXSettingsKey::MaxTask, 0);
+        SXSettings::setPreferenceValue();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+    }
+
+    // INI brings scalars back as text; the typed readers must not be fooled by that.
+    void typedReadsOfTextValues() {
+        QSettings raw(SXSettings::fileName(), QSettings::IniFormat);
+        for (const auto& [key, text] : {std::pair{"flagTrue", "true"},
+                                        {"flagOne", "1"},
+                                        {"flagFalse", "false"},
+                                        {"number", "12"},
+                                        {"junk", "twelve"}})
+            raw.setValue(key, QString(text));
+        raw.setValue("list", QStringList{"a", "b"});
+        raw.sync();
+        QVERIFY(SXSettings::boolForKey("flagTrue") && SXSettings::boolForKey("flagOne"));
+        QVERIFY(!SXSettings::boolForKey("flagFalse", true));
+        QVERIFY(SXSettings::boolForKey("missing", true) && !SXSettings::boolForKey("missing"));
+        QCOMPARE(SXSettings::integerForKey("number"), 12);
+        QCOMPARE(SXSettings::integerForKey("junk", 7), 7);
+        QCOMPARE(SXSettings::stringForKey("list", "x"), QStringLiteral("x"));
+        QVERIFY(!SXSettings::contains("missing"));
+    }
+
+    // Keyed archives keep the order keys were first written in, nest, and tell missing keys.
+    void coderRoundTripsNestedValues() {
+        SXCoder child;
+        child.encode("n", 3);
+        SXCoder root;
+        root.encode("b", QStringLiteral("two"));
+        root.encode("a", 1.5);
+        root.encodeObject("child", child);
+        root.encode("b", QStringLiteral("again")); // rewrite keeps the slot
+        bool ok = false;
+        const SXCoder back = SXCoder::fromData(root.toData(), &ok);
+        QVERIFY(ok);
+        QCOMPARE(back.keys(), QStringList({"b", "a", "child"}));
+        QCOMPARE(back.decodeString("b"), QStringLiteral("again"));
+        QCOMPARE(back.decodeObject("child").decodeInt("n"), 3);
+        QVERIFY(!back.decodeObject("a").allowsKeyedCoding());
+        QVERIFY(!back.decode("missing").isValid());
     }
 };
 

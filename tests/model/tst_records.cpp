@@ -36,37 +36,32 @@ class TestRecords : public QObject {
     Q_OBJECT
 private Q_SLOTS:
 
-    // The record's own keys follow the probed ones; the output settings' keys are still there,
-    // holding what a record that has not run held (the probe's values, no encoder).
-    void archiveKeepsStateAndEveryKey() {
+    // Items travel as one archive for drag and drop; a copy made for a drop shares no record and
+    // keeps the unarchived fields too. The record's own keys follow the probed ones; the output
+    // settings' keys are still there, holding what a record that has not run held (the probe's
+    // values, no encoder).
+    void itemsTravelAsOneArchive() {
         SXCoder coder;
         probedRecord()->encodeWithCoder(coder);
         const QStringList own{"strLastModified", "dFileSize",     "eumCvtState", "eumMediaType",
                               "dAOBitrate",      "dAOSamplerate", "iAOChannels", "vOACodecName",
                               "strOutFileExt",   "strOutFileName"};
         QCOMPARE(coder.keys().mid(coder.keys().size() - own.size()), own);
-
         bool ok = false;
-        const LSMediaPtr back = LSMedia::decodeWithCoder(SXCoder::fromData(coder.toData(), &ok));
+        const LSMediaPtr record = LSMedia::decodeWithCoder(SXCoder::fromData(coder.toData(), &ok));
         QVERIFY(ok);
         SXCoder again; // whatever was archived comes back unchanged
-        back->encodeWithCoder(again);
+        record->encodeWithCoder(again);
         QCOMPARE(again.toData(), coder.toData());
-        QCOMPARE(back->eumCvtState(), int(CvtStateFailed));
+        QCOMPARE(record->eumCvtState(), int(CvtStateFailed));
         QCOMPARE(coder.decodeDouble(QStringLiteral("dAOBitrate")), 912.0);
         QCOMPARE(coder.decodeInt(QStringLiteral("iAOChannels")), 2);
         QVERIFY(coder.decodeString(QStringLiteral("vOACodecName")).isEmpty());
-    }
 
-    // Items travel as one archive for drag and drop; a copy made for a drop shares no record and
-    // keeps the unarchived fields too.
-    void itemsTravelAsOneArchive() {
         const auto first = item(QStringLiteral("/x/é \"1\".mp3"));
         first->setDConvertProgress(-4);
         const auto second = item(QStringLiteral("/x/2.wav"));
         second->setMediaInfo(nullptr);
-
-        bool ok = false;
         const auto back =
             SXMusicInfo::unarchiveItems(SXMusicInfo::archiveItems({first, second}), &ok);
         QVERIFY(ok);

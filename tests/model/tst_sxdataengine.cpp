@@ -4,16 +4,25 @@
 #include "base/SXSettings.h"
 #include "model/SXConversionChoices.h"
 #include "model/SXDataEngine.h"
+#include "model/SXPropertyListReader.h"
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+// A property list holding `body`.
+QByteArray wrap(const QByteArray& body) {
+    return "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">" + body +
+           "</plist>\n";
+}
 
 // Title, extension and codec of the formats a small preset file can hold.
 const char* const kFourFormats[4][3] = {{"One", "one", "mp3"},
@@ -23,8 +32,7 @@ const char* const kFourFormats[4][3] = {{"One", "one", "mp3"},
 
 // A preset file with the first `count` of kFourFormats; each offers two choices per list.
 QByteArray presetXml(int count = 4) {
-    QByteArray xml = "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
-                     "<key>Audios</key><array>";
+    QByteArray xml = "<dict><key>Audios</key><array>";
     for (int i = 0; i < count; ++i) {
         xml += QStringLiteral("<dict><key>title</key><string>%1</string>"
                               "<key>description</key><string>%1 text</string>"
@@ -45,12 +53,13 @@ QByteArray presetXml(int count = 4) {
            "<key>aac</key><string>aac</string></dict>"
            "<key>canEditTagFmtNames</key><array><string>One</string></array>"
            "<key>Devices</key><array><string>phone</string></array>"
-           "<key>Formats</key><integer>7</integer></dict></plist>\n";
-    return xml;
+           "<key>Formats</key><integer>7</integer></dict>";
+    return wrap(xml);
 }
 
 } // namespace
 
+// The catalogue of output formats, and the property-list reader its preset files are read with.
 class TestSXDataEngine : public QObject {
     Q_OBJECT
 
@@ -93,55 +102,39 @@ private Q_SLOTS:
             QVERIFY2(names.contains(editable), qPrintable(editable));
     }
 
-    // Every title the shipped catalogue offers is read once into a number: digits are that
-    // number, "Use Source" the source's own value (-1 here), "Lossless" no bit rate at all. A
-    // word the table does not know fails its row, so a new catalogue word needs a meaning first.
-    void titlesReadAsChoices_data() {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("title");
-        QTest::addColumn<int>("value");
-        QTest::addColumn<bool>("lossless");
+    // Every title the shipped catalogue offers is read into a number: digits are that number,
+    // "Use Source" the source's own value (-1 here), "Lossless" no bit rate at all. A word this
+    // test does not know fails, so a new catalogue word needs a meaning first.
+    void titlesReadAsChoices() {
         const QMap<QString, int> words{
             {u"Use Source"_s, -1}, {u"Lossless"_s, -1}, {u"Stereo"_s, 2}, {u"Mono"_s, 1}};
-        QSet<QString> seen;
+        // Whether `title`, chosen in list `kind` (bit rate, sample rate, channels), reads right.
+        const auto readsRight = [&words](int kind, const QString& title) {
+            QStringList titles(3, u"Use Source"_s);
+            titles[kind] = title;
+            const SXConversionChoices choices =
+                SXConversionChoices::fromTitles(titles[0], titles[1], titles[2]);
+            const std::optional<int> read =
+                std::array{choices.bitRate, choices.sampleRate, choices.channels}[kind];
+            bool number = false;
+            const int value = title.toInt(&number);
+            return read.value_or(-1) == (number ? value : words.value(title, -2)) &&
+                   choices.lossless == (title == u"Lossless"_s);
+        };
         SXDataEngine* engine = SXDataEngine::shareInstance();
         for (const QString& name : engine->getAllOutputFormats()) {
             const SXFormatSettingPtr format = engine->getFormatWithName(name);
-            const QList<std::pair<QString, QStringList>> lists{
-                {u"bit rate"_s, format->aryBiteRate()},
-                {u"sample rate"_s, format->arySampleRate()},
-                {u"channels"_s, format->aryChannels()}};
-            for (const auto& [kind, titles] : lists) {
-                for (const QString& title : titles) {
-                    if (seen.contains(kind + title))
-                        continue;
-                    seen.insert(kind + title);
-                    bool number = false;
-                    const int value = title.toInt(&number);
-                    QTest::addRow("%s %s", qPrintable(kind), qPrintable(title))
-                        << kind << title << (number ? value : words.value(title, -2))
-                        << (title == u"Lossless"_s);
-                }
+            const QStringList lists[] = {format->aryBiteRate(), format->arySampleRate(),
+                                         format->aryChannels()};
+            for (int kind = 0; kind < 3; ++kind) {
+                for (const QString& title : lists[kind])
+                    QVERIFY2(readsRight(kind, title), qPrintable(name + u": "_s + title));
             }
         }
-        QTest::newRow("bit rate with its unit") << u"bit rate"_s << u"192 kbps"_s << 192 << false;
-        QTest::newRow("sample rate with a blank")
-            << u"sample rate"_s << u" 44100"_s << 44100 << false;
-    }
-    void titlesReadAsChoices() {
-        QFETCH(QString, kind);
-        QFETCH(QString, title);
-        QFETCH(int, value);
-        QFETCH(bool, lossless);
-        const SXConversionChoices choices =
-            SXConversionChoices::fromTitles(kind == "bit rate"_L1 ? title : u"Use Source"_s,
-                                            kind == "sample rate"_L1 ? title : u"Use Source"_s,
-                                            kind == "channels"_L1 ? title : u"Use Source"_s);
-        const std::optional<int> read = kind == "bit rate"_L1      ? choices.bitRate
-                                        : kind == "sample rate"_L1 ? choices.sampleRate
-                                                                   : choices.channels;
-        QCOMPARE(read.value_or(-1), value);
-        QCOMPARE(choices.lossless, lossless);
+        // A unit after the number and a blank before it are no part of it.
+        const SXConversionChoices units =
+            SXConversionChoices::fromTitles(u"192 kbps"_s, u" 44100"_s, u"Use Source"_s);
+        QVERIFY(units.bitRate == 192 && units.sampleRate == 44100 && !units.lossless);
     }
 
     void lookupIsCaseSensitiveAndCopiesAreIndependent() {
@@ -182,10 +175,9 @@ private Q_SLOTS:
         QVERIFY(engine.getDecodecWithCodecName(u"AAC"_s).isNull());
         QCOMPARE(engine.getCanEditMetadataMusicType(), QStringList{u"One"_s});
         QVERIFY(engine.aryDevices().toList().value(0) == "phone" && engine.aryFormats() == 7);
-    }
 
-    // Missing keys leave fields empty, unknown codecs give no encoder, blanks around commas stay.
-    void incompleteEntriesLeaveFieldsEmpty() {
+        // Missing keys leave fields empty, unknown codecs give no encoder, blanks around commas
+        // stay.
         const QByteArray xml =
             "<plist><dict><key>Audios</key><array>"
             "<dict><key>title</key><string>Bare</string>"
@@ -193,14 +185,14 @@ private Q_SLOTS:
             "<key>abitrate</key><dict><key>default</key><string> 96</string>"
             "<key>values</key><string>64, 96,,128</string></dict></dict>"
             "</array></dict></plist>";
-        SXDataEngine engine(writePreset(u"bare.plist"_s, xml));
-        const SXFormatSettingPtr bare = engine.getFormatWithName(u"Bare"_s);
+        SXDataEngine bareEngine(writePreset(u"bare.plist"_s, xml));
+        const SXFormatSettingPtr bare = bareEngine.getFormatWithName(u"Bare"_s);
         QVERIFY(bare && bare->decodecName().isNull() && bare->sampleRate().isEmpty());
         QVERIFY(bare->arySampleRate().isEmpty() && bare->aryChannels().isEmpty());
         QCOMPARE(bare->enumAddToLibrary(), 0);
         QCOMPARE(bare->aryBiteRate(), QStringList({"64", " 96", "", "128"}));
         QCOMPARE(bare->bitRate(), u" 96"_s);
-        QVERIFY(engine.getCanEditMetadataMusicType().isEmpty());
+        QVERIFY(bareEngine.getCanEditMetadataMusicType().isEmpty());
     }
 
     void musicLibrarySlot_data() {
@@ -281,6 +273,80 @@ private Q_SLOTS:
                                         {".mp3", 4},
                                         {"", 4}})
             QVERIFY2(SXDataEngine::getTagFileFormatByFileType(ext) == kind, ext);
+    }
+
+    void readsEveryValueType_data() {
+        QTest::addColumn<QByteArray>("body");
+        QTest::addColumn<QVariant>("expected");
+        const auto row = [](const char* name, const QByteArray& body, const QVariant& expected) {
+            QTest::newRow(name) << body << expected;
+        };
+        row("escapes", "<string>a &lt;b&gt; &amp; &quot;c&quot; &#x41;&#66;</string>",
+            QString("a <b> & \"c\" AB"));
+        row("unicode", "<string>été 日本 🎵</string>", QString("été 日本 🎵"));
+        row("blanks kept", "<string>  two  spaces  </string>", QString("  two  spaces  "));
+        row("empty string", "<string/>", QString(""));
+        row("cdata", "<string><![CDATA[<not a tag>]]></string>", QString("<not a tag>"));
+        row("negative", "<integer>-42</integer>", qlonglong(-42));
+        row("largest signed", "<integer>9223372036854775807</integer>",
+            std::numeric_limits<qlonglong>::max());
+        row("largest unsigned", "<integer>18446744073709551615</integer>",
+            std::numeric_limits<qulonglong>::max());
+        row("exponent", "<real>-2.5e3</real>", -2500.0);
+        row("fraction", "<real>0.125</real>", 0.125);
+        row("true", "<true/>", true);
+        row("false", "<false/>", false);
+        row("data over lines", "<data>\n    AAEC\n    /w==\n  </data>",
+            QByteArray("\x00\x01\x02\xff", 4));
+        row("date", "<date>2021-03-04T05:06:07Z</date>",
+            QDateTime(QDate(2021, 3, 4), QTime(5, 6, 7), Qt::UTC));
+        row("nested",
+            "<array><dict><key>inner</key><array><integer>1</integer><array/></array></dict>"
+            "<dict/><string>x</string></array>",
+            QVariantList{QVariantMap{{"inner", QVariantList{qlonglong(1), QVariantList()}}},
+                         QVariantMap(), QString("x")});
+        row("keys", "<dict><key>ü key</key><string>v</string><key>n</key><true/></dict>",
+            QVariantMap{{"ü key", QString("v")}, {"n", true}});
+    }
+
+    void readsEveryValueType() {
+        QFETCH(QByteArray, body);
+        QFETCH(QVariant, expected);
+        QString error;
+        const QVariant value = SXPropertyListReader::readData(wrap(body), &error);
+        QVERIFY2(value.isValid(), qPrintable(error));
+        QCOMPARE(value.typeId(), expected.typeId());
+        QCOMPARE(value, expected);
+    }
+
+    void rejectsMalformedInput_data() {
+        QTest::addColumn<QByteArray>("xml");
+        for (const auto& [name, xml] : std::initializer_list<std::pair<const char*, QByteArray>>{
+                 {"empty input", ""},
+                 {"unclosed element", wrap("<dict><key>a</key><string>b</dict>")},
+                 {"truncated", "<plist><dict><key>a</key><string>b</str"},
+                 {"key without value", wrap("<dict><key>a</key></dict>")},
+                 {"value without key", wrap("<dict><string>a</string></dict>")},
+                 {"bad integer", wrap("<integer>12a</integer>")},
+                 {"real as integer", wrap("<integer>1.5</integer>")},
+                 {"bad real", wrap("<real>fast</real>")},
+                 {"bad base64", wrap("<data>@@@</data>")},
+                 {"bad date", wrap("<date>yesterday</date>")},
+                 {"unknown element", wrap("<number>3</number>")},
+                 {"element inside string", wrap("<string>a<b/>c</string>")},
+                 {"two root values", wrap("<string>a</string><string>b</string>")},
+                 {"empty plist", wrap("")},
+                 {"other root", "<dict><key>a</key><string>b</string></dict>"},
+                 {"content after plist", wrap("<true/>") + "<plist><true/></plist>"},
+                 {"undefined entity", wrap("<string>&nbsp;</string>")}})
+            QTest::newRow(name) << xml;
+    }
+
+    void rejectsMalformedInput() {
+        QFETCH(QByteArray, xml);
+        QString error;
+        QVERIFY(!SXPropertyListReader::readData(xml, &error).isValid());
+        QVERIFY2(error.startsWith(QStringLiteral("line ")), qPrintable(error));
     }
 };
 

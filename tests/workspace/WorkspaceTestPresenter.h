@@ -97,3 +97,13 @@ inline bool addFiles(SXWorkspace& workspace, const QString& container, const QSt
 inline bool addFiles(SXWorkspace& workspace, const QStringList& paths) {
     return addFiles(workspace, QString(), paths);
 }
+
+// Starts a run into `folder` and waits for its end: the summary's arguments, none when it did not
+// end.
+inline QList<QVariant> runInto(SXWorkspace& workspace, const QString& folder) {
+    QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+    workspace.scheduler().doRealConverterTask(folder);
+    if (finished.count() == 0 && !finished.wait(180000))
+        return {};
+    return finished.first();
+}

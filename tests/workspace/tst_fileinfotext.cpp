@@ -62,21 +62,6 @@ private Q_SLOTS:
         QCOMPARE(SXFileInfoText::textForLabel(bare, u"tfInfoLength"_s), QString());
     }
 
-    void singleFieldRules() {
-        QCOMPARE(SXFileInfoText::id3TagText(u"ID3 v2.4"_s), u"v2.4"_s);
-        QCOMPARE(SXFileInfoText::id3TagText(u"ID3v2"_s), QString());
-        // Two blanks make an empty second part.
-        QCOMPARE(SXFileInfoText::id3TagText(u"APE  2000"_s), QString());
-        QCOMPARE(SXFileInfoText::fileSizeText(1572864), u"1.5 MB"_s);
-        QCOMPARE(SXFileInfoText::fileSizeText(27648), u"27.0 kB"_s); // never "0.0M"
-        QCOMPARE(SXFileInfoText::kindText(u"/a/clip.Mp4"_s, HVMediaTypeVideo), u"MP4 video file"_s);
-        QCOMPARE(SXFileInfoText::kindText(u"/a/noext"_s, HVMediaTypeUnknown), u" video file"_s);
-        LSMedia media;
-        media.setAudioChannels(2);
-        media.setAudioSamplerate(48000);
-        QCOMPARE(SXFileInfoText::sampleRateText(nullptr, &media), u"48.0kHz"_s);
-    }
-
     void tagValuesWinOverTheProbe() {
         QTemporaryDir dir;
         const QString path = dir.filePath(u"tagged.mp3"_s);
@@ -102,15 +87,15 @@ private Q_SLOTS:
         QCOMPARE(text(u"tfInfoId3Tag"_s), version.section(u' ', 1, 1));
     }
 
-    void readableNames_data() {
+    // One field's text at a time: the names a codec, a channel count or a tag family reads by,
+    // and the rules of single fields of the panel.
+    void singleTexts_data() {
         QTest::addColumn<QString>("shown");
         QTest::addColumn<QString>("expected");
         const auto codec = SXReadableNames::codecName;
         QTest::newRow("pcm") << codec(u"pcm_s16le"_s) << u"PCM 16-bit"_s;
         QTest::newRow("pcm float") << codec(u"pcm_f32be"_s) << u"PCM 32-bit float"_s;
-        QTest::newRow("wma") << codec(u"wmav2"_s) << u"WMA"_s;
-        QTest::newRow("ac-3") << codec(u"ac3"_s) << u"AC-3"_s;
-        QTest::newRow("vorbis") << codec(u"vorbis"_s) << u"Vorbis"_s;
+        QTest::newRow("known codec") << codec(u"ac3"_s) << u"AC-3"_s;
         QTest::newRow("unknown codec in capitals") << codec(u"qdm2"_s) << u"QDM2"_s;
         QTest::newRow("stereo") << SXReadableNames::channelsName(2) << u"Stereo"_s;
         QTest::newRow("three channels") << SXReadableNames::channelsName(3) << u"3 channels"_s;
@@ -119,9 +104,24 @@ private Q_SLOTS:
         QTest::newRow("vorbis comments")
             << SXReadableNames::tagFamilyName(u"Vorbis Comment"_s) << u"Vorbis comments"_s;
         QTest::newRow("ape") << SXReadableNames::tagFamilyName(u"APE v2"_s) << u"APE"_s;
+        QTest::newRow("id3 version") << SXFileInfoText::id3TagText(u"ID3 v2.4"_s) << u"v2.4"_s;
+        QTest::newRow("id3 without version") << SXFileInfoText::id3TagText(u"ID3v2"_s) << QString();
+        // Two blanks make an empty second part.
+        QTest::newRow("two blanks") << SXFileInfoText::id3TagText(u"APE  2000"_s) << QString();
+        QTest::newRow("megabytes") << SXFileInfoText::fileSizeText(1572864) << u"1.5 MB"_s;
+        QTest::newRow("never 0.0M") << SXFileInfoText::fileSizeText(27648) << u"27.0 kB"_s;
+        QTest::newRow("video kind")
+            << SXFileInfoText::kindText(u"/a/clip.Mp4"_s, HVMediaTypeVideo) << u"MP4 video file"_s;
+        QTest::newRow("kind without extension")
+            << SXFileInfoText::kindText(u"/a/noext"_s, HVMediaTypeUnknown) << u" video file"_s;
+        LSMedia media;
+        media.setAudioChannels(2);
+        media.setAudioSamplerate(48000);
+        QTest::newRow("sample rate of the probe")
+            << SXFileInfoText::sampleRateText(nullptr, &media) << u"48.0kHz"_s;
     }
 
-    void readableNames() {
+    void singleTexts() {
         QFETCH(QString, shown);
         QFETCH(QString, expected);
         QCOMPARE(shown, expected);

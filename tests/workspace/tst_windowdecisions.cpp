@@ -7,6 +7,7 @@
 #include "workspace/SXFormatChooser.h"
 #include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXStateStripModel.h"
+#include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
 
@@ -47,6 +48,13 @@ CommandAnswers answersFor(const SXCommandContext& context) {
     return answers;
 }
 
+// Stands in for a workspace window: only its key state matters to the registry.
+class FakeWindow : public SXWindowController {
+public:
+    bool key = false;
+    bool isKeyWindow() const override { return key; }
+};
+
 SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
     const SXMusicInfoPtr item = makeWorkspaceItem(path, u"MP3"_s);
     item->mediaInfo()->setDuration(seconds);
@@ -57,17 +65,13 @@ SXMusicInfoPtr itemOf(const QString& path, double seconds, double bytes) {
 } // namespace
 
 // The decisions a workspace window only shows: which commands are enabled in which state, the
-// chooser's result, the help bar and the state strip.
+// chooser's result, the help bar, the state strip and which window is the key one.
 class TestWindowDecisions : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void menuCommandsFollowTheState_data() {
-        QTest::addColumn<int>("state");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<bool>("selected");
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<bool>("primaryOpen");
-        QTest::addColumn<bool>("primaryIsKey");
+        // State, items, key workspace, its selection and container, primary open, primary key.
+        QTest::addColumn<SXCommandContext>("context");
         QTest::addColumn<QStringList>("enabled");
         QTest::addColumn<QStringList>("beeping");
         QTest::addColumn<QStringList>("refused"); // by the dispatcher, with a beep
@@ -76,57 +80,45 @@ private Q_SLOTS:
         const QStringList neutral{u"Preferences"_s, u"NextContainer"_s, u"PreviousContainer"_s,
                                   u"Stop"_s};
         QTest::newRow("idle, empty fixed container")
-            << int(AppStateIdle) << 0 << false << u"MP3"_s << true << true
+            << SXCommandContext{AppStateIdle, 0, true, false, u"MP3"_s, true, true}
             << QStringList{u"Open"_s, u"NewFormat"_s} + neutral + always
             << QStringList{u"CloseTab"_s} << QStringList();
         const QStringList withItems{u"Open"_s,  u"NewFormat"_s, u"CloseTab"_s,    u"Delete"_s,
                                     u"Clear"_s, u"NextRow"_s,   u"PreviousRow"_s, u"Start"_s};
         QTest::newRow("idle, items, nothing selected, closable container")
-            << int(AppStateIdle) << 2 << false << u"FLAC"_s << true << true
+            << SXCommandContext{AppStateIdle, 2, true, false, u"FLAC"_s, true, true}
             << withItems + neutral + always << QStringList() << QStringList();
         QTest::newRow("adding files, items")
-            << int(AppStateLoading) << 1 << false << u"FLAC"_s << true << true
+            << SXCommandContext{AppStateLoading, 1, true, false, u"FLAC"_s, true, true}
             << withItems + neutral + always << QStringList() << QStringList();
         QTest::newRow("playing, a row selected, primary not key")
-            << int(AppStatePlaying) << 1 << true << u"AAC"_s << true << false
+            << SXCommandContext{AppStatePlaying, 1, true, true, u"AAC"_s, true, false}
             << QStringList{u"Open"_s,        u"Delete"_s, u"Clear"_s,     u"NextRow"_s,
                            u"PreviousRow"_s, u"Start"_s,  u"TagEditor"_s, u"FileInfo"_s} +
                    neutral + always
             << QStringList{u"CloseTab"_s} << QStringList{u"NewFormat"_s};
         QTest::newRow("converting: only Stop")
-            << int(AppStateConverting) << 3 << true << u"FLAC"_s << true << true
+            << SXCommandContext{AppStateConverting, 3, true, true, u"FLAC"_s, true, true}
             << QStringList{u"Stop"_s} + always << QStringList() << QStringList();
         QTest::newRow("primary window closed: New Container only")
-            << int(AppStateIdle) << 0 << false << u"MP3"_s << false << false
+            << SXCommandContext{AppStateIdle, 0, true, false, u"MP3"_s, false, false}
             << QStringList{u"NewContainer"_s} + neutral + always << QStringList{u"CloseTab"_s}
             << QStringList{u"NewFormat"_s};
     }
 
     void menuCommandsFollowTheState() {
-        QFETCH(int, state);
-        QFETCH(int, count);
-        QFETCH(bool, selected);
-        QFETCH(QString, format);
-        QFETCH(bool, primaryOpen);
-        QFETCH(bool, primaryIsKey);
+        QFETCH(SXCommandContext, context);
         QFETCH(QStringList, enabled);
         QFETCH(QStringList, beeping);
         QFETCH(QStringList, refused);
-        SXCommandContext context;
-        context.state = state;
-        context.count = count;
-        context.hasKeyWorkspace = true;
-        context.keyHasSelection = selected;
-        context.keySelectedFormat = format;
-        context.primaryOpen = primaryOpen;
-        context.primaryIsKey = primaryIsKey;
         const CommandAnswers got = answersFor(context);
         enabled.sort();
         QCOMPARE(got.enabled, enabled);
         QCOMPARE(got.beeping, beeping);
         QCOMPARE(got.refused, refused);
         // The Delete and Clear buttons answer as their menu items do.
-        QCOMPARE(sxRemoveButtonsEnabled(state, count), got.enabled.contains(u"Delete"_s));
+        QCOMPARE(sxRemoveButtonsEnabled(context.state, context.count),
+                 got.enabled.contains(u"Delete"_s));
     }
 
     void toolbarFollowsTheRun() {
@@ -141,12 +133,8 @@ private Q_SLOTS:
         for (SXCommand other :
              {SXCommand::TagEditor, SXCommand::FileInfo, SXCommand::Preferences, SXCommand::Help})
             QVERIFY(!sxValidateToolbarCommand(other, AppStateConverting, 4, true));
-        const SXToolbarLook stop = sxStartToolbarLook(AppStateConverting);
-        QCOMPARE((QStringList{stop.image, stop.label, stop.toolTip}),
-                 (QStringList{u"stopConvert"_s, u"Stop"_s, u"Stop convert all files"_s}));
-        const SXToolbarLook start = sxStartToolbarLook(AppStateIdle);
-        QCOMPARE((QStringList{start.image, start.label, start.toolTip}),
-                 (QStringList{u"startConverter"_s, u"Start"_s, u"Start convert all files"_s}));
+        QCOMPARE(sxStartToolbarLook(AppStateConverting).label, u"Stop"_s);
+        QCOMPARE(sxStartToolbarLook(AppStatePlaying).label, u"Start"_s);
         QVERIFY(!sxSettingPanelEnabled(AppStateConverting) &&
                 sxSettingPanelEnabled(AppStateLoading));
         // The tab bar adds and closes no container during a run, and never closes a fixed one.
@@ -395,7 +383,27 @@ private Q_SLOTS:
         workspace.scheduler().toggleRun();
         QCOMPARE(presenter.folderRequests.size(), 1);
         QCOMPARE(presenter.folderRequests.first().startFolder, base);
+        QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
         QCOMPARE(SonoriaTest::filesBelow(home.processHome(), true), before);
+    }
+    // Windows are kept in the order added, duplicates included; the first key window answers.
+    void registryKeepsOrderAndDuplicates() {
+        SXWindowRegistry registry;
+        FakeWindow a, b, c;
+        QCOMPARE(registry.keyWindowRecord(), nullptr);
+        for (FakeWindow* window : {&a, static_cast<FakeWindow*>(nullptr), &b, &a, &c})
+            registry.registerWindow(window);
+        QCOMPARE(registry.registeredWindows(), (QList<SXWindowController*>{&a, &b, &a, &c}));
+        QCOMPARE(registry.keyWindowRecord(), nullptr);
+        c.key = b.key = true;
+        QCOMPARE(registry.keyWindowRecord(), &b);
+        // The registry is handed out itself, so callers see later changes.
+        const QList<SXWindowController*>& live = registry.registeredWindows();
+        registry.unregisterWindow(&a);
+        registry.unregisterWindow(nullptr);
+        QCOMPARE(live, (QList<SXWindowController*>{&b, &c}));
+        registry.unregisterWindow(&b);
+        QCOMPARE(registry.keyWindowRecord(), &c);
     }
 };
 

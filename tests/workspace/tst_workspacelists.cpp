@@ -363,11 +363,6 @@ private Q_SLOTS:
                  (QStringList{u"1.wav"_s, u"3.wav"_s, u"2.wav"_s}));
         QCOMPARE(second.store().selectedRows(), QList<int>{0});
         QVERIFY(first.store().getDataForFormat(mp3).isEmpty());
-
-        // During a run nothing is dragged or dropped.
-        second.store().setAppState(AppStateConverting);
-        QVERIFY(second.moves().dragDataForRows({0}).isEmpty());
-        QVERIFY(!second.moves().acceptDrop(fromFirst, 0, SXItemMoves::DropOnRow));
     }
 
 private:

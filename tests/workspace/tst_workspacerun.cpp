@@ -139,11 +139,6 @@ private Q_SLOTS:
         QVERIFY(finished.wait(kRunTimeoutMs));
         QCOMPARE(m_presenter.openedFolders.size(), 1);
         QTRY_COMPARE_WITH_TIMEOUT(workspace.store().enumAppState(), int(AppStateIdle), 10000);
-
-        // A cancelled chooser changes nothing.
-        m_presenter.folderAnswer.reset();
-        workspace.scheduler().toggleRun();
-        QCOMPARE(workspace.store().enumAppState(), int(AppStateIdle));
     }
 
     void overrideAndUnorganisedFolderAndRequeue() {
@@ -216,7 +211,9 @@ private Q_SLOTS:
                  "except 5 files failed,including: \na: reason a \nb: reason b \nc: reason c..."_s);
     }
 
-    void emptyRunEndsAtTheFirstRefresh() {
+    // An empty run ends at the first refresh; the states a workspace announces; the weight each
+    // item's progress has in the total.
+    void emptyRunStatesAndProgressWeights() {
         SXWorkspace workspace;
         workspace.tabs().addDefaultTabs();
         QSignalSpy states(&workspace.store(), &SXContainerStore::appStateChanged);
@@ -242,11 +239,7 @@ private Q_SLOTS:
         QCOMPARE(states.at(2).at(1).value<SXMusicInfoPtr>(), first);
         QCOMPARE(states.at(3).at(1).value<SXMusicInfoPtr>(), second);
         QCOMPARE(workspace.store().appStateItem(), second);
-    }
 
-    void totalProgressWeights() {
-        SXWorkspace workspace;
-        workspace.tabs().addDefaultTabs();
         SXMusicInfoList items;
         for (double value : {-4.0, -3.0, 100.0, -2.0, -1.0, 50.0}) {
             items.append(makeWorkspaceItem(u"/x/%1.wav"_s.arg(items.size()), u"MP3"_s));
@@ -419,14 +412,6 @@ private Q_SLOTS:
 private:
     QString source(const QString& name) const { return m_sources.filePath(name); }
     QString freshFolder(const QString& name) const { return m_outputs.filePath(name); }
-    // Starts a run into `folder` directly and waits for its end; the summary's arguments.
-    QList<QVariant> runInto(SXWorkspace& workspace, const QString& folder) {
-        QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
-        workspace.scheduler().doRealConverterTask(folder);
-        if (!finished.wait(kRunTimeoutMs))
-            return {};
-        return finished.first();
-    }
 
     QTemporaryDir m_sources;
     QTemporaryDir m_outputs;

@@ -1,9 +1,14 @@
+#include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
 #include "base/SXSettings.h"
 #include "engine/ConvertOutputFile.h"
+#include "framework/MTEAudioFileMgr.h"
+#include "model/SXDataEngine.h"
+#include "workspace/SXContainerMemory.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXItemRowLook.h"
+#include "workspace/SXLoudnessSurvey.h"
 #include "workspace/SXSettingPanelActions.h"
 #include "workspace/SXWorkspace.h"
 
@@ -17,8 +22,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-constexpr int kRunTimeoutMs = 180000;
-
 // Every file and folder below `dir`, relative, sorted, with what identifies the file itself
 // (inode and modification time): a file renamed or written again reads differently.
 QStringList treeWithIdentity(const QString& dir, bool identity = true) {
@@ -41,12 +44,16 @@ QStringList treeWithIdentity(const QString& dir, bool identity = true) {
 }
 } // namespace
 
-class TestOutputNaming : public QObject {
+// What a run makes of a container's choices: its outputs' names and folders, what becomes of
+// outputs that exist, and loudness (which items form an album, what a container remembers, and a
+// Stop that comes while the sources are still being measured).
+class TestRunOutputs : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_sources.isValid() && m_outputs.isValid());
-        for (const QString& folder : {u"Incoming/A"_s, u"Incoming/B/C"_s, u"loose"_s})
+        for (const QString& folder :
+             {u"Incoming/A"_s, u"Incoming/B/C"_s, u"loose"_s, u"one"_s, u"two"_s})
             QVERIFY(QDir().mkpath(in(folder)));
         QVERIFY(SonoriaTest::makeTone(in(u"Incoming/A/x.flac"_s), 1.0,
                                       {"-metadata", "artist=Nina", "-metadata", "album=Live",
@@ -71,23 +78,21 @@ private Q_SLOTS:
         QCOMPARE(setUp(workspace, {in(u"Incoming"_s)}, u"{artist}/{track:02} {title}"_s, true), 3);
         QCOMPARE(SXSettingPanelActions::namePreview(workspace.store()), u"A/Nina/01 One.mp3"_s);
         const QString folder = out(u"mirrored"_s);
-        QVERIFY(runInto(workspace, folder));
-        const QStringList tree{
-            u"A"_s,
-            u"A/Nina"_s,
-            u"A/Nina/01 One.mp3"_s,
-            u"B"_s,
-            u"B/C"_s,
-            u"B/C/_hidden_dir"_s,
-            u"B/C/_hidden_dir/Unknown Track y.mp3"_s,
-            u"B/Unknown Artist"_s,
-            u"B/Unknown Artist/Unknown Track x.mp3"_s,
-        };
+        QVERIFY(!runInto(workspace, folder).isEmpty());
+        const QStringList tree{u"A"_s,
+                               u"A/Nina"_s,
+                               u"A/Nina/01 One.mp3"_s,
+                               u"B"_s,
+                               u"B/C"_s,
+                               u"B/C/_hidden_dir"_s,
+                               u"B/C/_hidden_dir/Unknown Track y.mp3"_s,
+                               u"B/Unknown Artist"_s,
+                               u"B/Unknown Artist/Unknown Track x.mp3"_s};
         QCOMPARE(treeWithIdentity(folder, false), tree);
         const QStringList before = treeWithIdentity(folder);
 
         QSignalSpy done(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(treeWithIdentity(folder), before);
         QTRY_COMPARE(done.size(), 3);
         for (const QList<QVariant>& finished : std::as_const(done)) {
@@ -112,10 +117,10 @@ private Q_SLOTS:
             setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{album}"_s, false),
             2);
         const QString folder = out(u"shared"_s);
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(treeWithIdentity(folder, false),
                  (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(treeWithIdentity(folder, false),
                  (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album(2).mp3"_s,
                               u"Unknown Album.mp3"_s}));
@@ -134,15 +139,15 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(folder) && SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
         const QByteArray users = SonoriaTest::readFile(folder + u"/q.mp3"_s);
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
-        QVERIFY(runInto(workspace, folder));
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(
             treeWithIdentity(folder, false),
             (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s, u"q.mp3"_s}));
 
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
         const QStringList before = treeWithIdentity(folder);
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         const QStringList after = treeWithIdentity(folder);
         // p.mp3 got a new file under its name; the user's q.mp3 stayed, and q's output went to the
         // next free name.
@@ -167,7 +172,7 @@ private Q_SLOTS:
         SXWorkspace workspace;
         QCOMPARE(setUp(workspace, {good}, u"{filename}"_s, true), 1);
         const QString folder = out(u"replace"_s);
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         const QByteArray old = SonoriaTest::readFile(folder + u"/r.mp3"_s);
         QVERIFY(!old.isEmpty());
 
@@ -175,22 +180,128 @@ private Q_SLOTS:
         // Both sources now promise audio and hold none.
         QVERIFY(SonoriaTest::cutFlacAfterMetadata(good) && SonoriaTest::cutFlacAfterMetadata(deep));
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
-        QVERIFY(runInto(workspace, folder));
+        QVERIFY(!runInto(workspace, folder).isEmpty());
         for (const SXMusicInfoPtr& item : workspace.store().getDataForFormat(u"MP3"_s))
             QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFailed));
         QCOMPARE(treeWithIdentity(folder, false), QStringList{u"r.mp3"_s});
         QCOMPARE(SonoriaTest::readFile(folder + u"/r.mp3"_s), old);
     }
 
+    void albumKeys_data() {
+        QTest::addColumn<QStringList>("first");  // folder, album, album artist, container
+        QTest::addColumn<QStringList>("second"); // the same for the other item
+        QTest::addColumn<bool>("sameAlbum");
+        QTest::newRow("same tags, other folders")
+            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
+            << QStringList{u"two"_s, u"A"_s, u"X"_s, u"MP3"_s} << true;
+        QTest::newRow("same album, other album artist")
+            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
+            << QStringList{u"one"_s, u"A"_s, u"Y"_s, u"MP3"_s} << false;
+        QTest::newRow("no album, one folder") << QStringList{u"one"_s, {}, {}, u"MP3"_s}
+                                              << QStringList{u"one"_s, {}, {}, u"MP3"_s} << true;
+        QTest::newRow("no album, two folders") << QStringList{u"one"_s, {}, {}, u"MP3"_s}
+                                               << QStringList{u"two"_s, {}, {}, u"MP3"_s} << false;
+        QTest::newRow("same album, other containers")
+            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
+            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"FLAC"_s} << false;
+    }
+
+    void albumKeys() {
+        QFETCH(QStringList, first);
+        QFETCH(QStringList, second);
+        QFETCH(bool, sameAlbum);
+        QCOMPARE(SXLoudnessSurvey::albumKey(*item(first, 1), first.at(3)) ==
+                     SXLoudnessSurvey::albumKey(*item(second, 2), second.at(3)),
+                 sameAlbum);
+    }
+
+    // Kept in the settings file with the container's other choices; a file from before these
+    // options leaves them off.
+    void choicesAreRemembered() {
+        SXWorkspace workspace;
+        workspace.tabs().addDefaultTabs();
+        QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
+        SXSettingPanelActions::setReplayGain(workspace.store(), SXReplayGainMode::Album);
+        SXSettingPanelActions::setNormalise(workspace.store(), true);
+        const SXFormatSettingPtr fresh = SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+        QVERIFY(fresh);
+        QCOMPARE(fresh->replayGain(), SXReplayGainMode::Off);
+        SXContainerMemory::restoreChoices(*fresh);
+        QCOMPARE(fresh->replayGain(), SXReplayGainMode::Album);
+        QVERIFY(fresh->normalise());
+        QCOMPARE(fresh->choices().replayGain, SXReplayGainMode::Album);
+
+        SXSettings::setValue(u"SXContainerChoices/MP3"_s, u"{\"bitRate\":\"128\"}"_s);
+        const SXFormatSettingPtr older = SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
+        SXContainerMemory::restoreChoices(*older);
+        QCOMPARE(older->replayGain(), SXReplayGainMode::Off);
+        QVERIFY(!older->normalise());
+        QCOMPARE(older->bitRate(), u"128"_s);
+    }
+
+    // Stop before the meters are done: every item ends cancelled, no child starts, no file is
+    // written, and the run still ends with its summary.
+    void stopWhileMeasuring() {
+        QStringList sources;
+        for (int i = 0; i < 3; ++i) {
+            sources.append(in(u"long%1.flac"_s.arg(i)));
+            QVERIFY(SonoriaTest::makeMedia(sources.last(),
+                                           u"sine=frequency=300:duration=600:sample_rate=48000"_s,
+                                           {u"-ac"_s, u"2"_s}));
+        }
+        SXWorkspace workspace;
+        prepareWorkspace(workspace, &m_presenter);
+        QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
+        SXSettingPanelActions::setReplayGain(workspace.store(), SXReplayGainMode::Album);
+        QVERIFY(addFiles(workspace, sources));
+
+        const QString folder = out(u"measured"_s);
+        LogCapture log;
+        QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
+        QVERIFY(workspace.scheduler().doRealConverterTask(folder));
+        QCOMPARE(workspace.store().enumAppState(), int(AppStateConverting));
+        workspace.scheduler().toggleRun();
+        QVERIFY(finished.wait(60000));
+        QCOMPARE(finished.first().at(1).toInt(), 0);
+        for (const SXMusicInfoPtr& item : workspace.store().getDataForFormat(u"MP3"_s)) {
+            QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
+            QCOMPARE(item->dConvertProgress(), double(SXProgress::Canceled));
+        }
+        QCOMPARE(QDir(folder + u"/MP3"_s).entryList(QDir::Files | QDir::Hidden), QStringList());
+        QCOMPARE(log.lines().filter(u"measuring the loudness of 3 sources"_s).size(), 1);
+        QCOMPARE(log.lines().filter(u"args:"_s), QStringList());
+        SXSettings::removeKey(u"SXContainerChoices/MP3"_s);
+    }
+
 private:
     // A workspace whose MP3 container holds what `paths` add, named by `pattern`; the number of
     // items, or -1.
     int setUp(SXWorkspace& workspace, const QStringList& paths, const QString& pattern,
-              bool mirror);
-    bool runInto(SXWorkspace& workspace, const QString& folder) {
-        QSignalSpy finished(&workspace.scheduler(), &SXWorkspaceScheduler::runFinished);
-        workspace.scheduler().doRealConverterTask(folder);
-        return finished.wait(kRunTimeoutMs);
+              bool mirror) {
+        prepareWorkspace(workspace, &m_presenter);
+        if (!workspace.tabs().selectContainer(u"MP3"_s))
+            return -1;
+        SXSettingPanelActions::setNamePattern(workspace.store(), pattern);
+        SXSettingPanelActions::setMirrorFolders(workspace.store(), mirror);
+        if (!addFiles(workspace, paths))
+            return -1;
+        workspace.scheduler().setOrganizeByFormat(false);
+        return int(workspace.store().getDataForFormat(u"MP3"_s).size());
+    }
+
+    // An item of `folder` whose tags name `album` by `artist` (none when empty).
+    SXMusicInfoPtr item(const QStringList& description, int index) {
+        const QString path =
+            in(u"%1/%2-%3.flac"_s.arg(description.at(0)).arg(index).arg(QTest::currentDataTag()));
+        QStringList tags;
+        if (!description.at(1).isEmpty())
+            tags << u"-metadata"_s << u"album=%1"_s.arg(description.at(1)) << u"-metadata"_s
+                 << u"album_artist=%1"_s.arg(description.at(2));
+        if (!SonoriaTest::makeTone(path, 0.2, tags))
+            return nullptr;
+        SXMusicInfoPtr music = SXMusicInfo::newForSource(path, description.at(3));
+        music->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(path, true));
+        return music;
     }
 
     QString in(const QString& name) const { return m_sources.filePath(name); }
@@ -201,18 +312,5 @@ private:
     WorkspaceTestPresenter m_presenter;
 };
 
-int TestOutputNaming::setUp(SXWorkspace& workspace, const QStringList& paths,
-                            const QString& pattern, bool mirror) {
-    prepareWorkspace(workspace, &m_presenter);
-    if (!workspace.tabs().selectContainer(u"MP3"_s))
-        return -1;
-    SXSettingPanelActions::setNamePattern(workspace.store(), pattern);
-    SXSettingPanelActions::setMirrorFolders(workspace.store(), mirror);
-    if (!addFiles(workspace, paths))
-        return -1;
-    workspace.scheduler().setOrganizeByFormat(false);
-    return int(workspace.store().getDataForFormat(u"MP3"_s).size());
-}
-
-SONORIA_TEST_MAIN(TestOutputNaming)
-#include "tst_outputnaming.moc"
+SONORIA_TEST_MAIN(TestRunOutputs)
+#include "tst_runoutputs.moc"
