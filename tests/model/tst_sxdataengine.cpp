@@ -83,7 +83,7 @@ private Q_SLOTS:
 
     // The shipped preset: fixed containers first, every default among its choices, every
     // encoder resolved, no output folder of its own, every editable name a real format.
-    void shippedPresetIsConsistent() {
+    void shippedPresetIsConsistentAndCopiesAreIndependent() {
         SXDataEngine* engine = SXDataEngine::shareInstance();
         const QStringList names = engine->getAllOutputFormats();
         QCOMPARE(names.mid(0, 3), SXDataEngine::getCanNotRemoveFormatContainer());
@@ -100,6 +100,29 @@ private Q_SLOTS:
         }
         for (const QString& editable : engine->getCanEditMetadataMusicType())
             QVERIFY2(names.contains(editable), qPrintable(editable));
+
+        // Lookups go by the exact name and hand out copies of their own.
+        for (const QString& name : {u"mp3"_s, u"Mp3"_s, QString()})
+            QVERIFY(!engine->getFormatWithName(name));
+
+        const SXFormatSettingPtr first = engine->getFormatWithName(u"MP3"_s);
+        const SXFormatSettingPtr second = engine->getFormatWithName(u"MP3"_s);
+        QVERIFY(first && second && first != second);
+        const QString rate = first->sampleRate();
+        first->setSampleRate(u"8000"_s);
+        first->setFmtName(u"Changed"_s);
+        first->setEnumAddToLibrary(1);
+        first->setOutputPath(u"/elsewhere"_s);
+        QVERIFY(!engine->getFormatWithName(u"Changed"_s));
+        // Only the choice lists are shared, by the catalogue and all its copies.
+        for (const SXFormatSettingPtr& other : {second, engine->getFormatWithName(u"MP3"_s)})
+            QVERIFY(other->sampleRate() == rate && other->fmtName() == "MP3" &&
+                    other->enumAddToLibrary() == 0 && other->outputPath() != "/elsewhere" &&
+                    first->aryBiteRate().isSharedWith(other->aryBiteRate()));
+        const SXFormatSettingPtr copied = first->copy();
+        QVERIFY(copied->aryChannels().isSharedWith(first->aryChannels()));
+        QVERIFY(copied->sampleRate() == "8000" && copied->outputPath() == "/elsewhere" &&
+                copied->enumAddToLibrary() == 1);
     }
 
     // Every title the shipped catalogue offers is read into a number: digits are that number,
@@ -135,31 +158,6 @@ private Q_SLOTS:
         const SXConversionChoices units =
             SXConversionChoices::fromTitles(u"192 kbps"_s, u" 44100"_s, u"Use Source"_s);
         QVERIFY(units.bitRate == 192 && units.sampleRate == 44100 && !units.lossless);
-    }
-
-    void lookupIsCaseSensitiveAndCopiesAreIndependent() {
-        SXDataEngine* engine = SXDataEngine::shareInstance();
-        for (const QString& name : {u"mp3"_s, u"Mp3"_s, QString()})
-            QVERIFY(!engine->getFormatWithName(name));
-
-        const SXFormatSettingPtr first = engine->getFormatWithName(u"MP3"_s);
-        const SXFormatSettingPtr second = engine->getFormatWithName(u"MP3"_s);
-        QVERIFY(first && second && first != second);
-        const QString rate = first->sampleRate();
-        first->setSampleRate(u"8000"_s);
-        first->setFmtName(u"Changed"_s);
-        first->setEnumAddToLibrary(1);
-        first->setOutputPath(u"/elsewhere"_s);
-        QVERIFY(!engine->getFormatWithName(u"Changed"_s));
-        // Only the choice lists are shared, by the catalogue and all its copies.
-        for (const SXFormatSettingPtr& other : {second, engine->getFormatWithName(u"MP3"_s)})
-            QVERIFY(other->sampleRate() == rate && other->fmtName() == "MP3" &&
-                    other->enumAddToLibrary() == 0 && other->outputPath() != "/elsewhere" &&
-                    first->aryBiteRate().isSharedWith(other->aryBiteRate()));
-        const SXFormatSettingPtr copied = first->copy();
-        QVERIFY(copied->aryChannels().isSharedWith(first->aryChannels()));
-        QVERIFY(copied->sampleRate() == "8000" && copied->outputPath() == "/elsewhere" &&
-                copied->enumAddToLibrary() == 1);
     }
 
     void readsEveryFieldOfAPreset() {

@@ -69,11 +69,6 @@ QVariant storedOnDisk(const QString& key) {
     return QSettings(SXSettings::fileName(), QSettings::IniFormat).value(key);
 }
 
-bool boolOnDisk(const QString& key) {
-    const QString text = storedOnDisk(key).toString();
-    return text == QLatin1String("true") || text == QLatin1String("1");
-}
-
 } // namespace
 
 class TestRemoteConfig : public QObject {
@@ -135,8 +130,8 @@ private Q_SLOTS:
         }
         QVERIFY(fetchConfig(base));
         QCOMPARE(server.requests.size(), status == 0 ? 0 : 1);
-        QCOMPARE(boolOnDisk(SXSettingsKey::SupportVOB), vob);
-        QCOMPARE(boolOnDisk(SXSettingsKey::Experimental), experimental);
+        QCOMPARE(storedOnDisk(SXSettingsKey::SupportVOB).toBool(), vob);
+        QCOMPARE(storedOnDisk(SXSettingsKey::Experimental).toBool(), experimental);
         QVERIFY(config()->supportVOB() && config()->experimental());
         if (failure)
             QCOMPARE(log.lines().filter(QRegularExpression("^get configure error : .")).size(), 1);

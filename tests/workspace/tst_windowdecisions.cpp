@@ -219,7 +219,7 @@ private Q_SLOTS:
         QVERIFY(!chooser.getFormatSettingResult({u"MP3"_s, {}, {}, {}, false}));
     }
 
-    void helpBarSumsEveryContainer() {
+    void helpBarSumsEveryContainerAndStripBarNeverGoesBack() {
         // The hours and the size are written as the locale writes numbers.
         QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
         SXWorkspace workspace;
@@ -234,9 +234,8 @@ private Q_SLOTS:
                  u"3 files, 0.3 hours, 3.0 MB in 2 containers"_s);
         QCOMPARE(SXWorkspaceTexts::countNoun(1), u"item"_s);
         QCOMPARE(SXWorkspaceTexts::countNoun(0), u"items"_s);
-    }
 
-    void stripBarNeverGoesBackAndNamesThePreview() {
+        // The state strip's bar never goes back, and the strip names the preview.
         SXStateStripModel strip;
         QVERIFY(!strip.updateConverterProgress(10)); // hidden while idle: dropped
         strip.updateForAppState(AppStateConverting, nullptr);

@@ -202,23 +202,21 @@ private Q_SLOTS:
             QVERIFY(m_workspace->store().enumAppState() != AppStatePlaying);
     }
 
-    // Another window's Start stops the shared player: this window goes idle, without an alert (a
-    // failure to play, with its alert, is tested on the real player in tst_audioplayernodevice).
-    void foreignStopReturnsToIdleWithoutAnAlert() {
-        m_workspace->preview().playMusic(row(1));
-        SXWorkspace other;
-        other.preview().setPreviewPlayer(m_player.get());
-        other.scheduler().doRealConverterTask(QDir::tempPath());
-        QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
-        QVERIFY(m_presenter.alerts.isEmpty());
-    }
-
-    void sliderSeeksOnlyWhenTheDragPauses() {
+    // The slider seeks only when the drag pauses. Another window's Start stops the shared player:
+    // this window goes idle, without an alert (a failure to play, with its alert, is tested on the
+    // real player in tst_audioplayernodevice).
+    void sliderSeeksWhenTheDragPausesAndAForeignStopEndsThePreview() {
         m_workspace->preview().sliderDown(50, 10.0); // not playing: ignored
         m_workspace->preview().playMusic(row(0));
         for (const double now : {20.0, 20.1, 20.25, 20.5, 20.65})
             m_workspace->preview().sliderDown(25, now);
         QCOMPARE(m_player->seeks, (QList<double>{50.0, 50.0}));
+
+        SXWorkspace other;
+        other.preview().setPreviewPlayer(m_player.get());
+        other.scheduler().doRealConverterTask(QDir::tempPath());
+        QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
+        QVERIFY(m_presenter.alerts.isEmpty());
     }
 
 private:
