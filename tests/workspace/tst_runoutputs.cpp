@@ -4,8 +4,6 @@
 #include "base/SXSettings.h"
 #include "engine/ConvertOutputFile.h"
 #include "framework/MTEAudioFileMgr.h"
-#include "model/SXDataEngine.h"
-#include "workspace/SXContainerMemory.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXItemRowLook.h"
 #include "workspace/SXLoudnessSurvey.h"
@@ -45,8 +43,8 @@ QStringList treeWithIdentity(const QString& dir, bool identity = true) {
 } // namespace
 
 // What a run makes of a container's choices: its outputs' names and folders, what becomes of
-// outputs that exist, and loudness (which items form an album, what a container remembers, and a
-// Stop that comes while the sources are still being measured).
+// outputs that exist, and loudness (which items form an album, and a Stop that comes while the
+// sources are still being measured).
 class TestRunOutputs : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -213,30 +211,6 @@ private Q_SLOTS:
         QCOMPARE(SXLoudnessSurvey::albumKey(*item(first, 1), first.at(3)) ==
                      SXLoudnessSurvey::albumKey(*item(second, 2), second.at(3)),
                  sameAlbum);
-    }
-
-    // Kept in the settings file with the container's other choices; a file from before these
-    // options leaves them off.
-    void choicesAreRemembered() {
-        SXWorkspace workspace;
-        workspace.tabs().addDefaultTabs();
-        QVERIFY(workspace.tabs().selectContainer(u"MP3"_s));
-        SXSettingPanelActions::setReplayGain(workspace.store(), SXReplayGainMode::Album);
-        SXSettingPanelActions::setNormalise(workspace.store(), true);
-        const SXFormatSettingPtr fresh = SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
-        QVERIFY(fresh);
-        QCOMPARE(fresh->replayGain(), SXReplayGainMode::Off);
-        SXContainerMemory::restoreChoices(*fresh);
-        QCOMPARE(fresh->replayGain(), SXReplayGainMode::Album);
-        QVERIFY(fresh->normalise());
-        QCOMPARE(fresh->choices().replayGain, SXReplayGainMode::Album);
-
-        SXSettings::setValue(u"SXContainerChoices/MP3"_s, u"{\"bitRate\":\"128\"}"_s);
-        const SXFormatSettingPtr older = SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
-        SXContainerMemory::restoreChoices(*older);
-        QCOMPARE(older->replayGain(), SXReplayGainMode::Off);
-        QVERIFY(!older->normalise());
-        QCOMPARE(older->bitRate(), u"128"_s);
     }
 
     // Stop before the meters are done: every item ends cancelled, no child starts, no file is

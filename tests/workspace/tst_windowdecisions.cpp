@@ -293,6 +293,8 @@ private Q_SLOTS:
             SXSettingPanelActions::setSampleRate(first.store(),
                                                  catalogueMp3->arySampleRate().last());
             SXSettingPanelActions::setChannels(first.store(), catalogueMp3->aryChannels().last());
+            SXSettingPanelActions::setReplayGain(first.store(), SXReplayGainMode::Album);
+            SXSettingPanelActions::setNormalise(first.store(), true);
             QVERIFY(first.tabs().selectContainer(u"FLAC"_s));
             SXSettingPanelActions::setChannels(first.store(), u"Mono"_s);
             // A name with a blank, which must not become a group of the settings file.
@@ -312,6 +314,8 @@ private Q_SLOTS:
         QCOMPARE(mp3->bitRate(), catalogueMp3->aryBiteRate().first());
         QCOMPARE(mp3->sampleRate(), catalogueMp3->arySampleRate().last());
         QCOMPARE(mp3->channels(), catalogueMp3->aryChannels().last());
+        QVERIFY(mp3->replayGain() == SXReplayGainMode::Album && mp3->normalise());
+        QCOMPARE(mp3->choices().replayGain, SXReplayGainMode::Album);
         QCOMPARE(second.store().getFormatSettingForFormatName(u"FLAC"_s)->channels(), u"Mono"_s);
         QCOMPARE(second.store().getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(),
                  vorbisRates.first());
@@ -336,6 +340,10 @@ private Q_SLOTS:
         QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
                  catalogueMp3->bitRate());
         QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+        // A file from before the loudness options leaves them off.
+        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->replayGain(),
+                 SXReplayGainMode::Off);
+        QVERIFY(!third.store().getFormatSettingForFormatName(u"MP3"_s)->normalise());
     }
 
     void showInFilesAndACancelledStartCreateNothing_data() {
