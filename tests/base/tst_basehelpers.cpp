@@ -17,7 +17,6 @@
 
 #include <cmath>
 #include <limits>
-#include <unistd.h>
 
 using SonoriaTest::EnvironmentGuard;
 using SonoriaTest::readFile;
