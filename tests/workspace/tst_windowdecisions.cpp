@@ -187,7 +187,7 @@ private Q_SLOTS:
         QCOMPARE(got.join(u' '), menu);
     }
 
-    void chooserResultSharesListsAndKeepsNoLibrary() {
+    void chooserResultTakesTheSelectionAndKeepsNoLibrary() {
         SXDataEngine* engine = SXDataEngine::shareInstance();
         const SXFormatSettingPtr flac = engine->getFormatWithName(u"FLAC"_s);
         const SXFormatSettingPtr wav = engine->getFormatWithName(u"WAV"_s);
@@ -195,19 +195,14 @@ private Q_SLOTS:
         const SXFormatChooser chooser({flac, wav});
         QCOMPARE(chooser.formatNames(), (QStringList{u"FLAC"_s, u"WAV"_s}));
 
-        const SXFormatChooser::Choices shown = chooser.changeFormatSelect(u"FLAC"_s);
-        QCOMPARE(shown.bitRates, flac->aryBiteRate());
-        QCOMPARE(shown.sampleRate, flac->sampleRate());
-        QCOMPARE(shown.libraryVisible, flac->enumAddToLibrary() != -1);
+        QCOMPARE(chooser.changeFormatSelect(u"FLAC"_s).libraryVisible,
+                 flac->enumAddToLibrary() != -1);
 
         const QString rate = flac->arySampleRate().last();
         const SXFormatSettingPtr result = chooser.getFormatSettingResult(
             {u"FLAC"_s, rate, flac->aryBiteRate().first(), flac->aryChannels().first(), true});
-        QVERIFY(result && result != flac);
+        QVERIFY(result && result != flac); // a copy; how copies share is the catalogue's test
         QCOMPARE(result->sampleRate(), rate);
-        QVERIFY(result->arySampleRate().isSharedWith(flac->arySampleRate()));
-        result->setFmtName(u"changed"_s);
-        QCOMPARE(flac->fmtName(), u"FLAC"_s);
         QCOMPARE(result->enumAddToLibrary(), flac->enumAddToLibrary() == -1 ? -1 : 1);
 
         // A format without the library option keeps -1 whatever the hidden box says.
