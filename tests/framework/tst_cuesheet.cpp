@@ -51,138 +51,126 @@ QByteArray eightBit(const QString& text, const char* encoding) {
 class TestCueSheet : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void tracksRunFromIndexOneToTheNext();
-    void decodesEveryEncoding_data();
-    void decodesEveryEncoding();
-    void samplePositionsFollowTheRate_data();
-    void samplePositionsFollowTheRate();
-    void readFindsTheAudioOrSaysWhatIsMissing();
-    void embeddedSheetNamesTheFileItself();
+    void tracksRunFromIndexOneToTheNext() {
+        const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
+        QVERIFY2(sheet.error.isEmpty(), qPrintable(sheet.error));
+        QCOMPARE(sheet.tracks.size(), 3);
+        struct Expected {
+            QString title, performer;
+            qint64 start, end;
+        };
+        // The pregap of track 2 (00:01:50 to 00:02:00) stays with track 1; the last runs to the
+        // end.
+        const QList<Expected> expected{{u"Opening"_s, u"The Band"_s, 0, 150},
+                                       {u"Élan"_s, u"The Band"_s, 150, 4510},
+                                       {u"Coda"_s, u"A Guest"_s, 4510, -1}};
+        for (int i = 0; i < 3; ++i) {
+            const SXCueTrack& track = sheet.tracks.at(i);
+            QCOMPARE(track.number, i + 1);
+            QCOMPARE(track.total, 3);
+            QCOMPARE(track.title, expected.at(i).title);
+            QCOMPARE(track.performer, expected.at(i).performer);
+            QCOMPARE(track.startFrame, expected.at(i).start);
+            QCOMPARE(track.endFrame, expected.at(i).end);
+            QCOMPARE(track.album, u"Café Noël"_s);
+            QCOMPARE(track.albumPerformer, u"The Band"_s);
+            QCOMPARE(track.date, u"1999"_s);
+            QCOMPARE(track.genre, u"Jazz Rock"_s);
+            QCOMPARE(track.file, u"/music/album.flac"_s);
+        }
+        QCOMPARE(sheet.tracks.at(1).identity(), u"/music/album.cue#02"_s);
+        QCOMPARE(sheet.tracks.at(1).seconds(100.0), 4360.0 / 75);
+        QCOMPARE(sheet.tracks.at(2).seconds(100.0), 100.0 - 4510.0 / 75);
+
+        // Not a sheet at all, and tracks out of order, are refused with a reason.
+        QVERIFY(!SXCueSheet::parse(u"hello world"_s, u"/x.cue"_s).error.isEmpty());
+        QString backwards = kSheet;
+        backwards.replace(u"INDEX 01 01:00:10"_s, u"INDEX 01 00:01:00"_s);
+        const SXCueSheetResult refused = SXCueSheet::parse(backwards, u"/x.cue"_s);
+        QVERIFY(refused.tracks.isEmpty());
+        QVERIFY(refused.error.contains(u"Track 2"_s));
+    }
+    void decodesEveryEncoding_data() {
+        QTest::addColumn<QByteArray>("bytes");
+        QTest::addColumn<QString>("album");
+        QTest::addColumn<QString>("title");
+        const QString russian = QString(kSheet)
+                                    .replace(u"Café Noël"_s, u"Кино"_s)
+                                    .replace(u"Élan"_s, u"Группа крови"_s)
+                                    .replace(u"Opening"_s, u"Звезда по имени Солнце"_s);
+        QTest::newRow("UTF-8 with BOM")
+            << QByteArray("\xEF\xBB\xBF") + kSheet.toUtf8() << u"Café Noël"_s << u"Élan"_s;
+        QTest::newRow("UTF-8") << kSheet.toUtf8() << u"Café Noël"_s << u"Élan"_s;
+        QTest::newRow("Windows-1252 with CRLF")
+            << windows1252(kSheet).replace("\n", "\r\n") + "\r\n"
+            << u"Café Noël"_s << u"Élan"_s;
+        QTest::newRow("Windows-1251")
+            << eightBit(russian, "WINDOWS-1251") << u"Кино"_s << u"Группа крови"_s;
+    }
+    void decodesEveryEncoding() {
+        QFETCH(QByteArray, bytes);
+        QFETCH(QString, album);
+        QFETCH(QString, title);
+        const QString text = SXCueSheet::decode(bytes);
+        QVERIFY(!text.startsWith(QChar(0xFEFF)));
+        const SXCueSheetResult sheet = SXCueSheet::parse(text, u"/music/album.cue"_s);
+        QCOMPARE(sheet.tracks.size(), 3);
+        QCOMPARE(sheet.tracks.at(0).album, album);
+        QCOMPARE(sheet.tracks.at(1).title, title);
+    }
+    void samplePositionsFollowTheRate_data() {
+        QTest::addColumn<double>("rate");
+        QTest::addColumn<qint64>("start");
+        QTest::addColumn<qint64>("end");
+        // Track 2 of the sheet: frames 150 to 4510.
+        QTest::newRow("44.1 kHz") << 44100.0 << qint64(88200) << qint64(2651880);
+        QTest::newRow("48 kHz") << 48000.0 << qint64(96000) << qint64(2886400);
+        QTest::newRow("96 kHz") << 96000.0 << qint64(192000) << qint64(5772800);
+    }
+    void samplePositionsFollowTheRate() {
+        QFETCH(double, rate);
+        QFETCH(qint64, start);
+        QFETCH(qint64, end);
+        const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
+        QCOMPARE(sheet.tracks.at(1).startSample(rate), start);
+        QCOMPARE(sheet.tracks.at(1).endSample(rate), end);
+        QCOMPARE(sheet.tracks.at(2).endSample(rate), qint64(-1));
+    }
+    void readFindsTheAudioOrSaysWhatIsMissing() {
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString sheetPath = dir.filePath(u"album.cue"_s);
+        QVERIFY(SonoriaTest::writeFile(sheetPath, kSheet.toUtf8()));
+        const SXCueSheetResult missing = SXCueSheet::read(sheetPath);
+        QVERIFY(missing.tracks.isEmpty());
+        QCOMPARE(missing.error, u"The audio file of the cue sheet is missing: album.flac"_s);
+
+        // The sheet names a FLAC; the audio was kept as WAV: it is found under its other name.
+        QVERIFY(SonoriaTest::makeTone(dir.filePath(u"album.wav"_s), 1.0));
+        const SXCueSheetResult found = SXCueSheet::read(sheetPath);
+        QVERIFY2(found.error.isEmpty(), qPrintable(found.error));
+        QCOMPARE(found.tracks.size(), 3);
+        QCOMPARE(found.tracks.at(2).file, dir.filePath(u"album.wav"_s));
+        QVERIFY(!SXCueSheet::read(dir.filePath(u"none.cue"_s)).error.isEmpty());
+    }
+    void embeddedSheetNamesTheFileItself() {
+        QTemporaryDir dir;
+        QVERIFY(dir.isValid());
+        const QString tagged = dir.filePath(u"tagged.flac"_s);
+        QVERIFY(SonoriaTest::makeTone(tagged, 2.0, {"-metadata", "CUESHEET=" + kSheet}));
+        const SXCueSheetResult sheet = SXCueSheet::embedded(tagged);
+        QCOMPARE(sheet.tracks.size(), 3);
+        for (const SXCueTrack& track : sheet.tracks) {
+            QCOMPARE(track.file, tagged);
+            QCOMPARE(track.sheet, tagged);
+        }
+        QCOMPARE(sheet.tracks.at(1).title, u"Élan"_s);
+
+        const QString plain = dir.filePath(u"plain.flac"_s);
+        QVERIFY(SonoriaTest::makeTone(plain, 1.0));
+        QVERIFY(SXCueSheet::embedded(plain).tracks.isEmpty());
+    }
 };
-
-void TestCueSheet::tracksRunFromIndexOneToTheNext() {
-    const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
-    QVERIFY2(sheet.error.isEmpty(), qPrintable(sheet.error));
-    QCOMPARE(sheet.tracks.size(), 3);
-    struct Expected {
-        QString title, performer;
-        qint64 start, end;
-    };
-    // The pregap of track 2 (00:01:50 to 00:02:00) stays with track 1; the last runs to the end.
-    const QList<Expected> expected{{u"Opening"_s, u"The Band"_s, 0, 150},
-                                   {u"Élan"_s, u"The Band"_s, 150, 4510},
-                                   {u"Coda"_s, u"A Guest"_s, 4510, -1}};
-    for (int i = 0; i < 3; ++i) {
-        const SXCueTrack& track = sheet.tracks.at(i);
-        QCOMPARE(track.number, i + 1);
-        QCOMPARE(track.total, 3);
-        QCOMPARE(track.title, expected.at(i).title);
-        QCOMPARE(track.performer, expected.at(i).performer);
-        QCOMPARE(track.startFrame, expected.at(i).start);
-        QCOMPARE(track.endFrame, expected.at(i).end);
-        QCOMPARE(track.album, u"Café Noël"_s);
-        QCOMPARE(track.albumPerformer, u"The Band"_s);
-        QCOMPARE(track.date, u"1999"_s);
-        QCOMPARE(track.genre, u"Jazz Rock"_s);
-        QCOMPARE(track.file, u"/music/album.flac"_s);
-    }
-    QCOMPARE(sheet.tracks.at(1).identity(), u"/music/album.cue#02"_s);
-    QCOMPARE(sheet.tracks.at(1).seconds(100.0), 4360.0 / 75);
-    QCOMPARE(sheet.tracks.at(2).seconds(100.0), 100.0 - 4510.0 / 75);
-
-    // Not a sheet at all, and tracks out of order, are refused with a reason.
-    QVERIFY(!SXCueSheet::parse(u"hello world"_s, u"/x.cue"_s).error.isEmpty());
-    QString backwards = kSheet;
-    backwards.replace(u"INDEX 01 01:00:10"_s, u"INDEX 01 00:01:00"_s);
-    const SXCueSheetResult refused = SXCueSheet::parse(backwards, u"/x.cue"_s);
-    QVERIFY(refused.tracks.isEmpty());
-    QVERIFY(refused.error.contains(u"Track 2"_s));
-}
-
-void TestCueSheet::decodesEveryEncoding_data() {
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("album");
-    QTest::addColumn<QString>("title");
-    const QString russian = QString(kSheet)
-                                .replace(u"Café Noël"_s, u"Кино"_s)
-                                .replace(u"Élan"_s, u"Группа крови"_s)
-                                .replace(u"Opening"_s, u"Звезда по имени Солнце"_s);
-    QTest::newRow("UTF-8 with BOM")
-        << QByteArray("\xEF\xBB\xBF") + kSheet.toUtf8() << u"Café Noël"_s << u"Élan"_s;
-    QTest::newRow("UTF-8") << kSheet.toUtf8() << u"Café Noël"_s << u"Élan"_s;
-    QTest::newRow("Windows-1252 with CRLF") << windows1252(kSheet).replace("\n", "\r\n") + "\r\n"
-                                            << u"Café Noël"_s << u"Élan"_s;
-    QTest::newRow("Windows-1251") << eightBit(russian, "WINDOWS-1251") << u"Кино"_s
-                                  << u"Группа крови"_s;
-}
-
-void TestCueSheet::decodesEveryEncoding() {
-    QFETCH(QByteArray, bytes);
-    QFETCH(QString, album);
-    QFETCH(QString, title);
-    const QString text = SXCueSheet::decode(bytes);
-    QVERIFY(!text.startsWith(QChar(0xFEFF)));
-    const SXCueSheetResult sheet = SXCueSheet::parse(text, u"/music/album.cue"_s);
-    QCOMPARE(sheet.tracks.size(), 3);
-    QCOMPARE(sheet.tracks.at(0).album, album);
-    QCOMPARE(sheet.tracks.at(1).title, title);
-}
-
-void TestCueSheet::samplePositionsFollowTheRate_data() {
-    QTest::addColumn<double>("rate");
-    QTest::addColumn<qint64>("start");
-    QTest::addColumn<qint64>("end");
-    // Track 2 of the sheet: frames 150 to 4510.
-    QTest::newRow("44.1 kHz") << 44100.0 << qint64(88200) << qint64(2651880);
-    QTest::newRow("48 kHz") << 48000.0 << qint64(96000) << qint64(2886400);
-    QTest::newRow("96 kHz") << 96000.0 << qint64(192000) << qint64(5772800);
-}
-
-void TestCueSheet::samplePositionsFollowTheRate() {
-    QFETCH(double, rate);
-    QFETCH(qint64, start);
-    QFETCH(qint64, end);
-    const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
-    QCOMPARE(sheet.tracks.at(1).startSample(rate), start);
-    QCOMPARE(sheet.tracks.at(1).endSample(rate), end);
-    QCOMPARE(sheet.tracks.at(2).endSample(rate), qint64(-1));
-}
-
-void TestCueSheet::readFindsTheAudioOrSaysWhatIsMissing() {
-    QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    const QString sheetPath = dir.filePath(u"album.cue"_s);
-    QVERIFY(SonoriaTest::writeFile(sheetPath, kSheet.toUtf8()));
-    const SXCueSheetResult missing = SXCueSheet::read(sheetPath);
-    QVERIFY(missing.tracks.isEmpty());
-    QCOMPARE(missing.error, u"The audio file of the cue sheet is missing: album.flac"_s);
-
-    // The sheet names a FLAC; the audio was kept as WAV: it is found under its other name.
-    QVERIFY(SonoriaTest::makeTone(dir.filePath(u"album.wav"_s), 1.0));
-    const SXCueSheetResult found = SXCueSheet::read(sheetPath);
-    QVERIFY2(found.error.isEmpty(), qPrintable(found.error));
-    QCOMPARE(found.tracks.size(), 3);
-    QCOMPARE(found.tracks.at(2).file, dir.filePath(u"album.wav"_s));
-    QVERIFY(!SXCueSheet::read(dir.filePath(u"none.cue"_s)).error.isEmpty());
-}
-
-void TestCueSheet::embeddedSheetNamesTheFileItself() {
-    QTemporaryDir dir;
-    QVERIFY(dir.isValid());
-    const QString tagged = dir.filePath(u"tagged.flac"_s);
-    QVERIFY(SonoriaTest::makeTone(tagged, 2.0, {"-metadata", "CUESHEET=" + kSheet}));
-    const SXCueSheetResult sheet = SXCueSheet::embedded(tagged);
-    QCOMPARE(sheet.tracks.size(), 3);
-    for (const SXCueTrack& track : sheet.tracks) {
-        QCOMPARE(track.file, tagged);
-        QCOMPARE(track.sheet, tagged);
-    }
-    QCOMPARE(sheet.tracks.at(1).title, u"Élan"_s);
-
-    const QString plain = dir.filePath(u"plain.flac"_s);
-    QVERIFY(SonoriaTest::makeTone(plain, 1.0));
-    QVERIFY(SXCueSheet::embedded(plain).tracks.isEmpty());
-}
 
 SONORIA_TEST_MAIN(TestCueSheet)
 #include "tst_cuesheet.moc"
