@@ -6,7 +6,6 @@
 #include "support/LogCapture.h"
 #include "support/TestSupport.h"
 
-#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QSet>
@@ -199,34 +198,6 @@ private Q_SLOTS:
             QCOMPARE(size, QFileInfo(folder + u"/long.flac"_s).size());
         QCOMPARE(operation->strOutFilePath(), folder + u"/long.flac"_s);
         QVERIFY(item->mediaInfo()->failReason().isEmpty());
-    }
-
-    // An encoder killed from outside (the system's out-of-memory killer, a user's kill -9)
-    // fails its item with the reason, and its partial file goes.
-    void killedChildFailsWithItsReason() {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(u"out"_s);
-        QDir().mkpath(folder);
-        // Ten minutes to MP3 take several seconds: time enough to kill it mid-way.
-        const QString source = dir.filePath(u"long.wav"_s);
-        QVERIFY(SonoriaTest::makeMedia(source, u"sine=d=600:r=8000"_s));
-        auto item = makeItem(source, 600.0);
-        Recorder recorder;
-        SXOperationQueue queue;
-        queue.addOperation(makeOperation(item, folder, &recorder));
-        QTRY_VERIFY_WITH_TIMEOUT(recorder.count(u"progress"_s) > 0, 30000);
-        QString children;
-        SonoriaTest::run(u"pgrep"_s,
-                         {u"-P"_s, QString::number(::getpid()), u"^(ffmpeg|sonoria-worker)$"_s},
-                         &children);
-        const QStringList pids = children.split(u'\n', Qt::SkipEmptyParts);
-        QCOMPARE(pids.size(), 1);
-        QCOMPARE(::kill(pids.first().toInt(), SIGKILL), 0);
-        queue.waitUntilAllOperationsAreFinished();
-        QCOMPARE(stateOf(item), int(CvtStateFailed));
-        QVERIFY2(item->mediaInfo()->failReason().contains(u"signal 9"_s),
-                 qPrintable(item->mediaInfo()->failReason()));
-        QCOMPARE(entries(folder), QStringList());
     }
 
     // A killed run's temporary file is removed by the next run into that folder; one whose

@@ -150,45 +150,41 @@ private Q_SLOTS:
             QCOMPARE(SonoriaTest::readFile(folder + u'/' + name), name.toUtf8());
     }
 
-    void ringtoneMovesToFreeName() {
-        QTemporaryDir dir;
-        const QString folder = dir.filePath(u"out"_s);
-        const QString source = copyTone(dir.path(), u"song.wav"_s);
-        QVERIFY(SonoriaTest::writeFile(folder + u"/song.m4r"_s, "earlier"));
-        auto item = makeItem(source, 1.0, u"Ringtone"_s, u"aac"_s, u"m4r"_s);
-        LogCapture log;
-        Recorder recorder;
-        auto operation = convert(item, folder, &recorder);
-        QCOMPARE(stateOf(item), int(CvtStateFinished));
-        // Encoded as m4a first, then given its own extension under a free name.
-        QCOMPARE(log.lines().filter(u"args:"_s).filter(u".m4a\")"_s).size(), 1);
-        QCOMPARE(operation->strOutFilePath(), folder + u"/song(1).m4r"_s);
-        QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
-        QCOMPARE(entries(folder), (QStringList{u"song(1).m4r"_s, u"song.m4r"_s}));
-        QCOMPARE(SonoriaTest::readFile(folder + u"/song.m4r"_s), "earlier");
-    }
-
-    void awkwardNamesConvert_data() {
+    // Names a shell or ffmpeg would read as something else convert next to their source, which
+    // stays as it was. A ringtone is encoded as m4a first, then given its own extension under a
+    // free name.
+    void convertsNextToTheSource_data() {
         QTest::addColumn<QString>("name");
-        QTest::newRow("shell characters") << u"it's a \"test\" $HOME; rm -rf x & y.wav"_s;
-        QTest::newRow("leading dash") << u"-y.wav"_s;
-        QTest::newRow("non-ASCII") << u"Ünïcödé 音楽 ñ.wav"_s;
-        QTest::newRow("backslash and star") << u"a\\b*?[c].wav"_s;
+        QTest::addColumn<QString>("output");
+        QTest::newRow("shell characters") << u"it's a \"test\" $HOME; rm -rf x & y.wav"_s
+                                          << u"it's a \"test\" $HOME; rm -rf x & y.mp3"_s;
+        QTest::newRow("leading dash") << u"-y.wav"_s << u"-y.mp3"_s;
+        QTest::newRow("non-ASCII") << u"Ünïcödé 音楽 ñ.wav"_s << u"Ünïcödé 音楽 ñ.mp3"_s;
+        QTest::newRow("backslash and star") << u"a\\b*?[c].wav"_s << u"a\\b*?[c].mp3"_s;
+        QTest::newRow("ringtone beside a taken name") << u"song.wav"_s << u"song(1).m4r"_s;
     }
-    void awkwardNamesConvert() {
+    void convertsNextToTheSource() {
         QFETCH(QString, name);
+        QFETCH(QString, output);
         QTemporaryDir dir;
         const QString source = copyTone(dir.path(), name);
         const QByteArray hash = SonoriaTest::fileHash(source);
+        const bool ringtone = output.endsWith(u".m4r"_s);
+        if (ringtone)
+            QVERIFY(SonoriaTest::writeFile(dir.filePath(u"song.m4r"_s), "earlier"));
+        auto item = ringtone ? makeItem(source, 1.0, u"Ringtone"_s, u"aac"_s, u"m4r"_s)
+                             : makeItem(source, 1.0);
+        LogCapture log;
         Recorder recorder;
-        auto item = makeItem(source, 1.0);
         auto operation = convert(item, QString(), &recorder);
         QCOMPARE(stateOf(item), int(CvtStateFinished));
-        QCOMPARE(operation->strOutFilePath(),
-                 dir.filePath(QFileInfo(name).completeBaseName() + u".mp3"_s));
+        QCOMPARE(operation->strOutFilePath(), dir.filePath(output));
         QVERIFY(QFileInfo(operation->strOutFilePath()).size() > 0);
         QCOMPARE(SonoriaTest::fileHash(source), hash);
-        QCOMPARE(entries(dir.path()).size(), 2);
+        QCOMPARE(entries(dir.path()).size(), ringtone ? 3 : 2);
+        QCOMPARE(log.lines().filter(u"args:"_s).filter(u".m4a\")"_s).size(), ringtone ? 1 : 0);
+        if (ringtone)
+            QCOMPARE(SonoriaTest::readFile(dir.filePath(u"song.m4r"_s)), "earlier");
     }
 
     // The chosen values, the source's where a choice says "Use Source", 0 for a lossless
