@@ -8,59 +8,42 @@
 
 using namespace Qt::StringLiterals;
 
-namespace {
-ConvertNameTags fullTags() {
-    ConvertNameTags tags;
-    tags.artist = u"Nina"_s;
-    tags.albumArtist = u"Various"_s;
-    tags.album = u"Live"_s;
-    tags.title = u"Intro"_s;
-    tags.track = u"3/12"_s;
-    tags.disc = u"2"_s;
-    tags.date = u"2019-05-01"_s;
-    tags.genre = u"Jazz"_s;
-    tags.fileName = u"01 intro"_s;
-    return tags;
-}
-} // namespace
+Q_DECLARE_METATYPE(ConvertNameTags)
 
 class ConvertNamingTest : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void expansion_data() {
         QTest::addColumn<QString>("pattern");
-        QTest::addColumn<bool>("tagged");
+        QTest::addColumn<ConvertNameTags>("tags"); // the file's name is always "01 intro"
         QTest::addColumn<QString>("expected");
-        QTest::newRow("default") << u"{filename}"_s << true << u"01 intro"_s;
-        QTest::newRow("empty pattern") << u""_s << true << u"01 intro"_s;
+        const ConvertNameTags full{u"Nina"_s, u"Various"_s,    u"Live"_s, u"Intro"_s,   u"3/12"_s,
+                                   u"2"_s,    u"2019-05-01"_s, u"Jazz"_s, u"01 intro"_s};
+        QTest::newRow("default") << u"{filename}"_s << full << u"01 intro"_s;
+        QTest::newRow("empty pattern") << u""_s << full << u"01 intro"_s;
         QTest::newRow("folders") << u"{albumartist}/{album} ({year})/{disc}-{track:02} {title}"_s
-                                 << true << u"Various/Live (2019)/2-03 Intro"_s;
+                                 << full << u"Various/Live (2019)/2-03 Intro"_s;
         QTest::newRow("wide and plain numbers")
-            << u"{track:03}.{track}.{disc:02}"_s << true << u"003.3.02"_s;
-        QTest::newRow("artist and genre") << u"{genre}/{artist}"_s << true << u"Jazz/Nina"_s;
+            << u"{track:03}.{track}.{disc:02}"_s << full << u"003.3.02"_s;
+        QTest::newRow("artist and genre") << u"{genre}/{artist}"_s << full << u"Jazz/Nina"_s;
         QTest::newRow("fallbacks")
-            << u"{albumartist}/{album}/{year}/{genre}/{track} {title}"_s << false
+            << u"{albumartist}/{album}/{year}/{genre}/{track} {title}"_s << ConvertNameTags{}
             << u"Unknown Artist/Unknown Album/Unknown Year/"
                u"Unknown Genre/Unknown Track 01 intro"_s;
-        QTest::newRow("no way up or out") << u"/../{album}//./x"_s << true << u"_/Live/_/x"_s;
+        // The album artist falls back to the artist, a title to the file's name.
+        QTest::newRow("other fields")
+            << u"{albumartist}/{title}"_s << ConvertNameTags{.artist = u"  Nina "_s}
+            << u"Nina/01 intro"_s;
+        QTest::newRow("no way up or out") << u"/../{album}//./x"_s << full << u"_/Live/_/x"_s;
         QTest::newRow("unknown field and lone brace")
-            << u"{mood} {title"_s << true << u"{mood} {title"_s;
+            << u"{mood} {title"_s << full << u"{mood} {title"_s;
     }
     void expansion() {
         QFETCH(QString, pattern);
-        QFETCH(bool, tagged);
+        QFETCH(ConvertNameTags, tags);
         QFETCH(QString, expected);
-        ConvertNameTags tags = tagged ? fullTags() : ConvertNameTags{};
         tags.fileName = u"01 intro"_s;
         QCOMPARE(ConvertNaming::expand(pattern, tags), expected);
-    }
-
-    // The album artist falls back to the artist, a title to the file's name.
-    void fallsBackToOtherFields() {
-        ConvertNameTags tags;
-        tags.artist = u"  Nina "_s;
-        tags.fileName = u"take 2"_s;
-        QCOMPARE(ConvertNaming::expand(u"{albumartist}/{title}"_s, tags), u"Nina/take 2"_s);
     }
 
     // Tag values are text from anywhere: each becomes one safe name.

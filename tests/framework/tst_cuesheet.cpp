@@ -81,6 +81,14 @@ private Q_SLOTS:
         QCOMPARE(sheet.tracks.at(1).identity(), u"/music/album.cue#02"_s);
         QCOMPARE(sheet.tracks.at(1).seconds(100.0), 4360.0 / 75);
         QCOMPARE(sheet.tracks.at(2).seconds(100.0), 100.0 - 4510.0 / 75);
+        // In samples, track 2 runs from frame 150 to 4510 at any rate; the last has no end.
+        for (const auto& [rate, start, end] : {std::tuple{44100.0, 88200, 2651880},
+                                               {48000.0, 96000, 2886400},
+                                               {96000.0, 192000, 5772800}}) {
+            QCOMPARE(sheet.tracks.at(1).startSample(rate), qint64(start));
+            QCOMPARE(sheet.tracks.at(1).endSample(rate), qint64(end));
+            QCOMPARE(sheet.tracks.at(2).endSample(rate), qint64(-1));
+        }
 
         // Not a sheet at all, and tracks out of order, are refused with a reason.
         QVERIFY(!SXCueSheet::parse(u"hello world"_s, u"/x.cue"_s).error.isEmpty());
@@ -118,24 +126,6 @@ private Q_SLOTS:
         QCOMPARE(sheet.tracks.at(0).album, album);
         QCOMPARE(sheet.tracks.at(1).title, title);
     }
-    void samplePositionsFollowTheRate_data() {
-        QTest::addColumn<double>("rate");
-        QTest::addColumn<qint64>("start");
-        QTest::addColumn<qint64>("end");
-        // Track 2 of the sheet: frames 150 to 4510.
-        QTest::newRow("44.1 kHz") << 44100.0 << qint64(88200) << qint64(2651880);
-        QTest::newRow("48 kHz") << 48000.0 << qint64(96000) << qint64(2886400);
-        QTest::newRow("96 kHz") << 96000.0 << qint64(192000) << qint64(5772800);
-    }
-    void samplePositionsFollowTheRate() {
-        QFETCH(double, rate);
-        QFETCH(qint64, start);
-        QFETCH(qint64, end);
-        const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
-        QCOMPARE(sheet.tracks.at(1).startSample(rate), start);
-        QCOMPARE(sheet.tracks.at(1).endSample(rate), end);
-        QCOMPARE(sheet.tracks.at(2).endSample(rate), qint64(-1));
-    }
     void readFindsTheAudioOrSaysWhatIsMissing() {
         QTemporaryDir dir;
         QVERIFY(dir.isValid());
@@ -152,10 +142,8 @@ private Q_SLOTS:
         QCOMPARE(found.tracks.size(), 3);
         QCOMPARE(found.tracks.at(2).file, dir.filePath(u"album.wav"_s));
         QVERIFY(!SXCueSheet::read(dir.filePath(u"none.cue"_s)).error.isEmpty());
-    }
-    void embeddedSheetNamesTheFileItself() {
-        QTemporaryDir dir;
-        QVERIFY(dir.isValid());
+
+        // A sheet embedded in a file's tags names that file itself.
         const QString tagged = dir.filePath(u"tagged.flac"_s);
         QVERIFY(SonoriaTest::makeTone(tagged, 2.0, {"-metadata", "CUESHEET=" + kSheet}));
         const SXCueSheetResult sheet = SXCueSheet::embedded(tagged);
