@@ -10,36 +10,11 @@
 
 // Every format of the shipped catalogue, with every choice it offers, must convert a real file
 // with the command line the conversion uses. A choice that ffmpeg refuses would fail the user.
+using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kUseSource = QStringLiteral("Use Source");
-
-struct Conversion {
-    QString label;
-    QStringList arguments;
-    int expectedChannels = 0;
-    double expectedRate = 0;
-};
-
-// The conversion's own command line for a container's choices and a probed source; the output
-// must have the channels and the rate it asks for.
-Conversion conversionCommand(const SXFormatSetting& format, const QString& source,
-                             const ProbeReference& src, const QString& outFile) {
-    ConvertJob job;
-    job.sourcePath = source;
-    job.sourceBitRate = src.bitRate;
-    job.sourceSampleRate = src.sampleRate;
-    job.sourceChannels = src.channels;
-    job.choices = format.choices();
-    job.encoder = format.decodecName();
-    const QStringList arguments =
-        ConvertCommandLine::arguments(QStringLiteral("ffmpeg"), job, outFile);
-    auto asked = [&arguments](const char* option) {
-        return arguments.value(arguments.indexOf(QLatin1String(option)) + 1).toDouble();
-    };
-    return {QString(), arguments, int(asked("-ac")), asked("-ar")};
-}
+const QString kUseSource = u"Use Source"_s;
 
 // One container setting per offered choice: the defaults, then each list varied on its own.
 QList<SXFormatSettingPtr> settingsToTry(const SXFormatSetting& catalogueRecord) {
@@ -61,39 +36,44 @@ QList<SXFormatSettingPtr> settingsToTry(const SXFormatSetting& catalogueRecord) 
     return settings;
 }
 
-bool usesSource(const SXFormatSetting& setting) {
-    return setting.sampleRate() == kUseSource || setting.bitRate() == kUseSource ||
-           setting.channels() == kUseSource;
-}
-
 } // namespace
 
 class TestCatalogueConversion : public QObject {
     Q_OBJECT
 
-private:
     QTemporaryDir m_dir;
     QStringList m_sources; // stereo 44.1 kHz first, then mono 22.05 kHz and 5.1 at 48 kHz
     QList<ProbeReference> m_sourceProps;
 
-    // Runs one conversion and probes its output; a failure text, or none.
-    static QString run(const Conversion& conversion) {
-        const QString what =
-            conversion.label + QStringLiteral(": ") + conversion.arguments.join(QLatin1Char(' '));
+    // Converts source `s` with the conversion's own command line for a setting's choices; the
+    // output must have the channels and the rate that asks for. A failure text, or none.
+    QString convert(const SXFormatSetting& setting, qsizetype s, const QString& out) const {
+        ConvertJob job;
+        job.sourcePath = m_sources[s];
+        job.sourceBitRate = m_sourceProps[s].bitRate;
+        job.sourceSampleRate = m_sourceProps[s].sampleRate;
+        job.sourceChannels = m_sourceProps[s].channels;
+        job.choices = setting.choices();
+        job.encoder = setting.decodecName();
+        const QStringList arguments = ConvertCommandLine::arguments(u"ffmpeg"_s, job, out);
+        const QString what = u"[%1 / %2 / %3] from %4: "_s.arg(
+                                 setting.sampleRate(), setting.bitRate(), setting.channels(),
+                                 QFileInfo(m_sources[s]).fileName()) +
+                             arguments.join(u' ');
         QString output; // "-nostdin" is not part of the command under test: it keeps ffmpeg quiet
-        if (SonoriaTest::run(conversion.arguments.first(),
-                             QStringList{"-nostdin"} + conversion.arguments.mid(1), &output) != 0)
-            return what + QStringLiteral("\n  failed: ") + output.right(400);
-        const QString out = conversion.arguments.last();
+        if (SonoriaTest::run(u"ffmpeg"_s, QStringList{u"-nostdin"_s} + arguments.mid(1), &output))
+            return what + u"\n  failed: "_s + output.right(400);
         const ProbeReference props = ProbeReference::read(out);
-        // Opus streams always decode at 48 kHz whatever rate they were encoded from.
-        const double rate = out.endsWith(QLatin1String(".opus")) ? 48000 : conversion.expectedRate;
         QFile::remove(out);
-        if (props.ok && props.channels == conversion.expectedChannels && props.sampleRate == rate &&
+        const auto asked = [&arguments](const QString& option) {
+            return arguments.value(arguments.indexOf(option) + 1).toDouble();
+        };
+        // Opus streams always decode at 48 kHz whatever rate they were encoded from.
+        const double rate = out.endsWith(u".opus"_s) ? 48000 : asked(u"-ar"_s);
+        if (props.ok && props.channels == int(asked(u"-ac"_s)) && props.sampleRate == rate &&
             props.duration >= 0.5)
             return {};
-        return what + QStringLiteral("\n  output has %1 channels at %2 Hz, %3 s")
-                          .arg(props.channels)
+        return what + u"\n  output has %1 channels at %2 Hz, %3 s"_s.arg(props.channels)
                           .arg(props.sampleRate)
                           .arg(props.duration);
     }
@@ -130,34 +110,25 @@ private Q_SLOTS:
         for (const QString& name : names)
             QTest::newRow(qPrintable(name)) << name;
     }
-
     void everyChoiceConverts() {
         QFETCH(QString, name);
         const SXFormatSettingPtr record = SXDataEngine::shareInstance()->getFormatWithName(name);
         QVERIFY(record);
         // A ringtone is encoded into an m4a file and only renamed afterwards.
-        const QString ext = name.toLower() == QLatin1String("ringtone") ? QStringLiteral("m4a")
-                                                                        : record->outputExtName();
-        QList<Conversion> conversions;
+        const QString ext = name.toLower() == "ringtone"_L1 ? u"m4a"_s : record->outputExtName();
+        QStringList failures;
         for (const SXFormatSettingPtr& setting : settingsToTry(*record)) {
-            const qsizetype sourceCount = usesSource(*setting) ? m_sources.size() : 1;
-            for (qsizetype s = 0; s < sourceCount; ++s) {
-                const QString out =
-                    m_dir.filePath(QStringLiteral("out%1.%2").arg(conversions.size()).arg(ext));
-                Conversion conversion =
-                    conversionCommand(*setting, m_sources[s], m_sourceProps[s], out);
-                conversion.label =
-                    QStringLiteral("%1 [%2 / %3 / %4] from %5")
-                        .arg(name, setting->sampleRate(), setting->bitRate(), setting->channels(),
-                             QFileInfo(m_sources[s]).fileName());
-                conversions.append(conversion);
+            // The source's values are tried on every source.
+            const bool usesSource = setting->sampleRate() == kUseSource ||
+                                    setting->bitRate() == kUseSource ||
+                                    setting->channels() == kUseSource;
+            for (qsizetype s = 0; s < (usesSource ? m_sources.size() : 1); ++s) {
+                const QString out = m_dir.filePath(u"out.%1"_s.arg(ext));
+                if (const QString failure = convert(*setting, s, out); !failure.isEmpty())
+                    failures << name + u' ' + failure;
             }
         }
-        QStringList failures;
-        for (const Conversion& conversion : std::as_const(conversions))
-            if (const QString failure = run(conversion); !failure.isEmpty())
-                failures << failure;
-        QVERIFY2(failures.isEmpty(), qPrintable(failures.join(QLatin1Char('\n'))));
+        QVERIFY2(failures.isEmpty(), qPrintable(failures.join(u'\n')));
     }
 };
 

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QVERIFY(QDir().mkpath(m_outside));
     }
 
-    void newPlaylistGetsHeaderTitleAndRelativeEntryOnce() {
+    void playlistsGetHeaderTitleAndRelativeEntryOnce() {
         const QString file = place(m_music, u"Sonoria/MP3/tone.mp3"_s);
         SXPlaylistFileLibrary library(m_music);
         QCOMPARE(library.deliver(u"Sonoria"_s, file), Result::Added);
@@ -81,22 +81,20 @@ private Q_SLOTS:
         QCOMPARE(library.deliver(u"sonoria"_s, file), Result::Added);
         QVERIFY(QFileInfo::exists(m_music + u"/sonoria.m3u8"_s));
         QCOMPARE(readFile(playlist), expected);
-    }
 
-    void existingPlaylistIsExtendedAndItsEntriesRecognised() {
-        const QString playlist = m_music + u"/Road.m3u8"_s;
+        // One written by another program (CRLF line ends, no final line end) is extended, and its
+        // entries, absolute or as URLs, are recognised.
+        const QString road = m_music + u"/Road.m3u8"_s;
         const QString listedAbsolute = place(m_music, u"old/absolute.mp3"_s);
         const QString listedAsUrl = place(m_outside, u"url song.mp3"_s);
-        // Written by another program: CRLF line ends and no final line end.
         const QByteArray before = "#EXTM3U\r\n#EXTINF:10,Old\r\n" + listedAbsolute.toUtf8() +
                                   "\r\n" + QUrl::fromLocalFile(listedAsUrl).toEncoded();
-        QVERIFY(writeFile(playlist, before));
-        SXPlaylistFileLibrary library(m_music);
+        QVERIFY(writeFile(road, before));
         QCOMPARE(library.deliver(u"Road"_s, listedAbsolute), Result::AlreadyListed);
         QCOMPARE(library.deliver(u"Road"_s, listedAsUrl), Result::AlreadyListed);
-        QCOMPARE(readFile(playlist), before);
+        QCOMPARE(readFile(road), before);
         QCOMPARE(library.deliver(u"Road"_s, place(m_music, u"new/fresh.mp3"_s)), Result::Added);
-        QCOMPARE(readFile(playlist), before + "\n#EXTINF:2,Morning Tone\nnew/fresh.mp3\n");
+        QCOMPARE(readFile(road), before + "\n#EXTINF:2,Morning Tone\nnew/fresh.mp3\n");
     }
 
     // A file outside the music folder gets one link there (a taken name is skipped, the entry
