@@ -1,4 +1,5 @@
 #include "ConvertTestSupport.h"
+#include "NativeTags.h"
 
 #include "framework/MTEAudioFileMgr.h"
 #include "support/TestSupport.h"
@@ -8,23 +9,8 @@
 #include <array>
 #include <span>
 
-#include <taglib/attachedpictureframe.h>
-#include <taglib/commentsframe.h>
-#include <taglib/fileref.h>
-#include <taglib/flacfile.h>
-#include <taglib/flacpicture.h>
-#include <taglib/id3v2tag.h>
-#include <taglib/infotag.h>
-#include <taglib/mp4file.h>
-#include <taglib/mp4tag.h>
-#include <taglib/mpegfile.h>
-#include <taglib/opusfile.h>
-#include <taglib/textidentificationframe.h>
-#include <taglib/tpropertymap.h>
-#include <taglib/unsynchronizedlyricsframe.h>
 #include <taglib/vorbisfile.h>
 #include <taglib/wavfile.h>
-#include <taglib/xiphcomment.h>
 
 // Every source kind converted to every output kind with tags: the output's tags, read back field
 // by field with TagLib at the level of the kind's own frames, atoms and comments (so a field
@@ -32,20 +18,15 @@
 // nothing else but the encoder's name. Kinds without a native reader here (WAV, AIFF, WMA,
 // WavPack) are read through TagLib's common property names, as other players read them.
 using namespace ConvertTest;
+using namespace NativeTags;
 
 namespace {
 
-QString text(const TagLib::String& value) {
-    return QString::fromStdString(value.to8Bit(true));
-}
 TagLib::String tstring(const QString& value) {
     return TagLib::String(value.toStdString(), TagLib::String::UTF8);
 }
 TagLib::ByteVector bytes(const QByteArray& data) {
     return TagLib::ByteVector(data.constData(), unsigned(data.size()));
-}
-QByteArray qbytes(const TagLib::ByteVector& data) {
-    return QByteArray(data.data(), qsizetype(data.size()));
 }
 
 // The output families: ID3v2 frames, MP4 atoms, Xiph comments, and the rest (by property).
@@ -94,89 +75,6 @@ Family familyOfExtension(const QString& extension) {
     if (extension == "flac"_L1 || extension == "ogg"_L1 || extension == "opus"_L1)
         return Xiph;
     return Other;
-}
-
-// What an output carries: one entry per value of every native field, and the pictures.
-struct NativeTags {
-    QMultiMap<QString, QString> fields;
-    QList<QByteArray> pictures;
-};
-
-void readID3v2(const TagLib::ID3v2::Tag& tag, NativeTags* out) {
-    for (TagLib::ID3v2::Frame* frame : tag.frameList()) {
-        const QString id = QString::fromLatin1(frame->frameID().data(), 4);
-        if (auto* picture = dynamic_cast<TagLib::ID3v2::AttachedPictureFrame*>(frame)) {
-            out->pictures.append(qbytes(picture->picture()));
-        } else if (auto* user = dynamic_cast<TagLib::ID3v2::UserTextIdentificationFrame*>(frame)) {
-            const TagLib::StringList values = user->fieldList();
-            for (unsigned i = 1; i < values.size(); ++i) // the first is the description
-                out->fields.insert(id + u':' + text(user->description()), text(values[i]));
-        } else if (auto* textFrame = dynamic_cast<TagLib::ID3v2::TextIdentificationFrame*>(frame)) {
-            for (const TagLib::String& value : textFrame->fieldList())
-                out->fields.insert(id, text(value));
-        } else if (auto* comment = dynamic_cast<TagLib::ID3v2::CommentsFrame*>(frame)) {
-            out->fields.insert(id, text(comment->text()));
-        } else if (auto* lyrics = dynamic_cast<TagLib::ID3v2::UnsynchronizedLyricsFrame*>(frame)) {
-            out->fields.insert(id, text(lyrics->text()));
-        } else {
-            out->fields.insert(id, text(frame->toString()));
-        }
-    }
-}
-
-void readMP4(const TagLib::MP4::Tag& tag, NativeTags* out) {
-    for (const auto& [key, item] : tag.itemMap()) {
-        const QString name = text(key);
-        if (name == "covr"_L1) {
-            for (const TagLib::MP4::CoverArt& cover : item.toCoverArtList())
-                out->pictures.append(qbytes(cover.data()));
-        } else if (name == "trkn"_L1 || name == "disk"_L1) {
-            out->fields.insert(name,
-                               u"%1/%2"_s.arg(item.toIntPair().first).arg(item.toIntPair().second));
-        } else {
-            for (const TagLib::String& value : item.toStringList())
-                out->fields.insert(name, text(value));
-        }
-    }
-}
-
-void readXiph(TagLib::Ogg::XiphComment& comment, NativeTags* out) {
-    for (const auto& [name, values] : comment.fieldListMap()) {
-        for (const TagLib::String& value : values)
-            out->fields.insert(text(name), text(value));
-    }
-    for (const TagLib::FLAC::Picture* picture : comment.pictureList())
-        out->pictures.append(qbytes(picture->data()));
-}
-
-NativeTags readNative(const QString& path) {
-    NativeTags out;
-    const QByteArray name = QFile::encodeName(path);
-    const QString extension = QFileInfo(path).suffix();
-    if (extension == "mp3"_L1) {
-        TagLib::MPEG::File file(name.constData());
-        if (file.hasID3v1Tag() || file.hasAPETag())
-            out.fields.insert(u"another tag"_s, path);
-        if (file.hasID3v2Tag())
-            readID3v2(*file.ID3v2Tag(), &out);
-    } else if (familyOfExtension(extension) == MP4) {
-        TagLib::MP4::File file(name.constData());
-        readMP4(*file.tag(), &out);
-    } else if (extension == "flac"_L1) {
-        TagLib::FLAC::File file(name.constData());
-        if (file.hasID3v1Tag() || file.hasID3v2Tag())
-            out.fields.insert(u"another tag"_s, path);
-        readXiph(*file.xiphComment(true), &out);
-        for (const TagLib::FLAC::Picture* picture : file.pictureList())
-            out.pictures.append(qbytes(picture->data()));
-    } else if (extension == "ogg"_L1) {
-        TagLib::Ogg::Vorbis::File file(name.constData());
-        readXiph(*file.tag(), &out);
-    } else {
-        TagLib::Ogg::Opus::File file(name.constData());
-        readXiph(*file.tag(), &out);
-    }
-    return out;
 }
 
 // What the output of a row must carry: the source's fields, none (a source without tags), or
@@ -325,15 +223,6 @@ QString row(const SourceKind& source, const OutputKind& output, Content content)
            QString::fromUtf8(output.format);
 }
 
-// "key=value" per value, sorted, so a failed comparison names the first field that differs.
-QStringList lines(const QMultiMap<QString, QString>& fields) {
-    QStringList result;
-    for (auto it = fields.cbegin(); it != fields.cend(); ++it)
-        result.append(it.key() + u'=' + it.value());
-    result.sort();
-    return result;
-}
-
 QStringList expectedLines(Family family, Content content) {
     QMultiMap<QString, QString> fields;
     for (const Field& field : content == Content::Untagged ? std::span<const Field>()
@@ -434,7 +323,7 @@ private Q_SLOTS:
             QCOMPARE(pictures, cover);
             return;
         }
-        NativeTags tags = readNative(output);
+        Tags tags = NativeTags::read(output);
         QVERIFY(tags.fields.count(QString::fromUtf8(kEncoderKeys[family])) <= 1);
         tags.fields.remove(QString::fromUtf8(kEncoderKeys[family]));
         QCOMPARE(lines(tags.fields), expectedLines(family, content));
