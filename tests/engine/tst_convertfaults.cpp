@@ -74,26 +74,33 @@ private Q_SLOTS:
     void init() { TranscodeWorkerPool::instance().endIdle(); }
 
     // Whatever goes wrong, the item ends failed with its reason, and the destination holds
-    // neither a final-named file nor a temporary one.
+    // neither a final-named file nor a temporary one. Where nothing can come of a child (no
+    // ffmpeg, no folder to write to), none is started.
     void brokenOutputsNeverCount_data() {
         QTest::addColumn<QString>("fault");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("full file system") << u"full"_s << u"No space left on device"_s;
-        QTest::newRow("file size limit") << u"limit"_s << u"larger than"_s;
-        QTest::newRow("read-only file system") << u"readonly"_s << u"read-only"_s;
+        QTest::addColumn<int>("children"); // ffmpeg children or worker jobs that ended
+        QTest::newRow("full file system") << u"full"_s << u"No space left on device"_s << 1;
+        QTest::newRow("file size limit") << u"limit"_s << u"larger than"_s << 1;
+        QTest::newRow("read-only file system") << u"readonly"_s << u"read-only"_s << 0;
         QTest::newRow("no room for the tags")
-            << u"tags"_s << u"tags could not be written|cannot be read back"_s;
-        QTest::newRow("title too long for WMA") << u"wma"_s << u"tags could not be written"_s;
-        QTest::newRow("FLAC without frames") << u"noframes"_s << u"no audio"_s;
+            << u"tags"_s << u"tags could not be written|cannot be read back"_s << 1;
+        QTest::newRow("title too long for WMA") << u"wma"_s << u"tags could not be written"_s << 1;
+        QTest::newRow("FLAC without frames") << u"noframes"_s << u"no audio"_s << 1;
         QTest::newRow("one sample to MP2")
-            << u"onesample"_s << u"no audio|cannot be read back|shorter"_s;
-        QTest::newRow("shorter than the source") << u"short"_s << u"shorter than the source"_s;
+            << u"onesample"_s << u"no audio|cannot be read back|shorter"_s << 1;
+        QTest::newRow("shorter than the source") << u"short"_s << u"shorter than the source"_s << 1;
+        QTest::newRow("no audio stream") << u"video"_s << u"does not contain any stream"_s << 1;
+        QTest::newRow("unknown encoder") << u"encoder"_s << u"Unknown encoder"_s << 1;
+        QTest::newRow("unwritable output folder") << u"folder"_s << u"output folder"_s << 0;
+        QTest::newRow("no ffmpeg on the path") << u"path"_s << u"ffmpeg was not found"_s << 0;
     }
     void brokenOutputsNeverCount() {
         QFETCH(QString, fault);
         QFETCH(QString, reason);
+        QFETCH(int, children);
         QTemporaryDir dir;
-        const QString folder = dir.filePath(u"out"_s);
+        QString folder = dir.filePath(u"out"_s);
         QDir().mkpath(folder);
         QString source = dir.filePath(u"in.wav"_s);
         double seconds = 10.0;
@@ -140,19 +147,38 @@ private Q_SLOTS:
                                            {u"-frames:a"_s, u"1"_s, u"-ac"_s, u"1"_s}));
             codec = u"mp2"_s;
             ext = u"mp2"_s;
+        } else if (fault == "video"_L1) {
+            seconds = 1.0;
+            source = dir.filePath(u"in.mp4"_s);
+            QVERIFY(SonoriaTest::makeMedia(source, u"testsrc=duration=1:size=64x64"_s));
         } else {
             QVERIFY(SonoriaTest::makeTone(source, fault == "short"_L1 ? 1.0 : seconds));
         }
+        if (fault == "encoder"_L1)
+            codec = u"no_such_encoder"_s;
+        if (fault == "folder"_L1 && ::geteuid() == 0) {
+            // Permissions do not stop root: a folder "inside" a regular file cannot be written.
+            QVERIFY(SonoriaTest::writeFile(dir.filePath(u"blocker"_s), ""));
+            folder = dir.filePath(u"blocker/out"_s);
+        } else if (fault == "folder"_L1) {
+            QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
+        }
+        const QByteArray path = qgetenv("PATH");
+        if (fault == "path"_L1)
+            qputenv("PATH", dir.path().toLocal8Bit());
         if (fault == "limit"_L1)
             limit = std::make_unique<FileSizeLimit>(48 * 1024);
         const QByteArray sourceHash = SonoriaTest::fileHash(source);
         // The record claims what the probe of the source said; "short" claims more.
         auto item = makeItem(source, fault == "short"_L1 ? 5.0 : seconds, u"X"_s, codec, ext);
         item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(source, true));
+        LogCapture log;
         Recorder recorder;
         auto operation = convert(item, folder, &recorder);
         limit.reset();
         qunsetenv("SONORIA_ENGINE");
+        qputenv("PATH", path);
+        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
         QCOMPARE(stateOf(item), int(CvtStateFailed));
         const QString said = item->mediaInfo()->failReason();
@@ -161,7 +187,12 @@ private Q_SLOTS:
             qPrintable(said));
         QCOMPARE(entries(folder), QStringList());
         QCOMPARE(SonoriaTest::fileHash(source), sourceHash);
-        QCOMPARE(recorder.count(u"finish"_s), 1);
+        const QRegularExpression ended(u"^(exit code:|worker \\d+: job )"_s);
+        QCOMPARE(log.lines().filter(ended).size(), children);
+        if (children == 0)
+            QCOMPARE(recorder.events(), QStringList{u"finish"_s});
+        else
+            QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
     }
 
     // While the child writes, the destination shows only the hidden temporary file; the final

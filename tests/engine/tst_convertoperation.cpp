@@ -9,7 +9,6 @@
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
-#include <unistd.h>
 
 using namespace ConvertTest;
 
@@ -61,61 +60,6 @@ private Q_SLOTS:
         operation->pause();
         QCOMPARE(stateOf(item), int(CvtStateFinished));
         QVERIFY(QFileInfo(expected).size() > 0);
-    }
-
-    void failuresLeaveNothingBehind_data() {
-        QTest::addColumn<QString>("kind");
-        QTest::newRow("no audio stream") << u"video"_s;
-        QTest::newRow("unknown encoder") << u"encoder"_s;
-        QTest::newRow("unwritable output folder") << u"folder"_s;
-        QTest::newRow("no ffmpeg on the path") << u"path"_s;
-    }
-    void failuresLeaveNothingBehind() {
-        QFETCH(QString, kind);
-        QTemporaryDir dir;
-        QString folder = dir.filePath(u"out"_s);
-        QString source = copyTone(folder, u"in.wav"_s);
-        QString codec = u"libmp3lame"_s;
-        if (kind == "video"_L1) {
-            source = dir.filePath(u"in.mp4"_s);
-            QVERIFY(SonoriaTest::makeMedia(source, u"testsrc=duration=1:size=64x64"_s));
-        } else if (kind == "encoder"_L1) {
-            codec = u"no_such_encoder"_s;
-        } else if (kind == "folder"_L1 && ::geteuid() == 0) {
-            // Permissions do not stop root: a folder "inside" a regular file cannot be written.
-            QVERIFY(SonoriaTest::writeFile(dir.filePath(u"blocker"_s), ""));
-            folder = dir.filePath(u"blocker/out"_s);
-        } else if (kind == "folder"_L1) {
-            QVERIFY(QFile::setPermissions(folder, QFile::ReadOwner | QFile::ExeOwner));
-        }
-        const QByteArray path = qgetenv("PATH");
-        if (kind == "path"_L1)
-            qputenv("PATH", dir.path().toLocal8Bit());
-        const QStringList before = entries(dir.path());
-        const QStringList beforeInFolder = entries(folder);
-        auto item = makeItem(source, 1.0, u"MP3"_s, codec);
-        LogCapture log;
-        Recorder recorder;
-        convert(item, folder, &recorder);
-        qputenv("PATH", path);
-        QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-
-        QCOMPARE(stateOf(item), int(CvtStateFailed));
-        QCOMPARE(entries(dir.path()), before);
-        QCOMPARE(entries(folder), beforeInFolder);
-        QVERIFY(!log.contains(u"exit code:0"_s));
-        QVERIFY(!item->mediaInfo()->failReason().isEmpty());
-        if (kind == "path"_L1 || kind == "folder"_L1) {
-            // Nothing can come of a child here, so none is started.
-            QVERIFY(log.lines().filter(u"exit code:"_s).isEmpty());
-            QCOMPARE(recorder.events(), QStringList{u"finish"_s});
-        } else {
-            // One ffmpeg child ended, or one worker job.
-            QCOMPARE(
-                log.lines().filter(QRegularExpression(u"^(exit code:|worker \\d+: job )"_s)).size(),
-                1);
-            QVERIFY2(recorder.isWellFormed(), qPrintable(recorder.events().join(u' ')));
-        }
     }
 
     // Parallel runs into a folder where the plain and the first numbered name are taken: each
