@@ -33,6 +33,9 @@ QStringList loudnessFields(const QString& path) {
 
 class ReplayGainTest : public QObject {
     Q_OBJECT
+    QTemporaryDir m_dir;
+    QString m_source;
+
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_dir.isValid());
@@ -167,16 +170,13 @@ private Q_SLOTS:
         const bool opus = extension == u"opus"_s;
         if (opus)
             item.job.choices.sampleRate = 48000; // the only rates the encoder takes
-        ConvertLoudness& loudness = item.job.loudness;
-        loudness.tags = SXReplayGainMode::Album;
-        loudness.trackGain = ConvertLoudness::gainFor(*measured->integrated);
-        loudness.trackPeak = measured->truePeak;
-        loudness.albumGain = -1.5;
-        loudness.albumPeak = 0.75;
+        item.job.loudness = {
+            SXReplayGainMode::Album, false, ConvertLoudness::gainFor(*measured->integrated),
+            measured->truePeak,      -1.5,  0.75};
+        const ConvertLoudness& loudness = item.job.loudness;
         const QString folder = m_dir.filePath(extension);
         QVERIFY(QDir().mkpath(folder));
-        Recorder recorder;
-        const ConvertOperationPtr operation = convert(item, folder, &recorder);
+        const ConvertOperationPtr operation = convert(item, folder, nullptr);
         QVERIFY2(stateOf(item) == CvtStateFinished, qPrintable(item->mediaInfo()->failReason()));
 
         QMultiMap<QString, QString> expected;
@@ -221,10 +221,9 @@ private Q_SLOTS:
         item.job.loudness.normalise = true;
         item.job.loudness.trackGain = ConvertLoudness::gainFor(*measured->integrated);
         item.job.loudness.trackPeak = measured->truePeak;
-        Recorder recorder;
         QVERIFY(QDir().mkpath(m_dir.filePath(u"normalised"_s)));
         const ConvertOperationPtr operation =
-            convert(item, m_dir.filePath(u"normalised"_s), &recorder);
+            convert(item, m_dir.filePath(u"normalised"_s), nullptr);
         QVERIFY2(stateOf(item) == CvtStateFinished, qPrintable(item->mediaInfo()->failReason()));
         const SonoriaTest::LoudnessReference output =
             SonoriaTest::ffmpegLoudness({operation->strOutFilePath()});
@@ -240,10 +239,6 @@ private Q_SLOTS:
         }
         QCOMPARE(loudnessFields(operation->strOutFilePath()), QStringList());
     }
-
-private:
-    QTemporaryDir m_dir;
-    QString m_source;
 };
 
 SONORIA_TEST_MAIN(ReplayGainTest)
