@@ -26,39 +26,33 @@ class RecordingController : public TaskWrapperController {
 public:
     struct Event {
         QString kind;
-        QString text;
-        int code = 0;
+        QString text; // the output, or the termination's status
         QThread* thread = nullptr;
     };
     void appendOutput(const QString& output) override { record({u"output"_s, output}); }
     void processStarted() override { record({u"started"_s}); }
     void processFinished() override { record({u"finished"_s}); }
-    void launcherDidTerminatedWithCode(int code) override { record({u"terminated"_s, {}, code}); }
+    void launcherDidTerminatedWithCode(int code) override {
+        record({u"terminated"_s, QString::number(code)});
+    }
 
     QList<Event> events() const {
         QMutexLocker guard(&m_lock);
         return m_events;
     }
-    QStringList kinds() const {
+    // The kinds of all events, or (given a kind) the texts of those of that kind.
+    QStringList list(const QString& kind = QString()) const {
         QStringList result;
-        for (const Event& event : events())
-            result << event.kind;
+        for (const Event& event : events()) {
+            if (kind.isNull() || event.kind == kind)
+                result << (kind.isNull() ? event.kind : event.text);
+        }
         return result;
     }
-    QList<QString> chunks() const {
-        QList<QString> result;
-        for (const Event& event : events())
-            if (event.kind == "output"_L1)
-                result << event.text;
-        return result;
-    }
+    QStringList kinds() const { return list(); }
+    QStringList chunks() const { return list(u"output"_s); }
     QString output() const { return chunks().join(QString()); }
-    int status() const {
-        for (const Event& event : events())
-            if (event.kind == "terminated"_L1)
-                return event.code;
-        return -1;
-    }
+    int status() const { return list(u"terminated"_s).value(0, u"-1"_s).toInt(); }
     bool terminated() const { return status() != -1; }
     // Every run: started first, then output and stop reports, one termination last.
     bool hasRunShape() const {
