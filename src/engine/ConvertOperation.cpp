@@ -313,9 +313,12 @@ void ConvertOperation::reportTags(const QString& outputPath) {
         return;
     // The record as the tag editor left it is what the output should carry, not the file.
     const std::shared_ptr<MTEAudioFile> handle = item->metHandler();
-    item->setTagReport(
-        MTETagReport::compare(m_job.sourcePath, outputPath,
-                              handle ? MTETagReport::recordOf(*handle) : QMap<QString, QString>()));
+    std::optional<MTEArtworkList> pictures;
+    if (handle && handle->isArtworkLoaded())
+        pictures = handle->albumImg();
+    item->setTagReport(MTETagReport::compare(
+        m_job.sourcePath, outputPath,
+        handle ? MTETagReport::recordOf(*handle) : QMap<QString, QString>(), pictures));
 }
 
 void ConvertOperation::deliverToLibrary(const QString& outputFile) {

@@ -43,8 +43,12 @@ Tags readTags(const QString& path) {
     const MTETagFamily& family = MTETagFileKind::familyOf(file);
     tags.readable = family.canWrite();
     for (const auto& [name, values] : family.properties(file)) {
-        const QString field = QString::fromStdString(name.to8Bit(true));
-        if (expected(field))
+        QString field = QString::fromStdString(name.to8Bit(true));
+        // ID3v2 and ASF read their publisher as LABEL; Xiph comments and MP4 keep it under
+        // PUBLISHER, which is where the copy writes it. One field either way.
+        if (field == QLatin1String("PUBLISHER"))
+            field = QStringLiteral("LABEL");
+        if (expected(field) && !tags.fields.contains(field))
             tags.fields.insert(field, QString::fromStdString(values.toString("; ").to8Bit(true)));
     }
     tags.pictures = family.readArtwork(file);
@@ -59,8 +63,11 @@ QString kindName(const QString& path) {
 } // namespace
 
 MTETagReport MTETagReport::compare(const QString& sourcePath, const QString& outputPath,
-                                   const QMap<QString, QString>& asked) {
+                                   const QMap<QString, QString>& asked,
+                                   const std::optional<MTEArtworkList>& askedPictures) {
     Tags source = readTags(sourcePath);
+    if (askedPictures)
+        source.pictures = *askedPictures;
     for (auto value = asked.cbegin(); value != asked.cend(); ++value) {
         if (value.value().isEmpty())
             source.fields.remove(value.key());

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "framework/MTEArtwork.h"
+
 #include <QCoreApplication>
 #include <QList>
 #include <QMap>
 #include <QString>
 #include <QStringList>
+#include <optional>
 
 class MTEAudioFile;
 
@@ -31,9 +34,11 @@ public:
 
     // Reads both files' tags. `asked` holds the values the tag editor set (unified name ->
     // value, an empty value for a field the user removed); those, not the source file's,
-    // are what the output should carry.
+    // are what the output should carry. `askedPictures`, when set, are the pictures the editor
+    // left (none when the user removed the cover) instead of the source's.
     static MTETagReport compare(const QString& sourcePath, const QString& outputPath,
-                                const QMap<QString, QString>& asked = {});
+                                const QMap<QString, QString>& asked = {},
+                                const std::optional<MTEArtworkList>& askedPictures = {});
 
     // The record of a handle (as read and as edited) under the unified names, as `asked`.
     static QMap<QString, QString> recordOf(const MTEAudioFile& handle);

@@ -2,6 +2,7 @@
 #include "NativeTags.h"
 
 #include "framework/MTEAudioFileMgr.h"
+#include "framework/MTETagReport.h"
 #include "support/TestSupport.h"
 
 #include <QMultiMap>
@@ -309,6 +310,16 @@ private Q_SLOTS:
         const ConvertOperationPtr operation = m_runs.value(row);
         QVERIFY(operation);
         QCOMPARE(stateOf(operation->musicToConvert()), int(CvtStateFinished));
+        // What the run tells the user of the tags must be what the disk shows below: every field
+        // arrives as asked, so nothing is reported lost or changed (a removed cover included).
+        const MTETagReport report = operation->musicToConvert()->tagReport();
+        QVERIFY2(report.lines().isEmpty(), qPrintable(report.lines().join(u'\n')));
+        QCOMPARE(report.kept.isEmpty(), content == Content::Untagged);
+        for (const MTETagReport::Entry& entry : report.kept)
+            QVERIFY(entry.field != u"TITLE"_s ||
+                    entry.after == QString::fromUtf8(content == Content::Edited
+                                                         ? kEditedTitle
+                                                         : kFields[0].value));
         const QString output = operation->strOutFilePath();
         const Family family = familyOfExtension(QFileInfo(output).suffix());
         const QList<QByteArray> cover =
