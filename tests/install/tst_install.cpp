@@ -45,19 +45,183 @@ class TestInstall : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void installsEveryFileInPlace_data();
-    void installsEveryFileInPlace();
-    void installsNothingElse();
-    void validatorsAcceptTheDesktopFiles_data();
-    void validatorsAcceptTheDesktopFiles();
-    void iconComesInEverySize();
-    void desktopEntryOffersEveryAcceptedType();
-    void metainfoDescribesThisRelease();
-    void cliManualListsEveryOption();
-    void installedProgramsAnswerWithoutDisplay_data();
-    void installedProgramsAnswerWithoutDisplay();
-    void installedCliConvertsWithThePrefixAlone();
+    void initTestCase() {
+        QVERIFY(m_destDir.isValid());
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"DESTDIR"_s, m_destDir.path());
+        const RunResult install =
+            runWith(QStringLiteral(SONORIA_CMAKE_COMMAND),
+                    {u"--install"_s, QStringLiteral(SONORIA_BINARY_DIR), u"--prefix"_s, kPrefix},
+                    environment);
+        QVERIFY2(install.exitCode == 0, qPrintable(install.out + install.err));
+        m_prefix = m_destDir.path() + kPrefix;
+    }
+    void installsEveryFileInPlace_data() {
+        QTest::addColumn<QString>("path");
+        QTest::addColumn<bool>("executable");
+        QTest::newRow("program") << u"bin/sonoria"_s << true;
+        QTest::newRow("command-line tool") << u"bin/sonoria-cli"_s << true;
+        QTest::newRow("catalogue") << u"share/sonoria/Formats.plist"_s << false;
+        QTest::newRow("library script") << u"share/sonoria/sync-music-library.sh"_s << true;
+        QTest::newRow("desktop entry")
+            << u"share/applications/app.sonoria.Sonoria.desktop"_s << false;
+        QTest::newRow("metainfo") << u"share/metainfo/app.sonoria.Sonoria.metainfo.xml"_s << false;
+        QTest::newRow("scalable icon")
+            << u"share/icons/hicolor/scalable/apps/app.sonoria.Sonoria.svg"_s << false;
+        QTest::newRow("manual") << u"share/man/man1/sonoria.1.gz"_s << false;
+        QTest::newRow("tool manual") << u"share/man/man1/sonoria-cli.1.gz"_s << false;
+        QTest::newRow("help page") << u"share/sonoria/help.html"_s << false;
+        QTest::newRow("English catalogue")
+            << u"share/sonoria/translations/sonoria_en.qm"_s << false;
+    }
+    void installsEveryFileInPlace() {
+        QFETCH(QString, path);
+        QFETCH(bool, executable);
+        const QFileInfo file(installed(path));
+        QVERIFY2(file.isFile() && file.size() > 0, qPrintable(path));
+        QCOMPARE(file.isExecutable(), executable);
+    }
+    void installsNothingElse() {
+        QStringList strays;
+        QDirIterator it(m_destDir.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+        while (it.hasNext()) {
+            const QString path = it.next();
+            const QString name = QFileInfo(path).fileName();
+            // Benchmarks and tests stay in the build; everything lands under the prefix.
+            if (!path.startsWith(m_prefix + u'/') || name.startsWith(u"sonoria-bench"_s) ||
+                name.startsWith(u"tst_"_s))
+                strays.append(path);
+        }
+        QVERIFY2(strays.isEmpty(), qPrintable(strays.join(u'\n')));
+    }
+    void validatorsAcceptTheDesktopFiles_data() {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::newRow("desktop entry") << u"desktop-file-validate"_s << QStringList{desktopEntry()};
+        QTest::newRow("metainfo") << u"appstreamcli"_s
+                                  << QStringList{u"validate"_s, u"--no-net"_s, metainfo()};
+        // What lintian runs: groff warnings about the page's markup go to standard error.
+        for (const QString& page : {u"sonoria"_s, u"sonoria-cli"_s})
+            QTest::newRow(qPrintable(u"manual "_s + page))
+                << u"man"_s << QStringList{u"--warnings"_s, u"-E"_s, u"UTF-8"_s,  u"-l"_s,
+                                           u"-Tutf8"_s,     u"-Z"_s, manual(page)};
+    }
+    void validatorsAcceptTheDesktopFiles() {
+        QFETCH(QString, program);
+        QFETCH(QStringList, arguments);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
+        environment.insert(u"MANROFFSEQ"_s, QString());
+        const RunResult check = runWith(program, arguments, environment);
+        QVERIFY2(check.exitCode == 0, qPrintable(check.out + check.err));
+        if (program == u"man"_s)
+            QVERIFY2(check.err.isEmpty(), qPrintable(check.err));
+    }
+    void iconComesInEverySize() {
+        for (int size : kIconSizes) {
+            const QString path =
+                installed(u"share/icons/hicolor/%1x%1/apps/app.sonoria.Sonoria.png"_s.arg(size));
+            const QImage icon(path);
+            QCOMPARE(icon.size(), QSize(size, size));
+            // Drawn, not an empty canvas: the middle is opaque, a corner of the rounded square is
+            // not.
+            QCOMPARE(qAlpha(icon.pixel(size / 2, size / 2)), 255);
+            QCOMPARE(qAlpha(icon.pixel(0, 0)), 0);
+        }
+    }
+    void desktopEntryOffersEveryAcceptedType() {
+        const QString entry = QString::fromUtf8(SonoriaTest::readFile(desktopEntry()));
+        const QRegularExpression line(u"^MimeType=(.*)$"_s, QRegularExpression::MultilineOption);
+        const QStringList offered = line.match(entry).captured(1).split(u';', Qt::SkipEmptyParts);
+        const QSet<QString> offeredSet(offered.begin(), offered.end());
+        QMimeDatabase mimes;
+        QStringList missing;
+        for (const QString& extension : SXFolderScan::acceptedExtensions()) {
+            QStringList types;
+            for (const QMimeType& type : mimes.mimeTypesForFileName(u"file."_s + extension))
+                types.append(type.name());
+            // An extension no MIME type claims cannot be offered; one that is claimed must be.
+            const bool covered = types.isEmpty() ||
+                                 std::any_of(types.begin(), types.end(), [&](const QString& name) {
+                                     return offeredSet.contains(name);
+                                 });
+            if (!covered)
+                missing.append(extension + u" ("_s + types.join(u", "_s) + u')');
+        }
+        QVERIFY2(missing.isEmpty(), qPrintable(missing.join(u'\n')));
+        QVERIFY(entry.contains(u"\nExec=sonoria %F\n"_s));
+    }
+    void metainfoDescribesThisRelease() {
+        QXmlStreamReader xml(SonoriaTest::readFile(metainfo()));
+        QString launchable;
+        QStringList releases;
+        while (!xml.atEnd()) {
+            if (xml.readNext() != QXmlStreamReader::StartElement)
+                continue;
+            if (xml.name() == u"launchable")
+                launchable = xml.readElementText();
+            else if (xml.name() == u"release")
+                releases.append(xml.attributes().value(u"version"_s).toString());
+        }
+        QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
+        QCOMPARE(launchable, kAppId + u".desktop"_s);
+        QVERIFY2(releases.contains(SXInstallation::version()), qPrintable(releases.join(u' ')));
+    }
+    void cliManualListsEveryOption() {
+        const RunResult help =
+            runWith(installed(u"bin/sonoria-cli"_s), {u"--help"_s}, userEnvironment());
+        SONORIA_COMPARE_EXIT(help, 0);
+        const RunResult page =
+            runWith(u"gzip"_s, {u"-dc"_s, manual(u"sonoria-cli"_s)}, userEnvironment());
+        SONORIA_COMPARE_EXIT(page, 0);
+        QStringList undocumented;
+        const QRegularExpression option(u"--([a-z][a-z-]+)"_s);
+        for (const QRegularExpressionMatch& match : option.globalMatch(help.out)) {
+            const QString troff = u"\\-\\-"_s + match.captured(1).replace(u'-', u"\\-"_s);
+            if (!page.out.contains(troff))
+                undocumented.append(match.captured(0));
+        }
+        QVERIFY2(undocumented.isEmpty(), qPrintable(undocumented.join(u' ')));
+    }
+    void installedProgramsAnswerWithoutDisplay_data() {
+        QTest::addColumn<QString>("program");
+        QTest::addColumn<QString>("argument");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("sonoria --help")
+            << u"sonoria"_s << u"--help"_s << u"Usage: sonoria [options]"_s;
+        QTest::newRow("sonoria --version")
+            << u"sonoria"_s << u"--version"_s << u"Sonoria "_s + SXInstallation::version();
+        QTest::newRow("sonoria-cli --help")
+            << u"sonoria-cli"_s << u"--help"_s << u"Usage: sonoria-cli"_s;
+    }
+    void installedProgramsAnswerWithoutDisplay() {
+        QFETCH(QString, program);
+        QFETCH(QString, argument);
+        QFETCH(QString, expected);
+        const RunResult answer =
+            runWith(installed(u"bin/"_s + program), {argument}, userEnvironment());
+        QVERIFY2(answer.exitCode == 0, qPrintable(answer.err));
+        QVERIFY2(answer.out.startsWith(expected), qPrintable(answer.out));
+    }
+    void installedCliConvertsWithThePrefixAlone() {
+        QTemporaryDir work;
+        const QString source = work.filePath(u"tone.wav"_s);
+        QVERIFY(SonoriaTest::makeTone(source, 1.0));
+        const QString cli = installed(u"bin/sonoria-cli"_s);
+        const QStringList arguments{u"-f"_s, u"MP3"_s,    u"--no-organize"_s,
+                                    u"-o"_s, work.path(), source};
+        const RunResult converted = runWith(cli, arguments, userEnvironment());
+        QVERIFY2(converted.exitCode == 0, qPrintable(converted.out + converted.err));
+        QVERIFY(QFileInfo(work.filePath(u"tone.mp3"_s)).size() > 0);
+
+        // Without the prefix's own catalogue there is none: no other place is looked in.
+        const QString resources = installed(u"share/sonoria"_s);
+        QVERIFY(QDir().rename(resources, resources + u".away"_s));
+        const RunResult stranded = runWith(cli, arguments, userEnvironment());
+        QVERIFY(QDir().rename(resources + u".away"_s, resources));
+        SONORIA_COMPARE_EXIT(stranded, 2);
+        QVERIFY2(stranded.err.contains(u"unknown format \"MP3\""_s), qPrintable(stranded.err));
+    }
 
 private:
     QString installed(const QString& relative) const { return m_prefix + u'/' + relative; }
@@ -74,190 +238,6 @@ private:
     QTemporaryDir m_destDir;
     QString m_prefix;
 };
-
-void TestInstall::initTestCase() {
-    QVERIFY(m_destDir.isValid());
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"DESTDIR"_s, m_destDir.path());
-    const RunResult install = runWith(
-        QStringLiteral(SONORIA_CMAKE_COMMAND),
-        {u"--install"_s, QStringLiteral(SONORIA_BINARY_DIR), u"--prefix"_s, kPrefix}, environment);
-    QVERIFY2(install.exitCode == 0, qPrintable(install.out + install.err));
-    m_prefix = m_destDir.path() + kPrefix;
-}
-
-void TestInstall::installsEveryFileInPlace_data() {
-    QTest::addColumn<QString>("path");
-    QTest::addColumn<bool>("executable");
-    QTest::newRow("program") << u"bin/sonoria"_s << true;
-    QTest::newRow("command-line tool") << u"bin/sonoria-cli"_s << true;
-    QTest::newRow("catalogue") << u"share/sonoria/Formats.plist"_s << false;
-    QTest::newRow("library script") << u"share/sonoria/sync-music-library.sh"_s << true;
-    QTest::newRow("desktop entry") << u"share/applications/app.sonoria.Sonoria.desktop"_s << false;
-    QTest::newRow("metainfo") << u"share/metainfo/app.sonoria.Sonoria.metainfo.xml"_s << false;
-    QTest::newRow("scalable icon")
-        << u"share/icons/hicolor/scalable/apps/app.sonoria.Sonoria.svg"_s << false;
-    QTest::newRow("manual") << u"share/man/man1/sonoria.1.gz"_s << false;
-    QTest::newRow("tool manual") << u"share/man/man1/sonoria-cli.1.gz"_s << false;
-    QTest::newRow("help page") << u"share/sonoria/help.html"_s << false;
-    QTest::newRow("English catalogue") << u"share/sonoria/translations/sonoria_en.qm"_s << false;
-}
-
-void TestInstall::installsEveryFileInPlace() {
-    QFETCH(QString, path);
-    QFETCH(bool, executable);
-    const QFileInfo file(installed(path));
-    QVERIFY2(file.isFile() && file.size() > 0, qPrintable(path));
-    QCOMPARE(file.isExecutable(), executable);
-}
-
-void TestInstall::installsNothingElse() {
-    QStringList strays;
-    QDirIterator it(m_destDir.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        const QString name = QFileInfo(path).fileName();
-        // Benchmarks and tests stay in the build; everything lands under the prefix.
-        if (!path.startsWith(m_prefix + u'/') || name.startsWith(u"sonoria-bench"_s) ||
-            name.startsWith(u"tst_"_s))
-            strays.append(path);
-    }
-    QVERIFY2(strays.isEmpty(), qPrintable(strays.join(u'\n')));
-}
-
-void TestInstall::validatorsAcceptTheDesktopFiles_data() {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("desktop entry") << u"desktop-file-validate"_s << QStringList{desktopEntry()};
-    QTest::newRow("metainfo") << u"appstreamcli"_s
-                              << QStringList{u"validate"_s, u"--no-net"_s, metainfo()};
-    // What lintian runs: groff warnings about the page's markup go to standard error.
-    for (const QString& page : {u"sonoria"_s, u"sonoria-cli"_s})
-        QTest::newRow(qPrintable(u"manual "_s + page))
-            << u"man"_s << QStringList{u"--warnings"_s, u"-E"_s, u"UTF-8"_s,  u"-l"_s,
-                                       u"-Tutf8"_s,     u"-Z"_s, manual(page)};
-}
-
-void TestInstall::validatorsAcceptTheDesktopFiles() {
-    QFETCH(QString, program);
-    QFETCH(QStringList, arguments);
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-    environment.insert(u"MANROFFSEQ"_s, QString());
-    const RunResult check = runWith(program, arguments, environment);
-    QVERIFY2(check.exitCode == 0, qPrintable(check.out + check.err));
-    if (program == u"man"_s)
-        QVERIFY2(check.err.isEmpty(), qPrintable(check.err));
-}
-
-void TestInstall::iconComesInEverySize() {
-    for (int size : kIconSizes) {
-        const QString path =
-            installed(u"share/icons/hicolor/%1x%1/apps/app.sonoria.Sonoria.png"_s.arg(size));
-        const QImage icon(path);
-        QCOMPARE(icon.size(), QSize(size, size));
-        // Drawn, not an empty canvas: the middle is opaque, a corner of the rounded square is not.
-        QCOMPARE(qAlpha(icon.pixel(size / 2, size / 2)), 255);
-        QCOMPARE(qAlpha(icon.pixel(0, 0)), 0);
-    }
-}
-
-void TestInstall::desktopEntryOffersEveryAcceptedType() {
-    const QString entry = QString::fromUtf8(SonoriaTest::readFile(desktopEntry()));
-    const QRegularExpression line(u"^MimeType=(.*)$"_s, QRegularExpression::MultilineOption);
-    const QStringList offered = line.match(entry).captured(1).split(u';', Qt::SkipEmptyParts);
-    const QSet<QString> offeredSet(offered.begin(), offered.end());
-    QMimeDatabase mimes;
-    QStringList missing;
-    for (const QString& extension : SXFolderScan::acceptedExtensions()) {
-        QStringList types;
-        for (const QMimeType& type : mimes.mimeTypesForFileName(u"file."_s + extension))
-            types.append(type.name());
-        // An extension no MIME type claims cannot be offered; one that is claimed must be.
-        const bool covered =
-            types.isEmpty() || std::any_of(types.begin(), types.end(), [&](const QString& name) {
-                return offeredSet.contains(name);
-            });
-        if (!covered)
-            missing.append(extension + u" ("_s + types.join(u", "_s) + u')');
-    }
-    QVERIFY2(missing.isEmpty(), qPrintable(missing.join(u'\n')));
-    QVERIFY(entry.contains(u"\nExec=sonoria %F\n"_s));
-}
-
-void TestInstall::metainfoDescribesThisRelease() {
-    QXmlStreamReader xml(SonoriaTest::readFile(metainfo()));
-    QString launchable;
-    QStringList releases;
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == u"launchable")
-            launchable = xml.readElementText();
-        else if (xml.name() == u"release")
-            releases.append(xml.attributes().value(u"version"_s).toString());
-    }
-    QVERIFY2(!xml.hasError(), qPrintable(xml.errorString()));
-    QCOMPARE(launchable, kAppId + u".desktop"_s);
-    QVERIFY2(releases.contains(SXInstallation::version()), qPrintable(releases.join(u' ')));
-}
-
-void TestInstall::cliManualListsEveryOption() {
-    const RunResult help =
-        runWith(installed(u"bin/sonoria-cli"_s), {u"--help"_s}, userEnvironment());
-    SONORIA_COMPARE_EXIT(help, 0);
-    const RunResult page =
-        runWith(u"gzip"_s, {u"-dc"_s, manual(u"sonoria-cli"_s)}, userEnvironment());
-    SONORIA_COMPARE_EXIT(page, 0);
-    QStringList undocumented;
-    const QRegularExpression option(u"--([a-z][a-z-]+)"_s);
-    for (const QRegularExpressionMatch& match : option.globalMatch(help.out)) {
-        const QString troff = u"\\-\\-"_s + match.captured(1).replace(u'-', u"\\-"_s);
-        if (!page.out.contains(troff))
-            undocumented.append(match.captured(0));
-    }
-    QVERIFY2(undocumented.isEmpty(), qPrintable(undocumented.join(u' ')));
-}
-
-void TestInstall::installedProgramsAnswerWithoutDisplay_data() {
-    QTest::addColumn<QString>("program");
-    QTest::addColumn<QString>("argument");
-    QTest::addColumn<QString>("expected");
-    QTest::newRow("sonoria --help") << u"sonoria"_s << u"--help"_s << u"Usage: sonoria [options]"_s;
-    QTest::newRow("sonoria --version")
-        << u"sonoria"_s << u"--version"_s << u"Sonoria "_s + SXInstallation::version();
-    QTest::newRow("sonoria-cli --help")
-        << u"sonoria-cli"_s << u"--help"_s << u"Usage: sonoria-cli"_s;
-}
-
-void TestInstall::installedProgramsAnswerWithoutDisplay() {
-    QFETCH(QString, program);
-    QFETCH(QString, argument);
-    QFETCH(QString, expected);
-    const RunResult answer = runWith(installed(u"bin/"_s + program), {argument}, userEnvironment());
-    QVERIFY2(answer.exitCode == 0, qPrintable(answer.err));
-    QVERIFY2(answer.out.startsWith(expected), qPrintable(answer.out));
-}
-
-void TestInstall::installedCliConvertsWithThePrefixAlone() {
-    QTemporaryDir work;
-    const QString source = work.filePath(u"tone.wav"_s);
-    QVERIFY(SonoriaTest::makeTone(source, 1.0));
-    const QString cli = installed(u"bin/sonoria-cli"_s);
-    const QStringList arguments{u"-f"_s, u"MP3"_s,    u"--no-organize"_s,
-                                u"-o"_s, work.path(), source};
-    const RunResult converted = runWith(cli, arguments, userEnvironment());
-    QVERIFY2(converted.exitCode == 0, qPrintable(converted.out + converted.err));
-    QVERIFY(QFileInfo(work.filePath(u"tone.mp3"_s)).size() > 0);
-
-    // Without the prefix's own catalogue there is none: no other place is looked in.
-    const QString resources = installed(u"share/sonoria"_s);
-    QVERIFY(QDir().rename(resources, resources + u".away"_s));
-    const RunResult stranded = runWith(cli, arguments, userEnvironment());
-    QVERIFY(QDir().rename(resources + u".away"_s, resources));
-    SONORIA_COMPARE_EXIT(stranded, 2);
-    QVERIFY2(stranded.err.contains(u"unknown format \"MP3\""_s), qPrintable(stranded.err));
-}
 
 SONORIA_TEST_MAIN(TestInstall)
 #include "tst_install.moc"

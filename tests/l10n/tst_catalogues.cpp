@@ -124,160 +124,144 @@ QStringList problemsOf(const QList<Entry>& entries) {
 class TestCatalogues : public QObject {
     Q_OBJECT
 private Q_SLOTS:
-    void catalogueIsComplete_data();
-    void catalogueIsComplete();
-    void catalogueFollowsTheSources();
-    void checkFindsFaults_data();
-    void checkFindsFaults();
-    void languageIsChosen_data();
-    void languageIsChosen();
-    void toolSpeaksTheLocale_data();
-    void toolSpeaksTheLocale();
-};
-
-void TestCatalogues::catalogueIsComplete_data() {
-    QTest::addColumn<QString>("path");
-    const QStringList files = QDir(kCatalogues).entryList({u"sonoria_*.ts"_s}, QDir::Files);
-    QVERIFY(files.contains(u"sonoria_en.ts"_s));
-    for (const QString& file : files)
-        QTest::newRow(qPrintable(file)) << kCatalogues + u'/' + file;
-}
-
-void TestCatalogues::catalogueIsComplete() {
-    QFETCH(QString, path);
-    QString error;
-    const QList<Entry> entries = readCatalogue(path, &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QVERIFY(entries.size() > 100);
-    SONORIA_VERIFY_NONE(problemsOf(entries));
-}
-
-// Every text the sources hand to tr(), under the class it is in now, is in every catalogue:
-// a renamed class otherwise takes its texts out of the catalogues' reach, and people read
-// them in English although each has its translation under the old name.
-void TestCatalogues::catalogueFollowsTheSources() {
-    QTemporaryDir scratch;
-    const QString scanned = scratch.filePath(u"sources.ts"_s);
-    const QString lupdate = QLibraryInfo::path(QLibraryInfo::BinariesPath) + u"/lupdate"_s;
-    const SonoriaTest::RunResult scan = SonoriaTest::runProgram(
-        lupdate,
-        {u"-silent"_s, u"-locations"_s, u"none"_s, u"-extensions"_s, u"cpp,h"_s, u"src"_s, u"cli"_s,
-         u"app"_s, u"-source-language"_s, u"en"_s, u"-ts"_s, scanned},
-        {}, QStringLiteral(SONORIA_SOURCE_DIR));
-    SONORIA_COMPARE_EXIT(scan, 0);
-    QString error;
-    const QList<Entry> wanted = readCatalogue(scanned, &error);
-    QVERIFY2(wanted.size() > 100, qPrintable(error));
-    for (const QString& file : QDir(kCatalogues).entryList({u"sonoria_*.ts"_s}, QDir::Files)) {
-        QSet<QString> present;
-        for (const Entry& entry : readCatalogue(kCatalogues + u'/' + file, &error))
-            present.insert(entry.context + u'|' + entry.source);
-        QStringList missing;
-        for (const Entry& entry : wanted) {
-            if (!present.contains(entry.context + u'|' + entry.source))
-                missing.append(file + u": "_s + entry.context + u" | "_s + entry.source);
+    void catalogueIsComplete_data() {
+        QTest::addColumn<QString>("path");
+        const QStringList files = QDir(kCatalogues).entryList({u"sonoria_*.ts"_s}, QDir::Files);
+        QVERIFY(files.contains(u"sonoria_en.ts"_s));
+        for (const QString& file : files)
+            QTest::newRow(qPrintable(file)) << kCatalogues + u'/' + file;
+    }
+    void catalogueIsComplete() {
+        QFETCH(QString, path);
+        QString error;
+        const QList<Entry> entries = readCatalogue(path, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY(entries.size() > 100);
+        SONORIA_VERIFY_NONE(problemsOf(entries));
+    }
+    // Every text the sources hand to tr(), under the class it is in now, is in every catalogue:
+    // a renamed class otherwise takes its texts out of the catalogues' reach, and people read
+    // them in English although each has its translation under the old name.
+    void catalogueFollowsTheSources() {
+        QTemporaryDir scratch;
+        const QString scanned = scratch.filePath(u"sources.ts"_s);
+        const QString lupdate = QLibraryInfo::path(QLibraryInfo::BinariesPath) + u"/lupdate"_s;
+        const SonoriaTest::RunResult scan = SonoriaTest::runProgram(
+            lupdate,
+            {u"-silent"_s, u"-locations"_s, u"none"_s, u"-extensions"_s, u"cpp,h"_s, u"src"_s,
+             u"cli"_s, u"app"_s, u"-source-language"_s, u"en"_s, u"-ts"_s, scanned},
+            {}, QStringLiteral(SONORIA_SOURCE_DIR));
+        SONORIA_COMPARE_EXIT(scan, 0);
+        QString error;
+        const QList<Entry> wanted = readCatalogue(scanned, &error);
+        QVERIFY2(wanted.size() > 100, qPrintable(error));
+        for (const QString& file : QDir(kCatalogues).entryList({u"sonoria_*.ts"_s}, QDir::Files)) {
+            QSet<QString> present;
+            for (const Entry& entry : readCatalogue(kCatalogues + u'/' + file, &error))
+                present.insert(entry.context + u'|' + entry.source);
+            QStringList missing;
+            for (const Entry& entry : wanted) {
+                if (!present.contains(entry.context + u'|' + entry.source))
+                    missing.append(file + u": "_s + entry.context + u" | "_s + entry.source);
+            }
+            SONORIA_VERIFY_NONE(missing);
         }
-        SONORIA_VERIFY_NONE(missing);
     }
-}
-
-// The check itself, on small catalogues with one fault each.
-void TestCatalogues::checkFindsFaults_data() {
-    QTest::addColumn<QString>("messages");
-    QTest::addColumn<bool>("faulty");
-    const auto message = [](const char* source, const char* translation) {
-        return u"<message><source>%1</source><translation>%2</translation></message>"_s.arg(
-            QString::fromLatin1(source).toHtmlEscaped(),
-            QString::fromLatin1(translation).toHtmlEscaped());
-    };
-    QTest::newRow("fine") << message("&Open", "&Open") + message("&Save", "&Save") << false;
-    QTest::newRow("unfinished") << u"<message><source>Open</source>"
-                                   "<translation type=\"unfinished\">Open</translation>"
-                                   "</message>"_s
-                                << true;
-    QTest::newRow("empty") << message("Open", "") << true;
-    QTest::newRow("placeholder missing") << message("%1 of %2", "%1 of") << true;
-    QTest::newRow("placeholder extra") << message("of %2", "%1 of %2") << true;
-    QTest::newRow("localised argument") << message("%L1 s", "%1 s") << false;
-    QTest::newRow("accelerator clash")
-        << message("&Open", "&Open") + message("Qu&it", "&Order") << true;
-    QTest::newRow("ampersand is no accelerator")
-        << message("&Open", "&Open") + message("R&&B", "&&Other") << false;
-    QTest::newRow("plural form missing %n")
-        << u"<message numerus=\"yes\"><source>%n files</source><translation>"
-           "<numerusform>one file</numerusform><numerusform>%n files</numerusform>"
-           "</translation></message>"_s
-        << true;
-}
-
-void TestCatalogues::checkFindsFaults() {
-    QFETCH(QString, messages);
-    QFETCH(bool, faulty);
-    QTemporaryDir dir;
-    const QString path = dir.filePath(u"sonoria_xx.ts"_s);
-    QVERIFY(SonoriaTest::writeFile(
-        path, (u"<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\"><context>"
-               "<name>Menu</name>"_s +
-               messages + u"</context></TS>"_s)
-                  .toUtf8()));
-    QString error;
-    const QList<Entry> entries = readCatalogue(path, &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QCOMPARE(!problemsOf(entries).isEmpty(), faulty);
-}
-
-void TestCatalogues::languageIsChosen_data() {
-    QTest::addColumn<QStringList>("uiLanguages");
-    QTest::addColumn<QStringList>("available");
-    QTest::addColumn<QString>("chosen");
-    const QStringList all{u"de"_s, u"en"_s, u"es"_s, u"fr"_s, u"it"_s, u"pt_BR"_s};
-    QTest::newRow("country falls back to language") << QStringList{u"de-AT"_s} << all << u"de"_s;
-    QTest::newRow("country first") << QStringList{u"pt-BR"_s} << all << u"pt_BR"_s;
-    QTest::newRow("no catalogue for the country")
-        << QStringList{u"pt-PT"_s, u"pt"_s} << all << u"en"_s;
-    QTest::newRow("next language of the list")
-        << QStringList{u"nl-NL"_s, u"fr-FR"_s} << all << u"fr"_s;
-    QTest::newRow("C locale") << QStringList{u"C"_s} << all << u"en"_s;
-    QTest::newRow("nothing but English")
-        << QStringList{u"de-DE"_s} << QStringList{u"en"_s} << u"en"_s;
-}
-
-void TestCatalogues::languageIsChosen() {
-    QFETCH(QStringList, uiLanguages);
-    QFETCH(QStringList, available);
-    QFETCH(QString, chosen);
-    QCOMPARE(SXTranslations::languageFor(uiLanguages, available), chosen);
-}
-
-void TestCatalogues::toolSpeaksTheLocale_data() {
-    QTest::addColumn<QString>("lang");
-    QTest::addColumn<int>("files");
-    QTest::addColumn<QString>("summary"); // the English catalogue's plural forms
-    QTest::newRow("C") << u"C"_s << 1 << u"1 file would be converted"_s;
-    QTest::newRow("American English") << u"en_US.UTF-8"_s << 2 << u"2 files would be converted"_s;
-    QTest::newRow("German") << u"de_DE.UTF-8"_s << 1 << u"1 file would be converted"_s;
-}
-
-void TestCatalogues::toolSpeaksTheLocale() {
-    QFETCH(QString, lang);
-    QFETCH(int, files);
-    QFETCH(QString, summary);
-    QTemporaryDir dir;
-    QStringList arguments{u"--dry-run"_s, u"-o"_s, dir.filePath(u"out"_s)};
-    for (int i = 0; i < files; ++i) {
-        arguments.append(dir.filePath(u"tone %1.wav"_s.arg(i)));
-        QVERIFY(SonoriaTest::makeTone(arguments.last(), 0.2));
+    // The check itself, on small catalogues with one fault each.
+    void checkFindsFaults_data() {
+        QTest::addColumn<QString>("messages");
+        QTest::addColumn<bool>("faulty");
+        const auto message = [](const char* source, const char* translation) {
+            return u"<message><source>%1</source><translation>%2</translation></message>"_s.arg(
+                QString::fromLatin1(source).toHtmlEscaped(),
+                QString::fromLatin1(translation).toHtmlEscaped());
+        };
+        QTest::newRow("fine") << message("&Open", "&Open") + message("&Save", "&Save") << false;
+        QTest::newRow("unfinished") << u"<message><source>Open</source>"
+                                       "<translation type=\"unfinished\">Open</translation>"
+                                       "</message>"_s
+                                    << true;
+        QTest::newRow("empty") << message("Open", "") << true;
+        QTest::newRow("placeholder missing") << message("%1 of %2", "%1 of") << true;
+        QTest::newRow("placeholder extra") << message("of %2", "%1 of %2") << true;
+        QTest::newRow("localised argument") << message("%L1 s", "%1 s") << false;
+        QTest::newRow("accelerator clash")
+            << message("&Open", "&Open") + message("Qu&it", "&Order") << true;
+        QTest::newRow("ampersand is no accelerator")
+            << message("&Open", "&Open") + message("R&&B", "&&Other") << false;
+        QTest::newRow("plural form missing %n")
+            << u"<message numerus=\"yes\"><source>%n files</source><translation>"
+               "<numerusform>one file</numerusform><numerusform>%n files</numerusform>"
+               "</translation></message>"_s
+            << true;
     }
-    const SonoriaTest::RunResult cli =
-        SonoriaTest::runCli(arguments, SonoriaTest::cliEnvironment(lang));
-    SONORIA_COMPARE_EXIT(cli, 0);
-    // Until a catalogue of the locale's language exists, the English one speaks.
-    const QString language = lang.section(u'_', 0, 0).section(u'.', 0, 0);
-    if (language != u"C"_s && language != u"en"_s &&
-        QFile::exists(kCatalogues + u"/sonoria_"_s + language + u".ts"_s))
-        QSKIP("the locale has a catalogue of its own");
-    QVERIFY2(cli.out.contains(summary + u" to MP3 in "_s), qPrintable(cli.out));
-}
+    void checkFindsFaults() {
+        QFETCH(QString, messages);
+        QFETCH(bool, faulty);
+        QTemporaryDir dir;
+        const QString path = dir.filePath(u"sonoria_xx.ts"_s);
+        QVERIFY(SonoriaTest::writeFile(
+            path, (u"<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\"><context>"
+                   "<name>Menu</name>"_s +
+                   messages + u"</context></TS>"_s)
+                      .toUtf8()));
+        QString error;
+        const QList<Entry> entries = readCatalogue(path, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QCOMPARE(!problemsOf(entries).isEmpty(), faulty);
+    }
+    void languageIsChosen_data() {
+        QTest::addColumn<QStringList>("uiLanguages");
+        QTest::addColumn<QStringList>("available");
+        QTest::addColumn<QString>("chosen");
+        const QStringList all{u"de"_s, u"en"_s, u"es"_s, u"fr"_s, u"it"_s, u"pt_BR"_s};
+        QTest::newRow("country falls back to language")
+            << QStringList{u"de-AT"_s} << all << u"de"_s;
+        QTest::newRow("country first") << QStringList{u"pt-BR"_s} << all << u"pt_BR"_s;
+        QTest::newRow("no catalogue for the country")
+            << QStringList{u"pt-PT"_s, u"pt"_s} << all << u"en"_s;
+        QTest::newRow("next language of the list")
+            << QStringList{u"nl-NL"_s, u"fr-FR"_s} << all << u"fr"_s;
+        QTest::newRow("C locale") << QStringList{u"C"_s} << all << u"en"_s;
+        QTest::newRow("nothing but English")
+            << QStringList{u"de-DE"_s} << QStringList{u"en"_s} << u"en"_s;
+    }
+    void languageIsChosen() {
+        QFETCH(QStringList, uiLanguages);
+        QFETCH(QStringList, available);
+        QFETCH(QString, chosen);
+        QCOMPARE(SXTranslations::languageFor(uiLanguages, available), chosen);
+    }
+    void toolSpeaksTheLocale_data() {
+        QTest::addColumn<QString>("lang");
+        QTest::addColumn<int>("files");
+        QTest::addColumn<QString>("summary"); // the English catalogue's plural forms
+        QTest::newRow("C") << u"C"_s << 1 << u"1 file would be converted"_s;
+        QTest::newRow("American English")
+            << u"en_US.UTF-8"_s << 2 << u"2 files would be converted"_s;
+        QTest::newRow("German") << u"de_DE.UTF-8"_s << 1 << u"1 file would be converted"_s;
+    }
+    void toolSpeaksTheLocale() {
+        QFETCH(QString, lang);
+        QFETCH(int, files);
+        QFETCH(QString, summary);
+        QTemporaryDir dir;
+        QStringList arguments{u"--dry-run"_s, u"-o"_s, dir.filePath(u"out"_s)};
+        for (int i = 0; i < files; ++i) {
+            arguments.append(dir.filePath(u"tone %1.wav"_s.arg(i)));
+            QVERIFY(SonoriaTest::makeTone(arguments.last(), 0.2));
+        }
+        const SonoriaTest::RunResult cli =
+            SonoriaTest::runCli(arguments, SonoriaTest::cliEnvironment(lang));
+        SONORIA_COMPARE_EXIT(cli, 0);
+        // Until a catalogue of the locale's language exists, the English one speaks.
+        const QString language = lang.section(u'_', 0, 0).section(u'.', 0, 0);
+        if (language != u"C"_s && language != u"en"_s &&
+            QFile::exists(kCatalogues + u"/sonoria_"_s + language + u".ts"_s))
+            QSKIP("the locale has a catalogue of its own");
+        QVERIFY2(cli.out.contains(summary + u" to MP3 in "_s), qPrintable(cli.out));
+    }
+};
 
 SONORIA_TEST_MAIN(TestCatalogues)
 #include "tst_catalogues.moc"

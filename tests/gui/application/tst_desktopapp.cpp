@@ -42,310 +42,287 @@ class TestDesktopApp : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void startUpFillsTheDefaultsAndCreatesNoFolder();
-    void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers();
-    void newContainerRevivesThePrimaryWindowEmpty();
-    void menusFollowTheStateAndNeverBeepWhenOpening();
-    void menuCommandsReachTheKeyWindow();
-    void containerKeysCycleTheTabs_data();
-    void containerKeysCycleTheTabs();
-    void everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey();
+    void init() {
+        for (const QString& key : {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat,
+                                   SXSettingsKey::libraryPlaylistName})
+            SXSettings::removeKey(key);
+        m_app = std::make_unique<SXDesktopApp>();
+        m_app->start({}, false);
+        window().activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&window()));
+    }
+    void cleanup() {
+        m_app.reset();
+        QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
+    }
+    void startUpFillsTheDefaultsAndCreatesNoFolder() {
+        QVERIFY(window().isVisible());
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
+                 QStringLiteral("Sonoria"));
+        // Starting creates no folder of the user's: output folders appear when a run writes.
+        const QString home = SonoriaTest::temporaryHome().processHome();
+        QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
+        QVERIFY(!QFileInfo::exists(SXFileLocalManager::getDefaultUpperOutputDir()));
+        QVERIFY(window().workspace().isRegistered());
+        QVERIFY(window().workspace().store().tabLabels().size() >= 1);
+
+        // A stored choice survives the next start-up: defaults only fill what is missing.
+        SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+        m_app.reset();
+        m_app = std::make_unique<SXDesktopApp>();
+        m_app->start({}, false);
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 2);
+    }
+    // Whether to ask and what each answer does is the workspace's (tst_workspacelists); here the
+    // question is a real message box over the window, and its buttons keep or close the window.
+    void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
+        addTone(QStringLiteral("kept.wav"));
+        window().close();
+        QMessageBox* question = openDialog<QMessageBox>(&window());
+        QVERIFY(question);
+        QCOMPARE(messageTexts(question),
+                 (QStringList{
+                     QStringLiteral("Warnning"),
+                     QStringLiteral("Do you want to close all window without save information?"),
+                     QStringLiteral("Cancel"), QStringLiteral("OK")}));
+        grab(question, QStringLiteral("alert-last-window"));
+        QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
+        QTRY_VERIFY(!question->isVisible());
+        QVERIFY(window().isVisible());
+
+        window().close();
+        question = openDialog<QMessageBox>(&window());
+        QVERIFY(question);
+        QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+        QTRY_VERIFY(!window().isVisible());
+    }
+    void newContainerRevivesThePrimaryWindowEmpty() {
+        // An empty window closes without asking.
+        window().close();
+        QTRY_VERIFY(!window().isVisible());
+        QVERIFY(action(SXCommand::NewContainer)->isEnabled());
+        QVERIFY(!action(SXCommand::Open)->isEnabled());
+        QVERIFY(!action(SXCommand::NewFormat)->isEnabled());
+
+        SXMainAppController* before = &window();
+        action(SXCommand::NewContainer)->trigger();
+        QCOMPARE(&window(), before); // the same window, never a second primary one
+        QVERIFY(window().isVisible());
+        QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
+        QVERIFY(action(SXCommand::Open)->isEnabled());
+
+        // The revived window takes files again.
+        addTone(QStringLiteral("after.wav"));
+    }
+    void menusFollowTheStateAndNeverBeepWhenOpening() {
+        SXWorkspace& ws = window().workspace();
+        QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
+        // Which command a state enables is the command table's (tst_windowdecisions); here the
+        // application reads the state off its window and every action, and so its shortcut, obeys.
+        const auto menusFollow = [this](int state, int count) {
+            const SXCommandContext context = m_app->commandContext();
+            QCOMPARE(context.state, state);
+            QCOMPARE(context.count, count);
+            QVERIFY(context.primaryOpen && context.primaryIsKey && context.hasKeyWorkspace);
+            for (int i = 0; i <= int(SXCommand::About); ++i) {
+                const auto command = SXCommand(i);
+                if (QAction* item = action(command))
+                    QVERIFY2(item->isEnabled() == sxValidateMenuCommand(command, context).enabled,
+                             qPrintable(item->text()));
+            }
+        };
+        menusFollow(AppStateIdle, 0);
+        addTone(QStringLiteral("menu.wav"));
+        menusFollow(AppStateIdle, 1);
+        ws.store().setAppState(AppStateConverting);
+        menusFollow(AppStateConverting, 1);
+        ws.store().setAppState(AppStateIdle);
+        menusFollow(AppStateIdle, 1);
+        QCOMPARE(beeps.count(), 0);
+        ws.tabs().selectTab(0); // a fixed container, whose close item is off
+
+        // Opening a menu validates again, silently, though the fixed container's close item is off.
+        QMenu* fileMenu = window().menuBar()->actions().first()->menu();
+        QVERIFY(fileMenu);
+        fileMenu->popup(window().mapToGlobal(QPoint(10, 10)));
+        QTRY_VERIFY(fileMenu->isVisible());
+        grab(fileMenu, QStringLiteral("menu-file"));
+        QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
+        fileMenu->close();
+        QCOMPARE(beeps.count(), 0);
+    }
+    // (The container commands reach it by their keys: containerKeysCycleTheTabs.)
+    void menuCommandsReachTheKeyWindow() {
+        // Help opens the page staged with the resources (installed alike), made from the README.
+        {
+            LogCapture log;
+            action(SXCommand::Help)->trigger();
+            const QStringList opened = log.lines().filter(
+                QRegularExpression(u"^open file:///.*/share/sonoria/help\\.html$"_s));
+            QCOMPARE(opened.size(), 1);
+            QFile page(QUrl(opened.first().mid(5)).toLocalFile());
+            QVERIFY(page.open(QIODevice::ReadOnly));
+            const QByteArray html = page.readAll();
+            QVERIFY(html.contains("<h1>Using Sonoria</h1>") &&
+                    html.contains("<li><strong>Containers.</strong>"));
+            QVERIFY(window().isVisible());
+        }
+
+        // About names the libraries this process loaded: ffprobe loads the same FFmpeg libraries.
+        QString probe;
+        QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
+        QStringList expected{SXInstallation::version(), u"Qt "_s + QString::fromLatin1(qVersion()),
+                             u"GNU General Public License"_s, u"TagLib 1."_s};
+        expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
+        for (const char* library : {"libavformat", "libavcodec"}) {
+            const QRegularExpressionMatch version =
+                QRegularExpression(QString::fromLatin1(library) +
+                                   u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s)
+                    .match(probe);
+            QVERIFY2(version.hasMatch(), library);
+            expected << QString::fromLatin1(library) + u" %1.%2.%3"_s.arg(version.captured(1),
+                                                                          version.captured(2),
+                                                                          version.captured(3));
+        }
+        QString aboutText;
+        QTimer closer; // the box runs its own loop: look for it from inside that loop
+        closer.setInterval(20);
+        connect(&closer, &QTimer::timeout, this, [&aboutText, &closer] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                aboutText = box->windowTitle() + u'\n' + box->text();
+                closer.stop();
+                box->accept();
+            }
+        });
+        closer.start();
+        action(SXCommand::About)->trigger(); // returns when the box is closed
+        QVERIFY(aboutText.startsWith(u"About Sonoria\n"_s));
+        for (const QString& part : std::as_const(expected))
+            QVERIFY2(aboutText.contains(part), qPrintable(part + u" in "_s + aboutText));
+
+        action(SXCommand::Preferences)->trigger();
+        QTRY_VERIFY(m_app->preferencesDialog() && m_app->preferencesDialog()->isVisible());
+    }
+    void containerKeysCycleTheTabs_data() {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("step");
+        const int ctrl = int(Qt::ControlModifier);
+        const int ctrlShift = int(Qt::ControlModifier | Qt::ShiftModifier);
+        QTest::newRow("Ctrl+Tab") << int(Qt::Key_Tab) << ctrl << 1;
+        QTest::newRow("Ctrl+Shift+Tab") << int(Qt::Key_Tab) << ctrlShift << -1;
+        QTest::newRow("Ctrl+Shift+Backtab") << int(Qt::Key_Backtab) << ctrlShift << -1;
+        QTest::newRow("Ctrl+Page Down") << int(Qt::Key_PageDown) << ctrl << 1;
+        QTest::newRow("Ctrl+Page Up") << int(Qt::Key_PageUp) << ctrl << -1;
+    }
+    void containerKeysCycleTheTabs() {
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        QFETCH(int, step);
+        SXWorkspace& ws = window().workspace();
+        const int tabs = ws.store().tabLabels().size();
+        QVERIFY(tabs > 2);
+        // From the list, which has the focus in normal use and takes Tab and Page keys itself.
+        auto* list = window().findChild<QListView*>(QStringLiteral("itemList"));
+        list->setFocus();
+        int expected = step > 0 ? 0 : tabs - 1;
+        ws.tabs().selectTab(expected);
+        QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
+        for (int i = 1; i < tabs; ++i) { // from one end to the other
+            QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+            expected += step;
+            QCOMPARE(ws.store().selectedTabIndex(), expected);
+            QCOMPARE(window().tabBar().currentIndex(), expected);
+        }
+        QCOMPARE(beeps.count(), 0);
+        // Past the end the command is refused, aloud.
+        QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        QCOMPARE(ws.store().selectedTabIndex(), expected);
+        QCOMPARE(beeps.count(), 1);
+    }
+    void everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
+        const auto noClash = [](QWidget* root) {
+            const QStringList clashes = mnemonicClashes(root);
+            QVERIFY2(clashes.isEmpty(), qPrintable(root->objectName() + QStringLiteral(": ") +
+                                                   clashes.join(QStringLiteral("; "))));
+        };
+        addTone(QStringLiteral("keys.wav"));
+        SXWorkspace& ws = window().workspace();
+        ws.store().setSelectedRows({0});
+        // The window with its information panel open, then each dialog it opens by key.
+        pressInWindow(Qt::Key_I);
+        noClash(&window());
+        grab(&window(), QStringLiteral("window-keys"));
+        pressInWindow(Qt::Key_E);
+        auto* editor = openDialog<SXMetadataEditDialog>(&window());
+        QVERIFY(editor);
+        noClash(editor);
+        editor->reject();
+        pressInWindow(Qt::Key_T);
+        auto* chooser = openDialog<SXFormatChooserDialog>(&window());
+        QVERIFY(chooser);
+        noClash(chooser);
+        chooser->reject();
+        pressInWindow(Qt::Key_Return);
+        auto* folder = openDialog<SXOutputFolderDialog>(&window());
+        QVERIFY(folder);
+        noClash(folder);
+        folder->reject();
+        QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
+
+        // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.
+        const auto openPreferences = [this] {
+            if (!SonoriaGuiTest::activate(&window()))
+                return static_cast<SXPreferencesDialog*>(nullptr);
+            QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
+            SXPreferencesDialog* preferences = m_app->preferencesDialog();
+            return preferences && QTest::qWaitForWindowActive(preferences) ? preferences : nullptr;
+        };
+        SXPreferencesDialog* preferences = openPreferences();
+        QVERIFY(preferences);
+        noClash(preferences);
+        grab(preferences, QStringLiteral("preferences-close"));
+        QTest::keyClick(preferences, Qt::Key_Escape);
+        QTRY_VERIFY(!preferences->isVisible());
+        QVERIFY(openPreferences());
+        QTest::keyClick(preferences, Qt::Key_W, Qt::ControlModifier);
+        QTRY_VERIFY(!preferences->isVisible());
+        QVERIFY(window().isVisible()); // Ctrl+W there closes the preferences, not a container
+        QVERIFY(openPreferences());
+        auto* buttons = preferences->findChild<QDialogButtonBox*>();
+        QVERIFY(buttons);
+        QTest::mouseClick(buttons->button(QDialogButtonBox::Close), Qt::LeftButton);
+        QTRY_VERIFY(!preferences->isVisible());
+    }
 
 private:
     // Adds a real two-second tone to the primary window and waits until it is listed.
-    void addTone(const QString& name);
-    void pressInWindow(Qt::Key key);
+    void addTone(const QString& name) {
+        const QString path = m_media.filePath(name);
+        QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
+        SXWorkspace& ws = window().workspace();
+        const int before = ws.store().currentTabItemCount();
+        ws.addRun().loadAndParseFiles({path});
+        QCOMPARE(ws.store().enumAppState(), int(AppStateLoading));
+        // The count grows on the loader's thread; the window hears of it when the run is over.
+        QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+        QCOMPARE(ws.store().currentTabItemCount(), before + 1);
+        // A load slow enough to show the loading dialog (a sanitizer build, a busy machine) leaves
+        // no window active on this platform once the dialog has closed; a desktop gives it back.
+        QVERIFY(SonoriaGuiTest::activate(&window()));
+    }
+    void pressInWindow(Qt::Key key) {
+        QVERIFY(SonoriaGuiTest::activate(&window()));
+        QTest::keyClick(&window(), key, Qt::ControlModifier);
+    }
     QAction* action(SXCommand command) const { return m_app->menus().action(command); }
     SXMainAppController& window() const { return *m_app->coreWindow(); }
 
     QTemporaryDir m_media;
     std::unique_ptr<SXDesktopApp> m_app;
 };
-
-void TestDesktopApp::init() {
-    for (const QString& key :
-         {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat, SXSettingsKey::libraryPlaylistName})
-        SXSettings::removeKey(key);
-    m_app = std::make_unique<SXDesktopApp>();
-    m_app->start({}, false);
-    window().activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window()));
-}
-
-void TestDesktopApp::cleanup() {
-    m_app.reset();
-    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
-}
-
-void TestDesktopApp::addTone(const QString& name) {
-    const QString path = m_media.filePath(name);
-    QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
-    SXWorkspace& ws = window().workspace();
-    const int before = ws.store().currentTabItemCount();
-    ws.addRun().loadAndParseFiles({path});
-    QCOMPARE(ws.store().enumAppState(), int(AppStateLoading));
-    // The count grows on the loader's thread; the window hears of it when the run is over.
-    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
-    QCOMPARE(ws.store().currentTabItemCount(), before + 1);
-    // A load slow enough to show the loading dialog (a sanitizer build, a busy machine) leaves
-    // no window active on this platform once the dialog has closed; a desktop gives it back.
-    QVERIFY(SonoriaGuiTest::activate(&window()));
-}
-
-void TestDesktopApp::pressInWindow(Qt::Key key) {
-    QVERIFY(SonoriaGuiTest::activate(&window()));
-    QTest::keyClick(&window(), key, Qt::ControlModifier);
-}
-
-void TestDesktopApp::startUpFillsTheDefaultsAndCreatesNoFolder() {
-    QVERIFY(window().isVisible());
-    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
-    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
-    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
-             QStringLiteral("Sonoria"));
-    // Starting creates no folder of the user's: output folders appear when a run writes.
-    const QString home = SonoriaTest::temporaryHome().processHome();
-    QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
-    QVERIFY(!QFileInfo::exists(SXFileLocalManager::getDefaultUpperOutputDir()));
-    QVERIFY(window().workspace().isRegistered());
-    QVERIFY(window().workspace().store().tabLabels().size() >= 1);
-
-    // A stored choice survives the next start-up: defaults only fill what is missing.
-    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
-    m_app.reset();
-    m_app = std::make_unique<SXDesktopApp>();
-    m_app->start({}, false);
-    QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 2);
-}
-
-// Whether to ask and what each answer does is the workspace's (tst_workspacelists); here the
-// question is a real message box over the window, and its buttons keep or close the window.
-void TestDesktopApp::lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
-    addTone(QStringLiteral("kept.wav"));
-    window().close();
-    QMessageBox* question = openDialog<QMessageBox>(&window());
-    QVERIFY(question);
-    QCOMPARE(
-        messageTexts(question),
-        (QStringList{QStringLiteral("Warnning"),
-                     QStringLiteral("Do you want to close all window without save information?"),
-                     QStringLiteral("Cancel"), QStringLiteral("OK")}));
-    grab(question, QStringLiteral("alert-last-window"));
-    QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
-    QTRY_VERIFY(!question->isVisible());
-    QVERIFY(window().isVisible());
-
-    window().close();
-    question = openDialog<QMessageBox>(&window());
-    QVERIFY(question);
-    QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
-    QTRY_VERIFY(!window().isVisible());
-}
-
-void TestDesktopApp::newContainerRevivesThePrimaryWindowEmpty() {
-    // An empty window closes without asking.
-    window().close();
-    QTRY_VERIFY(!window().isVisible());
-    QVERIFY(action(SXCommand::NewContainer)->isEnabled());
-    QVERIFY(!action(SXCommand::Open)->isEnabled());
-    QVERIFY(!action(SXCommand::NewFormat)->isEnabled());
-
-    SXMainAppController* before = &window();
-    action(SXCommand::NewContainer)->trigger();
-    QCOMPARE(&window(), before); // the same window, never a second primary one
-    QVERIFY(window().isVisible());
-    QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
-    QVERIFY(action(SXCommand::Open)->isEnabled());
-
-    // The revived window takes files again.
-    addTone(QStringLiteral("after.wav"));
-}
-
-void TestDesktopApp::menusFollowTheStateAndNeverBeepWhenOpening() {
-    SXWorkspace& ws = window().workspace();
-    QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
-    // Which command a state enables is the command table's (tst_windowdecisions); here the
-    // application reads the state off its window and every action, and so its shortcut, obeys.
-    const auto menusFollow = [this](int state, int count) {
-        const SXCommandContext context = m_app->commandContext();
-        QCOMPARE(context.state, state);
-        QCOMPARE(context.count, count);
-        QVERIFY(context.primaryOpen && context.primaryIsKey && context.hasKeyWorkspace);
-        for (int i = 0; i <= int(SXCommand::About); ++i) {
-            const auto command = SXCommand(i);
-            if (QAction* item = action(command))
-                QVERIFY2(item->isEnabled() == sxValidateMenuCommand(command, context).enabled,
-                         qPrintable(item->text()));
-        }
-    };
-    menusFollow(AppStateIdle, 0);
-    addTone(QStringLiteral("menu.wav"));
-    menusFollow(AppStateIdle, 1);
-    ws.store().setAppState(AppStateConverting);
-    menusFollow(AppStateConverting, 1);
-    ws.store().setAppState(AppStateIdle);
-    menusFollow(AppStateIdle, 1);
-    QCOMPARE(beeps.count(), 0);
-    ws.tabs().selectTab(0); // a fixed container, whose close item is off
-
-    // Opening a menu validates again, silently, though the fixed container's close item is off.
-    QMenu* fileMenu = window().menuBar()->actions().first()->menu();
-    QVERIFY(fileMenu);
-    fileMenu->popup(window().mapToGlobal(QPoint(10, 10)));
-    QTRY_VERIFY(fileMenu->isVisible());
-    grab(fileMenu, QStringLiteral("menu-file"));
-    QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
-    fileMenu->close();
-    QCOMPARE(beeps.count(), 0);
-}
-
-// (The container commands reach it by their keys: containerKeysCycleTheTabs.)
-void TestDesktopApp::menuCommandsReachTheKeyWindow() {
-    // Help opens the page staged with the resources (installed alike), made from the README.
-    {
-        LogCapture log;
-        action(SXCommand::Help)->trigger();
-        const QStringList opened = log.lines().filter(
-            QRegularExpression(u"^open file:///.*/share/sonoria/help\\.html$"_s));
-        QCOMPARE(opened.size(), 1);
-        QFile page(QUrl(opened.first().mid(5)).toLocalFile());
-        QVERIFY(page.open(QIODevice::ReadOnly));
-        const QByteArray html = page.readAll();
-        QVERIFY(html.contains("<h1>Using Sonoria</h1>") &&
-                html.contains("<li><strong>Containers.</strong>"));
-        QVERIFY(window().isVisible());
-    }
-
-    // About names the libraries this process loaded: ffprobe loads the same FFmpeg libraries.
-    QString probe;
-    QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
-    QStringList expected{SXInstallation::version(), u"Qt "_s + QString::fromLatin1(qVersion()),
-                         u"GNU General Public License"_s, u"TagLib 1."_s};
-    expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
-    for (const char* library : {"libavformat", "libavcodec"}) {
-        const QRegularExpressionMatch version =
-            QRegularExpression(QString::fromLatin1(library) + u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s)
-                .match(probe);
-        QVERIFY2(version.hasMatch(), library);
-        expected << QString::fromLatin1(library) + u" %1.%2.%3"_s.arg(version.captured(1),
-                                                                      version.captured(2),
-                                                                      version.captured(3));
-    }
-    QString aboutText;
-    QTimer closer; // the box runs its own loop: look for it from inside that loop
-    closer.setInterval(20);
-    connect(&closer, &QTimer::timeout, this, [&aboutText, &closer] {
-        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            aboutText = box->windowTitle() + u'\n' + box->text();
-            closer.stop();
-            box->accept();
-        }
-    });
-    closer.start();
-    action(SXCommand::About)->trigger(); // returns when the box is closed
-    QVERIFY(aboutText.startsWith(u"About Sonoria\n"_s));
-    for (const QString& part : std::as_const(expected))
-        QVERIFY2(aboutText.contains(part), qPrintable(part + u" in "_s + aboutText));
-
-    action(SXCommand::Preferences)->trigger();
-    QTRY_VERIFY(m_app->preferencesDialog() && m_app->preferencesDialog()->isVisible());
-}
-
-void TestDesktopApp::containerKeysCycleTheTabs_data() {
-    QTest::addColumn<int>("key");
-    QTest::addColumn<int>("modifiers");
-    QTest::addColumn<int>("step");
-    const int ctrl = int(Qt::ControlModifier);
-    const int ctrlShift = int(Qt::ControlModifier | Qt::ShiftModifier);
-    QTest::newRow("Ctrl+Tab") << int(Qt::Key_Tab) << ctrl << 1;
-    QTest::newRow("Ctrl+Shift+Tab") << int(Qt::Key_Tab) << ctrlShift << -1;
-    QTest::newRow("Ctrl+Shift+Backtab") << int(Qt::Key_Backtab) << ctrlShift << -1;
-    QTest::newRow("Ctrl+Page Down") << int(Qt::Key_PageDown) << ctrl << 1;
-    QTest::newRow("Ctrl+Page Up") << int(Qt::Key_PageUp) << ctrl << -1;
-}
-
-void TestDesktopApp::containerKeysCycleTheTabs() {
-    QFETCH(int, key);
-    QFETCH(int, modifiers);
-    QFETCH(int, step);
-    SXWorkspace& ws = window().workspace();
-    const int tabs = ws.store().tabLabels().size();
-    QVERIFY(tabs > 2);
-    // From the list, which has the focus in normal use and takes Tab and Page keys itself.
-    auto* list = window().findChild<QListView*>(QStringLiteral("itemList"));
-    list->setFocus();
-    int expected = step > 0 ? 0 : tabs - 1;
-    ws.tabs().selectTab(expected);
-    QSignalSpy beeps(&window().presenter(), &SXWindowPresenter::beeped);
-    for (int i = 1; i < tabs; ++i) { // from one end to the other
-        QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-        expected += step;
-        QCOMPARE(ws.store().selectedTabIndex(), expected);
-        QCOMPARE(window().tabBar().currentIndex(), expected);
-    }
-    QCOMPARE(beeps.count(), 0);
-    // Past the end the command is refused, aloud.
-    QTest::keyClick(list, Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-    QCOMPARE(ws.store().selectedTabIndex(), expected);
-    QCOMPARE(beeps.count(), 1);
-}
-
-void TestDesktopApp::everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
-    const auto noClash = [](QWidget* root) {
-        const QStringList clashes = mnemonicClashes(root);
-        QVERIFY2(clashes.isEmpty(), qPrintable(root->objectName() + QStringLiteral(": ") +
-                                               clashes.join(QStringLiteral("; "))));
-    };
-    addTone(QStringLiteral("keys.wav"));
-    SXWorkspace& ws = window().workspace();
-    ws.store().setSelectedRows({0});
-    // The window with its information panel open, then each dialog it opens by key.
-    pressInWindow(Qt::Key_I);
-    noClash(&window());
-    grab(&window(), QStringLiteral("window-keys"));
-    pressInWindow(Qt::Key_E);
-    auto* editor = openDialog<SXMetadataEditDialog>(&window());
-    QVERIFY(editor);
-    noClash(editor);
-    editor->reject();
-    pressInWindow(Qt::Key_T);
-    auto* chooser = openDialog<SXFormatChooserDialog>(&window());
-    QVERIFY(chooser);
-    noClash(chooser);
-    chooser->reject();
-    pressInWindow(Qt::Key_Return);
-    auto* folder = openDialog<SXOutputFolderDialog>(&window());
-    QVERIFY(folder);
-    noClash(folder);
-    folder->reject();
-    QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
-
-    // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.
-    const auto openPreferences = [this] {
-        if (!SonoriaGuiTest::activate(&window()))
-            return static_cast<SXPreferencesDialog*>(nullptr);
-        QTest::keyClick(&window(), Qt::Key_Comma, Qt::ControlModifier);
-        SXPreferencesDialog* preferences = m_app->preferencesDialog();
-        return preferences && QTest::qWaitForWindowActive(preferences) ? preferences : nullptr;
-    };
-    SXPreferencesDialog* preferences = openPreferences();
-    QVERIFY(preferences);
-    noClash(preferences);
-    grab(preferences, QStringLiteral("preferences-close"));
-    QTest::keyClick(preferences, Qt::Key_Escape);
-    QTRY_VERIFY(!preferences->isVisible());
-    QVERIFY(openPreferences());
-    QTest::keyClick(preferences, Qt::Key_W, Qt::ControlModifier);
-    QTRY_VERIFY(!preferences->isVisible());
-    QVERIFY(window().isVisible()); // Ctrl+W there closes the preferences, not a container
-    QVERIFY(openPreferences());
-    auto* buttons = preferences->findChild<QDialogButtonBox*>();
-    QVERIFY(buttons);
-    QTest::mouseClick(buttons->button(QDialogButtonBox::Close), Qt::LeftButton);
-    QTRY_VERIFY(!preferences->isVisible());
-}
 
 SONORIA_GUI_TEST_MAIN(TestDesktopApp)
 #include "tst_desktopapp.moc"

@@ -23,94 +23,88 @@ class TestLocaleWindow : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void everyTextFits_data();
-    void everyTextFits();
+    void initTestCase() {
+        QVERIFY(m_media.isValid());
+        m_source = m_media.filePath(QStringLiteral("Morning Walk.flac"));
+        QVERIFY(SonoriaTest::makeTone(m_source, 2.0));
+    }
+    void everyTextFits_data() {
+        QTest::addColumn<QString>("language");
+        const QStringList languages = SXTranslations::availableLanguages();
+        QVERIFY(languages.contains(QStringLiteral("en")));
+        for (const QString& language : languages)
+            QTest::newRow(qPrintable(language)) << language;
+    }
+    void everyTextFits() {
+        QFETCH(QString, language);
+        const QList<QTranslator*> translators = SXTranslations::load(language, this);
+        QVERIFY(!translators.isEmpty());
+        for (QTranslator* translator : translators)
+            QCoreApplication::installTranslator(translator);
+        QLocale::setDefault(QLocale(language));
+        const auto restore = qScopeGuard([&translators] {
+            for (QTranslator* translator : translators) {
+                QCoreApplication::removeTranslator(translator);
+                delete translator;
+            }
+            QLocale::setDefault(QLocale::c());
+        });
+
+        SXMainAppController window;
+        window.resize(960, 600);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        SXWorkspace& ws = window.workspace();
+        ws.tabs().addDefaultTabs();
+        ws.addRun().loadAndParseFiles({m_source});
+        QTRY_COMPARE_WITH_TIMEOUT(ws.store().currentTabItemCount(), 1, 10000);
+        QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+        QTest::qWait(50);
+        grab(&window, QStringLiteral("locale-window-") + language);
+        SONORIA_VERIFY_NONE(clippedTexts(&window));
+
+        // The summary of a run with failures, in the words the scheduler uses.
+        const SXPathFailureList failures{
+            {m_media.filePath(QStringLiteral("Evening Song.flac")),
+             QCoreApplication::translate("ConvertFailure", "No space left on device")},
+            {m_media.filePath(QStringLiteral("Night.wav")),
+             QCoreApplication::translate("ConvertFailure", "The output folder is read-only")}};
+        ws.store().runAlert({SXWorkspaceScheduler::summaryMessage(4, failures),
+                             QString(),
+                             {QCoreApplication::translate("SXWorkspaceScheduler", "OK")}});
+        QMessageBox* summary = openDialog<QMessageBox>(&window);
+        QVERIFY(summary);
+        QVERIFY(QTest::qWaitForWindowExposed(summary));
+        // The English catalogue corrects the source text's grammar.
+        if (language == QLatin1String("en"))
+            QVERIFY2(summary->text().startsWith(QLatin1String("4 files have been converted.")),
+                     qPrintable(summary->text()));
+        grab(summary, QStringLiteral("locale-summary-") + language);
+        SONORIA_VERIFY_NONE(clippedTexts(summary));
+        QTest::keyClick(summary, Qt::Key_Return);
+        QTRY_VERIFY(!summary->isVisible());
+
+        // The dialogs with the most words: the format chooser and the preferences.
+        QTest::mouseClick(window.tabBar().addButton(), Qt::LeftButton);
+        auto* chooser = openDialog<SXFormatChooserDialog>(&window);
+        QVERIFY(chooser);
+        QVERIFY(QTest::qWaitForWindowExposed(chooser));
+        grab(chooser, QStringLiteral("locale-chooser-") + language);
+        SONORIA_VERIFY_NONE(clippedTexts(chooser));
+        QTest::keyClick(chooser, Qt::Key_Escape);
+        QTRY_VERIFY(!chooser->isVisible());
+
+        SXPreferencesDialog preferences;
+        preferences.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&preferences));
+        grab(&preferences, QStringLiteral("locale-preferences-") + language);
+        SONORIA_VERIFY_NONE(clippedTexts(&preferences));
+    }
 
 private:
     QTemporaryDir m_media;
     QString m_source;
 };
-
-void TestLocaleWindow::initTestCase() {
-    QVERIFY(m_media.isValid());
-    m_source = m_media.filePath(QStringLiteral("Morning Walk.flac"));
-    QVERIFY(SonoriaTest::makeTone(m_source, 2.0));
-}
-
-void TestLocaleWindow::everyTextFits_data() {
-    QTest::addColumn<QString>("language");
-    const QStringList languages = SXTranslations::availableLanguages();
-    QVERIFY(languages.contains(QStringLiteral("en")));
-    for (const QString& language : languages)
-        QTest::newRow(qPrintable(language)) << language;
-}
-
-void TestLocaleWindow::everyTextFits() {
-    QFETCH(QString, language);
-    const QList<QTranslator*> translators = SXTranslations::load(language, this);
-    QVERIFY(!translators.isEmpty());
-    for (QTranslator* translator : translators)
-        QCoreApplication::installTranslator(translator);
-    QLocale::setDefault(QLocale(language));
-    const auto restore = qScopeGuard([&translators] {
-        for (QTranslator* translator : translators) {
-            QCoreApplication::removeTranslator(translator);
-            delete translator;
-        }
-        QLocale::setDefault(QLocale::c());
-    });
-
-    SXMainAppController window;
-    window.resize(960, 600);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    SXWorkspace& ws = window.workspace();
-    ws.tabs().addDefaultTabs();
-    ws.addRun().loadAndParseFiles({m_source});
-    QTRY_COMPARE_WITH_TIMEOUT(ws.store().currentTabItemCount(), 1, 10000);
-    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
-    QTest::qWait(50);
-    grab(&window, QStringLiteral("locale-window-") + language);
-    SONORIA_VERIFY_NONE(clippedTexts(&window));
-
-    // The summary of a run with failures, in the words the scheduler uses.
-    const SXPathFailureList failures{
-        {m_media.filePath(QStringLiteral("Evening Song.flac")),
-         QCoreApplication::translate("ConvertFailure", "No space left on device")},
-        {m_media.filePath(QStringLiteral("Night.wav")),
-         QCoreApplication::translate("ConvertFailure", "The output folder is read-only")}};
-    ws.store().runAlert({SXWorkspaceScheduler::summaryMessage(4, failures),
-                         QString(),
-                         {QCoreApplication::translate("SXWorkspaceScheduler", "OK")}});
-    QMessageBox* summary = openDialog<QMessageBox>(&window);
-    QVERIFY(summary);
-    QVERIFY(QTest::qWaitForWindowExposed(summary));
-    // The English catalogue corrects the source text's grammar.
-    if (language == QLatin1String("en"))
-        QVERIFY2(summary->text().startsWith(QLatin1String("4 files have been converted.")),
-                 qPrintable(summary->text()));
-    grab(summary, QStringLiteral("locale-summary-") + language);
-    SONORIA_VERIFY_NONE(clippedTexts(summary));
-    QTest::keyClick(summary, Qt::Key_Return);
-    QTRY_VERIFY(!summary->isVisible());
-
-    // The dialogs with the most words: the format chooser and the preferences.
-    QTest::mouseClick(window.tabBar().addButton(), Qt::LeftButton);
-    auto* chooser = openDialog<SXFormatChooserDialog>(&window);
-    QVERIFY(chooser);
-    QVERIFY(QTest::qWaitForWindowExposed(chooser));
-    grab(chooser, QStringLiteral("locale-chooser-") + language);
-    SONORIA_VERIFY_NONE(clippedTexts(chooser));
-    QTest::keyClick(chooser, Qt::Key_Escape);
-    QTRY_VERIFY(!chooser->isVisible());
-
-    SXPreferencesDialog preferences;
-    preferences.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&preferences));
-    grab(&preferences, QStringLiteral("locale-preferences-") + language);
-    SONORIA_VERIFY_NONE(clippedTexts(&preferences));
-}
 
 SONORIA_GUI_TEST_MAIN(TestLocaleWindow)
 #include "tst_localewindow.moc"

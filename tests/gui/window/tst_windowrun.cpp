@@ -61,19 +61,179 @@ class TestWindowRun : public QObject {
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void init();
-    void cleanup();
-    void runFromStartToTheSummary();
-    void stopCancelsEveryItemAndLeavesNoFile();
-    void closingDuringARunCancelsItAndLeavesNoFile();
+    void initTestCase() {
+        QVERIFY(m_bus.start());
+        QDBusConnection listener = QDBusConnection::connectToBus(m_bus.address(), "listener");
+        QVERIFY(listener.isConnected());
+        QVERIFY(listener.connect(
+            QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
+            QStringLiteral("Update"), &m_listener, SLOT(launcherUpdate(QString, QVariantMap))));
+        QVERIFY(listener.registerService(QStringLiteral("org.freedesktop.Notifications")));
+        QVERIFY(listener.registerObject(QStringLiteral("/org/freedesktop/Notifications"),
+                                        &m_listener, QDBusConnection::ExportAllSlots));
+        QGuiApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
+    }
+    void init() {
+        m_media = std::make_unique<QTemporaryDir>();
+        m_output = std::make_unique<QTemporaryDir>();
+        SXSettings::setValue(SXSettingsKey::MaxTask, 2);
+        m_window = std::make_unique<SXMainAppController>();
+        m_window->show();
+        m_window->workspace().tabs().addDefaultTabs();
+        m_window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+    }
+    void cleanup() {
+        m_window.reset();
+        QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
+    }
+    void runFromStartToTheSummary() {
+        addSources(
+            {QStringLiteral("one.wav"), QStringLiteral("two.wav"), QStringLiteral("gone.wav")},
+            2.0);
+        // A source that vanished after loading fails; the others still convert.
+        QVERIFY(QFile::remove(m_media->filePath(QStringLiteral("gone.wav"))));
+        // The user looks at another window, so the end is also told on the desktop.
+        QWidget elsewhere;
+        elsewhere.show();
+        elsewhere.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
+        m_listener.launcherUpdates.clear();
+        m_listener.notificationBodies.clear();
+
+        startInto(m_output->path());
+        QCOMPARE(startAction()->text(), QStringLiteral("Stop"));
+        QCOMPARE(startAction()->toolTip(), QStringLiteral("Stop convert all files"));
+        QVERIFY(!m_window->tabBar().addButton()->isVisible());
+        QTRY_VERIFY(m_window->windowTitle().contains(QLatin1Char('%')));
+        grab(m_window.get(), QStringLiteral("run-converting"));
+
+        QMessageBox* summary = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 60000);
+        // The vanished file is named with its reason, and behind the alert with its folder.
+        const QString gone = m_media->filePath(QStringLiteral("gone.wav"));
+        const QString expected = QStringLiteral("2 files has been successfully converted.except 1 "
+                                                "files failed,including: \ngone: ");
+        QVERIFY2(summary->text().startsWith(expected), qPrintable(summary->text()));
+        const QString reason = summary->text().mid(expected.size());
+        QVERIFY(!reason.isEmpty());
+        QCOMPARE(summary->detailedText(), gone + QStringLiteral(": ") + reason);
+        grab(m_window.get(), QStringLiteral("run-summary-window"));
+        grab(summary, QStringLiteral("run-summary"));
+        QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+        QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
+        QCOMPARE(startAction()->text(), QStringLiteral("Start"));
+        QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
+
+        QCOMPARE(SonoriaTest::filesBelow(m_output->path()),
+                 (QStringList{QStringLiteral("MP3/one.mp3"), QStringLiteral("MP3/two.mp3")}));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), m_output->path());
+
+        // The launcher showed a bar for our desktop entry and hid it at the end.
+        QTRY_VERIFY(!m_listener.launcherUpdates.isEmpty() &&
+                    !m_listener.launcherUpdates.last().value("progress-visible").toBool());
+        QCOMPARE(m_listener.launcherUris.first(),
+                 QStringLiteral("application://app.sonoria.Sonoria.desktop"));
+        bool shown = false;
+        double last = 0;
+        for (const QVariantMap& update : std::as_const(m_listener.launcherUpdates)) {
+            if (!update.value("progress-visible").toBool())
+                continue;
+            shown = true;
+            QVERIFY(update.value("progress").toDouble() >= last); // never backwards
+            last = update.value("progress").toDouble();
+        }
+        QVERIFY(shown);
+        QTRY_COMPARE(m_listener.notificationBodies,
+                     QStringList{QStringLiteral("Converted: 2. Failed: 1.")});
+        // The failed row's tool tip says why, under its path.
+        const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
+        QStringList tips;
+        for (int row = 0; row < rows->rowCount(); ++row)
+            tips.append(rows->index(row, 0).data(Qt::ToolTipRole).toString());
+        QVERIFY2(tips.contains(gone + QStringLiteral("\nFailed: ") + reason),
+                 qPrintable(tips.join(u'|')));
+        QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(),
+                 QStringLiteral("app.sonoria.Sonoria"));
+    }
+    // Stop during a run: the rows stay, nothing leaves the list while the children run, and no
+    // file is left behind.
+    void stopCancelsEveryItemAndLeavesNoFile() {
+        // Long enough that Stop comes while the first conversions run and the last still wait.
+        const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
+                                QStringLiteral("c.wav"), QStringLiteral("d.wav")};
+        addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
+        SXWorkspace& ws = m_window->workspace();
+        auto* list = m_window->findChild<SXItemListView*>();
+        auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
+        auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
+        ws.store().setSelectedRows({0, 1});
+        startInto(m_output->path(), true);
+        QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
+        QVERIFY(!remove->isEnabled() && !clear->isEnabled());
+
+        // Enter is Start only, and the removing keys reach the workspace: during a run each beeps
+        // and the run goes on; the greyed buttons take no click.
+        QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
+        list->setFocus();
+        for (Qt::Key key : {Qt::Key_Enter, Qt::Key_Delete, Qt::Key_Backspace})
+            QTest::keyClick(list, key);
+        QCOMPARE(beeps.count(), 3);
+        QTest::mouseClick(remove, Qt::LeftButton);
+        QTest::mouseClick(clear, Qt::LeftButton);
+        QCOMPARE(list->model()->rowCount(), 4);
+        QCOMPARE(ws.store().enumAppState(), int(AppStateConverting));
+        startAction()->trigger(); // it reads Stop now
+
+        // The summary comes with every row in place; every child was reached. (What Stop marks and
+        // the summary's words: tst_workspacerun.)
+        QMessageBox* summary = nullptr;
+        QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
+        QCOMPARE(list->model()->rowCount(), 4);
+        for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
+            QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
+        QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+        QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
+        QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
+        QVERIFY(m_window->tabBar().addButton()->isVisible());
+        QVERIFY(remove->isEnabled() && clear->isEnabled());
+        QTest::mouseClick(clear, Qt::LeftButton);
+        QCOMPARE(list->model()->rowCount(), 0);
+    }
+    void closingDuringARunCancelsItAndLeavesNoFile() {
+        addSources({QStringLiteral("long.wav"), QStringLiteral("longer.wav")}, 240.0,
+                   {QStringLiteral("-ar"), QStringLiteral("22050")});
+        startInto(m_output->path());
+        QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
+
+        m_window->close();
+        QMessageBox* question = openDialog<QMessageBox>(m_window.get());
+        QVERIFY(question);
+        QCOMPARE(question->text(), QStringLiteral("Warnning"));
+        QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+        QTRY_VERIFY(!m_window->isVisible());
+        // The children were waited for: nothing half-written is left, and no summary follows.
+        QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
+        QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
+        QTest::qWait(600);
+        QVERIFY(!m_window->findChild<QMessageBox*>());
+        for (const QString& name : {QStringLiteral("long.wav"), QStringLiteral("longer.wav")})
+            QVERIFY(QFile::exists(m_media->filePath(name)));
+    }
 
 private:
     // Adds generated sources to the selected container and waits until they are listed.
     void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
     // Presses Start and answers the folder dialog with `folder`, organised by format.
     void startInto(const QString& folder, bool byEnterOnTheList = false);
-    QAction* startAction() const;
+    QAction* startAction() const {
+        for (QAction* action :
+             m_window->findChild<QToolBar*>(QStringLiteral("toolbar"))->actions()) {
+            if (action->text() == QLatin1String("Start") || action->text() == QLatin1String("Stop"))
+                return action;
+        }
+        return nullptr;
+    }
 
     SonoriaTest::PrivateSessionBus m_bus;
     DesktopListener m_listener;
@@ -81,35 +241,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_output;
     std::unique_ptr<SXMainAppController> m_window;
 };
-
-void TestWindowRun::initTestCase() {
-    QVERIFY(m_bus.start());
-    QDBusConnection listener = QDBusConnection::connectToBus(m_bus.address(), "listener");
-    QVERIFY(listener.isConnected());
-    QVERIFY(listener.connect(
-        QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
-        QStringLiteral("Update"), &m_listener, SLOT(launcherUpdate(QString, QVariantMap))));
-    QVERIFY(listener.registerService(QStringLiteral("org.freedesktop.Notifications")));
-    QVERIFY(listener.registerObject(QStringLiteral("/org/freedesktop/Notifications"), &m_listener,
-                                    QDBusConnection::ExportAllSlots));
-    QGuiApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
-}
-
-void TestWindowRun::init() {
-    m_media = std::make_unique<QTemporaryDir>();
-    m_output = std::make_unique<QTemporaryDir>();
-    SXSettings::setValue(SXSettingsKey::MaxTask, 2);
-    m_window = std::make_unique<SXMainAppController>();
-    m_window->show();
-    m_window->workspace().tabs().addDefaultTabs();
-    m_window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
-}
-
-void TestWindowRun::cleanup() {
-    m_window.reset();
-    QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
-}
 
 void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
     QStringList paths;
@@ -121,14 +252,6 @@ void TestWindowRun::addSources(const QStringList& names, double seconds, const Q
     ws.addRun().loadAndParseFiles(paths);
     QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 20000);
     QCOMPARE(ws.store().currentTabItemCount(), names.size());
-}
-
-QAction* TestWindowRun::startAction() const {
-    for (QAction* action : m_window->findChild<QToolBar*>(QStringLiteral("toolbar"))->actions()) {
-        if (action->text() == QLatin1String("Start") || action->text() == QLatin1String("Stop"))
-            return action;
-    }
-    return nullptr;
 }
 
 void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
@@ -151,141 +274,6 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     QVERIFY(organise->isChecked()); // on unless the user turned it off
     dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
-}
-
-void TestWindowRun::runFromStartToTheSummary() {
-    addSources({QStringLiteral("one.wav"), QStringLiteral("two.wav"), QStringLiteral("gone.wav")},
-               2.0);
-    // A source that vanished after loading fails; the others still convert.
-    QVERIFY(QFile::remove(m_media->filePath(QStringLiteral("gone.wav"))));
-    // The user looks at another window, so the end is also told on the desktop.
-    QWidget elsewhere;
-    elsewhere.show();
-    elsewhere.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&elsewhere));
-    m_listener.launcherUpdates.clear();
-    m_listener.notificationBodies.clear();
-
-    startInto(m_output->path());
-    QCOMPARE(startAction()->text(), QStringLiteral("Stop"));
-    QCOMPARE(startAction()->toolTip(), QStringLiteral("Stop convert all files"));
-    QVERIFY(!m_window->tabBar().addButton()->isVisible());
-    QTRY_VERIFY(m_window->windowTitle().contains(QLatin1Char('%')));
-    grab(m_window.get(), QStringLiteral("run-converting"));
-
-    QMessageBox* summary = nullptr;
-    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 60000);
-    // The vanished file is named with its reason, and behind the alert with its folder.
-    const QString gone = m_media->filePath(QStringLiteral("gone.wav"));
-    const QString expected = QStringLiteral("2 files has been successfully converted.except 1 "
-                                            "files failed,including: \ngone: ");
-    QVERIFY2(summary->text().startsWith(expected), qPrintable(summary->text()));
-    const QString reason = summary->text().mid(expected.size());
-    QVERIFY(!reason.isEmpty());
-    QCOMPARE(summary->detailedText(), gone + QStringLiteral(": ") + reason);
-    grab(m_window.get(), QStringLiteral("run-summary-window"));
-    grab(summary, QStringLiteral("run-summary"));
-    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(startAction()->text(), QStringLiteral("Start"));
-    QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
-
-    QCOMPARE(SonoriaTest::filesBelow(m_output->path()),
-             (QStringList{QStringLiteral("MP3/one.mp3"), QStringLiteral("MP3/two.mp3")}));
-    QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), m_output->path());
-
-    // The launcher showed a bar for our desktop entry and hid it at the end.
-    QTRY_VERIFY(!m_listener.launcherUpdates.isEmpty() &&
-                !m_listener.launcherUpdates.last().value("progress-visible").toBool());
-    QCOMPARE(m_listener.launcherUris.first(),
-             QStringLiteral("application://app.sonoria.Sonoria.desktop"));
-    bool shown = false;
-    double last = 0;
-    for (const QVariantMap& update : std::as_const(m_listener.launcherUpdates)) {
-        if (!update.value("progress-visible").toBool())
-            continue;
-        shown = true;
-        QVERIFY(update.value("progress").toDouble() >= last); // never backwards
-        last = update.value("progress").toDouble();
-    }
-    QVERIFY(shown);
-    QTRY_COMPARE(m_listener.notificationBodies,
-                 QStringList{QStringLiteral("Converted: 2. Failed: 1.")});
-    // The failed row's tool tip says why, under its path.
-    const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
-    QStringList tips;
-    for (int row = 0; row < rows->rowCount(); ++row)
-        tips.append(rows->index(row, 0).data(Qt::ToolTipRole).toString());
-    QVERIFY2(tips.contains(gone + QStringLiteral("\nFailed: ") + reason),
-             qPrintable(tips.join(u'|')));
-    QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(),
-             QStringLiteral("app.sonoria.Sonoria"));
-}
-
-// Stop during a run: the rows stay, nothing leaves the list while the children run, and no
-// file is left behind.
-void TestWindowRun::stopCancelsEveryItemAndLeavesNoFile() {
-    // Long enough that Stop comes while the first conversions run and the last still wait.
-    const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
-                            QStringLiteral("c.wav"), QStringLiteral("d.wav")};
-    addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
-    SXWorkspace& ws = m_window->workspace();
-    auto* list = m_window->findChild<SXItemListView*>();
-    auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
-    auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
-    ws.store().setSelectedRows({0, 1});
-    startInto(m_output->path(), true);
-    QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
-    QVERIFY(!remove->isEnabled() && !clear->isEnabled());
-
-    // Enter is Start only, and the removing keys reach the workspace: during a run each beeps
-    // and the run goes on; the greyed buttons take no click.
-    QSignalSpy beeps(&m_window->presenter(), &SXWindowPresenter::beeped);
-    list->setFocus();
-    for (Qt::Key key : {Qt::Key_Enter, Qt::Key_Delete, Qt::Key_Backspace})
-        QTest::keyClick(list, key);
-    QCOMPARE(beeps.count(), 3);
-    QTest::mouseClick(remove, Qt::LeftButton);
-    QTest::mouseClick(clear, Qt::LeftButton);
-    QCOMPARE(list->model()->rowCount(), 4);
-    QCOMPARE(ws.store().enumAppState(), int(AppStateConverting));
-    startAction()->trigger(); // it reads Stop now
-
-    // The summary comes with every row in place; every child was reached. (What Stop marks and
-    // the summary's words: tst_workspacerun.)
-    QMessageBox* summary = nullptr;
-    QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 30000);
-    QCOMPARE(list->model()->rowCount(), 4);
-    for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
-        QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
-    QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
-    QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
-    QVERIFY(m_window->tabBar().addButton()->isVisible());
-    QVERIFY(remove->isEnabled() && clear->isEnabled());
-    QTest::mouseClick(clear, Qt::LeftButton);
-    QCOMPARE(list->model()->rowCount(), 0);
-}
-
-void TestWindowRun::closingDuringARunCancelsItAndLeavesNoFile() {
-    addSources({QStringLiteral("long.wav"), QStringLiteral("longer.wav")}, 240.0,
-               {QStringLiteral("-ar"), QStringLiteral("22050")});
-    startInto(m_output->path());
-    QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
-
-    m_window->close();
-    QMessageBox* question = openDialog<QMessageBox>(m_window.get());
-    QVERIFY(question);
-    QCOMPARE(question->text(), QStringLiteral("Warnning"));
-    QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
-    QTRY_VERIFY(!m_window->isVisible());
-    // The children were waited for: nothing half-written is left, and no summary follows.
-    QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
-    QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
-    QTest::qWait(600);
-    QVERIFY(!m_window->findChild<QMessageBox*>());
-    for (const QString& name : {QStringLiteral("long.wav"), QStringLiteral("longer.wav")})
-        QVERIFY(QFile::exists(m_media->filePath(name)));
 }
 
 SONORIA_GUI_TEST_MAIN(TestWindowRun)
