@@ -43,8 +43,15 @@ private Q_SLOTS:
     }
     void convertsAFolderOrganisedByFormat() {
         const QString out = fresh(u"organised"_s);
+        const QStringList arguments{"-f", "MP3", "-o", out, "-j", "2", m_sources};
+        // A dry run first: a line per file it would convert, and nothing made.
+        const QStringList before = filesBelow(m_work.path(), true);
+        const RunResult planned = runCli(QStringList{"--dry-run"} + arguments);
+        SONORIA_COMPARE_EXIT(planned, 0);
+        QCOMPARE(filesBelow(m_work.path(), true), before);
+        QCOMPARE(lines(planned.out).size(), kSources.size() + 1);
 
-        const RunResult result = runCli({"-f", "MP3", "-o", out, "-j", "2", m_sources});
+        const RunResult result = runCli(arguments);
         SONORIA_COMPARE_EXIT(result, 0);
         // Without a terminal: one line per file, then the window's summary.
         const QStringList shown = lines(result.out);
@@ -55,6 +62,8 @@ private Q_SLOTS:
             made.append(u"MP3/"_s + QFileInfo(name).completeBaseName() + u".mp3"_s);
             QVERIFY2(shown.contains(u"done: %1 -> %2/%3"_s.arg(source(name), out, made.last())),
                      qPrintable(result.out));
+            QVERIFY(planned.out.contains(
+                u"would convert: %1 -> %2/%3"_s.arg(source(name), out, made.last())));
         }
         // The format's folder and its four files, nothing else.
         made.sort();
@@ -93,6 +102,7 @@ private Q_SLOTS:
             << QStringList{"--replaygain", "loud", in} << "--replaygain";
         QTest::newRow("unknown option") << QStringList{"--frobnicate", in} << "frobnicate";
         QTest::newRow("missing value") << QStringList{"-f"} << "-f";
+        QTest::newRow("one file to check") << QStringList{"--check-tags", in} << "two files";
         QTest::newRow("existing not offered")
             << QStringList{"--existing", "overwrite", in} << "skip, both or replace";
         // A quoted argument cannot drive the terminal.
@@ -242,20 +252,6 @@ private Q_SLOTS:
             lines(result.err).contains(u"failed to load: %1/%2: %3"_s.arg(dir, failed, reason)),
             qPrintable(result.err));
     }
-    void dryRunCreatesNothing() {
-        const QString out = fresh(u"dry"_s);
-        QVERIFY(SonoriaTest::writeFile(out + u"/MP3/plain tone.mp3"_s, {}));
-        const QStringList before = filesBelow(m_work.path(), true);
-        const RunResult result = runCli({"--dry-run", "-o", out, m_sources});
-        SONORIA_COMPARE_EXIT(result, 0);
-        QCOMPARE(filesBelow(m_work.path(), true), before);
-        const QStringList shown = lines(result.out);
-        QCOMPARE(shown.size(), kSources.size() + 1);
-        // The name a file would get now, next to the one that is taken.
-        QVERIFY2(shown.contains(u"would convert: %1 -> %2/MP3/plain tone(1).mp3"_s.arg(
-                     source(u"plain tone.wav"_s), out)),
-                 qPrintable(result.out));
-    }
     void cueSheetsAreListedAndConvertedByTrack() {
         const QString album = fresh(u"cue"_s);
         QVERIFY(QDir().mkpath(album));
@@ -343,8 +339,41 @@ private Q_SLOTS:
         QVERIFY(!shown.contains(u"done: "_s));
         QVERIFY(shown.trimmed().endsWith(u"4 files have been converted."_s));
     }
+    // What the tool says of tags that did not arrive: --check-tags on any two files, and the
+    // lost fields named per file after a run.
+    void lostTagsAreNamed() {
+        const QString song = fresh(u"song.flac"_s);
+        QVERIFY(SonoriaTest::makeTone(song, 1.0,
+                                      {"-metadata", "title=Morning", "-metadata", "lyrics=la la"}));
+        // ffmpeg copies Vorbis comments into Ogg: nothing lost.
+        RunResult result = runCli({"--check-tags", song, encode(song, u"ogg"_s, u"libvorbis"_s)});
+        SONORIA_COMPARE_EXIT(result, 0);
+        QVERIFY2(result.out.contains(u"kept     Title"_s) && !result.out.contains(u"lost"_s),
+                 qPrintable(result.out));
+        // AC3 holds no tags at all.
+        result = runCli({"--check-tags", song, encode(song, u"ac3"_s, u"ac3"_s)});
+        SONORIA_COMPARE_EXIT(result, 1);
+        QVERIFY2(result.out.contains(u"lost     Title: AC3 files hold no tags"_s) &&
+                     result.out.contains(u"lost     Lyrics: AC3 files hold no tags"_s),
+                 qPrintable(result.out));
+
+        const QString out = fresh(u"lost tags"_s);
+        result = runCli({"-f", "AC3", "-o", out, "--no-organize", song});
+        SONORIA_COMPARE_EXIT(result, 0);
+        QVERIFY2(result.out.contains(u"tags: "_s + song + u": Title: AC3 files hold no tags"_s),
+                 qPrintable(result.out));
+        QVERIFY(QFileInfo::exists(out + u"/song.ac3"_s));
+    }
 
 private:
+    // `source` made into `extension` by ffmpeg itself, its tags copied as ffmpeg copies them.
+    QString encode(const QString& source, const QString& extension, const QString& codec) const {
+        const QString path = fresh(u"by-ffmpeg."_s + extension);
+        const int code = SonoriaTest::run(
+            u"ffmpeg"_s, {u"-nostdin"_s, u"-loglevel"_s, u"error"_s, u"-y"_s, u"-i"_s, source,
+                          u"-map_metadata"_s, u"0"_s, u"-c:a"_s, codec, path});
+        return code == 0 ? path : QString();
+    }
     // In the work folder: a usage error must leave it as it was.
     RunResult runCli(const QStringList& arguments) const {
         return SonoriaTest::runCli(arguments, {}, m_work.path());
