@@ -58,9 +58,8 @@ private Q_SLOTS:
     void startUpFillsTheDefaultsAndCreatesNoFolder() {
         QVERIFY(window().isVisible());
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
-                 QStringLiteral("Sonoria"));
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), u"AAC"_s);
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName), u"Sonoria"_s);
         // Starting creates no folder of the user's: output folders appear when a run writes.
         const QString home = SonoriaTest::temporaryHome().processHome();
         QVERIFY(!QFileInfo::exists(home + "/Videos") && !QFileInfo::exists(home + "/Music"));
@@ -78,24 +77,23 @@ private Q_SLOTS:
     // Whether to ask and what each answer does is the workspace's (tst_workspacelists); here the
     // question is a real message box over the window, and its buttons keep or close the window.
     void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
-        addTone(QStringLiteral("kept.wav"));
+        addTone(u"kept.wav"_s);
         window().close();
         QMessageBox* question = openDialog<QMessageBox>(&window());
         QVERIFY(question);
         QCOMPARE(messageTexts(question),
-                 (QStringList{
-                     QStringLiteral("Warnning"),
-                     QStringLiteral("Do you want to close all window without save information?"),
-                     QStringLiteral("Cancel"), QStringLiteral("OK")}));
-        grab(question, QStringLiteral("alert-last-window"));
-        QVERIFY(clickMessageButton(question, QStringLiteral("Cancel")));
+                 (QStringList{u"Warnning"_s,
+                              u"Do you want to close all window without save information?"_s,
+                              u"Cancel"_s, u"OK"_s}));
+        grab(question, u"alert-last-window"_s);
+        QVERIFY(clickMessageButton(question, u"Cancel"_s));
         QTRY_VERIFY(!question->isVisible());
         QVERIFY(window().isVisible());
 
         window().close();
         question = openDialog<QMessageBox>(&window());
         QVERIFY(question);
-        QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+        QVERIFY(clickMessageButton(question, u"OK"_s));
         QTRY_VERIFY(!window().isVisible());
     }
     void newContainerRevivesThePrimaryWindowEmpty() {
@@ -114,7 +112,7 @@ private Q_SLOTS:
         QVERIFY(action(SXCommand::Open)->isEnabled());
 
         // The revived window takes files again.
-        addTone(QStringLiteral("after.wav"));
+        addTone(u"after.wav"_s);
     }
     void menusFollowTheStateAndNeverBeepWhenOpening() {
         SXWorkspace& ws = window().workspace();
@@ -134,7 +132,7 @@ private Q_SLOTS:
             }
         };
         menusFollow(AppStateIdle, 0);
-        addTone(QStringLiteral("menu.wav"));
+        addTone(u"menu.wav"_s);
         menusFollow(AppStateIdle, 1);
         ws.store().setAppState(AppStateConverting);
         menusFollow(AppStateConverting, 1);
@@ -148,7 +146,7 @@ private Q_SLOTS:
         QVERIFY(fileMenu);
         fileMenu->popup(window().mapToGlobal(QPoint(10, 10)));
         QTRY_VERIFY(fileMenu->isVisible());
-        grab(fileMenu, QStringLiteral("menu-file"));
+        grab(fileMenu, u"menu-file"_s);
         QVERIFY(!action(SXCommand::CloseTab)->isEnabled());
         fileMenu->close();
         QCOMPARE(beeps.count(), 0);
@@ -225,7 +223,7 @@ private Q_SLOTS:
         const int tabs = ws.store().tabLabels().size();
         QVERIFY(tabs > 2);
         // From the list, which has the focus in normal use and takes Tab and Page keys itself.
-        auto* list = window().findChild<QListView*>(QStringLiteral("itemList"));
+        auto* list = window().findChild<QListView*>(u"itemList"_s);
         list->setFocus();
         int expected = step > 0 ? 0 : tabs - 1;
         ws.tabs().selectTab(expected);
@@ -245,16 +243,16 @@ private Q_SLOTS:
     void everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
         const auto noClash = [](QWidget* root) {
             const QStringList clashes = mnemonicClashes(root);
-            QVERIFY2(clashes.isEmpty(), qPrintable(root->objectName() + QStringLiteral(": ") +
-                                                   clashes.join(QStringLiteral("; "))));
+            QVERIFY2(clashes.isEmpty(),
+                     qPrintable(root->objectName() + u": "_s + clashes.join(u"; "_s)));
         };
-        addTone(QStringLiteral("keys.wav"));
+        addTone(u"keys.wav"_s);
         SXWorkspace& ws = window().workspace();
         ws.store().setSelectedRows({0});
         // The window with its information panel open, then each dialog it opens by key.
         pressInWindow(Qt::Key_I);
         noClash(&window());
-        grab(&window(), QStringLiteral("window-keys"));
+        grab(&window(), u"window-keys"_s);
         pressInWindow(Qt::Key_E);
         auto* editor = openDialog<SXMetadataEditDialog>(&window());
         QVERIFY(editor);
@@ -283,7 +281,7 @@ private Q_SLOTS:
         SXPreferencesDialog* preferences = openPreferences();
         QVERIFY(preferences);
         noClash(preferences);
-        grab(preferences, QStringLiteral("preferences-close"));
+        grab(preferences, u"preferences-close"_s);
         QTest::keyClick(preferences, Qt::Key_Escape);
         QTRY_VERIFY(!preferences->isVisible());
         QVERIFY(openPreferences());

@@ -14,6 +14,7 @@
 #include <QToolButton>
 #include <QTranslator>
 
+using namespace Qt::StringLiterals;
 using namespace SonoriaGuiTest;
 
 // The window, the run's summary, the format chooser and the preferences in every language the
@@ -25,13 +26,13 @@ class TestLocaleWindow : public QObject {
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_media.isValid());
-        m_source = m_media.filePath(QStringLiteral("Morning Walk.flac"));
+        m_source = m_media.filePath(u"Morning Walk.flac"_s);
         QVERIFY(SonoriaTest::makeTone(m_source, 2.0));
     }
     void everyTextFits_data() {
         QTest::addColumn<QString>("language");
         const QStringList languages = SXTranslations::availableLanguages();
-        QVERIFY(languages.contains(QStringLiteral("en")));
+        QVERIFY(languages.contains(u"en"_s));
         for (const QString& language : languages)
             QTest::newRow(qPrintable(language)) << language;
     }
@@ -60,14 +61,14 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(ws.store().currentTabItemCount(), 1, 10000);
         QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
         QTest::qWait(50);
-        grab(&window, QStringLiteral("locale-window-") + language);
+        grab(&window, u"locale-window-"_s + language);
         SONORIA_VERIFY_NONE(clippedTexts(&window));
 
         // The summary of a run with failures, in the words the scheduler uses.
         const SXPathFailureList failures{
-            {m_media.filePath(QStringLiteral("Evening Song.flac")),
+            {m_media.filePath(u"Evening Song.flac"_s),
              QCoreApplication::translate("ConvertFailure", "No space left on device")},
-            {m_media.filePath(QStringLiteral("Night.wav")),
+            {m_media.filePath(u"Night.wav"_s),
              QCoreApplication::translate("ConvertFailure", "The output folder is read-only")}};
         ws.store().runAlert({SXWorkspaceScheduler::summaryMessage(4, failures),
                              QString(),
@@ -76,10 +77,10 @@ private Q_SLOTS:
         QVERIFY(summary);
         QVERIFY(QTest::qWaitForWindowExposed(summary));
         // The English catalogue corrects the source text's grammar.
-        if (language == QLatin1String("en"))
-            QVERIFY2(summary->text().startsWith(QLatin1String("4 files have been converted.")),
+        if (language == u"en"_s)
+            QVERIFY2(summary->text().startsWith(u"4 files have been converted."_s),
                      qPrintable(summary->text()));
-        grab(summary, QStringLiteral("locale-summary-") + language);
+        grab(summary, u"locale-summary-"_s + language);
         SONORIA_VERIFY_NONE(clippedTexts(summary));
         QTest::keyClick(summary, Qt::Key_Return);
         QTRY_VERIFY(!summary->isVisible());
@@ -89,7 +90,7 @@ private Q_SLOTS:
         auto* chooser = openDialog<SXFormatChooserDialog>(&window);
         QVERIFY(chooser);
         QVERIFY(QTest::qWaitForWindowExposed(chooser));
-        grab(chooser, QStringLiteral("locale-chooser-") + language);
+        grab(chooser, u"locale-chooser-"_s + language);
         SONORIA_VERIFY_NONE(clippedTexts(chooser));
         QTest::keyClick(chooser, Qt::Key_Escape);
         QTRY_VERIFY(!chooser->isVisible());
@@ -97,7 +98,7 @@ private Q_SLOTS:
         SXPreferencesDialog preferences;
         preferences.show();
         QVERIFY(QTest::qWaitForWindowExposed(&preferences));
-        grab(&preferences, QStringLiteral("locale-preferences-") + language);
+        grab(&preferences, u"locale-preferences-"_s + language);
         SONORIA_VERIFY_NONE(clippedTexts(&preferences));
     }
 

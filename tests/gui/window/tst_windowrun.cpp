@@ -24,6 +24,7 @@
 #include <QToolBar>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
 using namespace SonoriaGuiTest;
 
 namespace {
@@ -65,13 +66,13 @@ private Q_SLOTS:
         QVERIFY(m_bus.start());
         QDBusConnection listener = QDBusConnection::connectToBus(m_bus.address(), "listener");
         QVERIFY(listener.isConnected());
-        QVERIFY(listener.connect(
-            QString(), QString(), QStringLiteral("com.canonical.Unity.LauncherEntry"),
-            QStringLiteral("Update"), &m_listener, SLOT(launcherUpdate(QString, QVariantMap))));
-        QVERIFY(listener.registerService(QStringLiteral("org.freedesktop.Notifications")));
-        QVERIFY(listener.registerObject(QStringLiteral("/org/freedesktop/Notifications"),
-                                        &m_listener, QDBusConnection::ExportAllSlots));
-        QGuiApplication::setDesktopFileName(QStringLiteral("app.sonoria.Sonoria"));
+        QVERIFY(listener.connect(QString(), QString(), u"com.canonical.Unity.LauncherEntry"_s,
+                                 u"Update"_s, &m_listener,
+                                 SLOT(launcherUpdate(QString, QVariantMap))));
+        QVERIFY(listener.registerService(u"org.freedesktop.Notifications"_s));
+        QVERIFY(listener.registerObject(u"/org/freedesktop/Notifications"_s, &m_listener,
+                                        QDBusConnection::ExportAllSlots));
+        QGuiApplication::setDesktopFileName(u"app.sonoria.Sonoria"_s);
     }
     void init() {
         m_media = std::make_unique<QTemporaryDir>();
@@ -88,11 +89,9 @@ private Q_SLOTS:
         QVERIFY(SXWindowRegistry::instance().registeredWindows().isEmpty());
     }
     void runFromStartToTheSummary() {
-        addSources(
-            {QStringLiteral("one.wav"), QStringLiteral("two.wav"), QStringLiteral("gone.wav")},
-            2.0);
+        addSources({u"one.wav"_s, u"two.wav"_s, u"gone.wav"_s}, 2.0);
         // A source that vanished after loading fails; the others still convert.
-        QVERIFY(QFile::remove(m_media->filePath(QStringLiteral("gone.wav"))));
+        QVERIFY(QFile::remove(m_media->filePath(u"gone.wav"_s)));
         // The user looks at another window, so the end is also told on the desktop.
         QWidget elsewhere;
         elsewhere.show();
@@ -102,38 +101,37 @@ private Q_SLOTS:
         m_listener.notificationBodies.clear();
 
         startInto(m_output->path());
-        QCOMPARE(startAction()->text(), QStringLiteral("Stop"));
-        QCOMPARE(startAction()->toolTip(), QStringLiteral("Stop convert all files"));
+        QCOMPARE(startAction()->text(), u"Stop"_s);
+        QCOMPARE(startAction()->toolTip(), u"Stop convert all files"_s);
         QVERIFY(!m_window->tabBar().addButton()->isVisible());
-        QTRY_VERIFY(m_window->windowTitle().contains(QLatin1Char('%')));
-        grab(m_window.get(), QStringLiteral("run-converting"));
+        QTRY_VERIFY(m_window->windowTitle().contains(u'%'));
+        grab(m_window.get(), u"run-converting"_s);
 
         QMessageBox* summary = nullptr;
         QTRY_VERIFY_WITH_TIMEOUT((summary = openDialog<QMessageBox>(m_window.get())), 60000);
         // The vanished file is named with its reason, and behind the alert with its folder.
-        const QString gone = m_media->filePath(QStringLiteral("gone.wav"));
-        const QString expected = QStringLiteral("2 files has been successfully converted.except 1 "
-                                                "files failed,including: \ngone: ");
+        const QString gone = m_media->filePath(u"gone.wav"_s);
+        const QString expected = u"2 files has been successfully converted.except 1 "
+                                 "files failed,including: \ngone: "_s;
         QVERIFY2(summary->text().startsWith(expected), qPrintable(summary->text()));
         const QString reason = summary->text().mid(expected.size());
         QVERIFY(!reason.isEmpty());
-        QCOMPARE(summary->detailedText(), gone + QStringLiteral(": ") + reason);
-        grab(m_window.get(), QStringLiteral("run-summary-window"));
-        grab(summary, QStringLiteral("run-summary"));
-        QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+        QCOMPARE(summary->detailedText(), gone + u": "_s + reason);
+        grab(m_window.get(), u"run-summary-window"_s);
+        grab(summary, u"run-summary"_s);
+        QVERIFY(clickMessageButton(summary, u"OK"_s));
         QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
-        QCOMPARE(startAction()->text(), QStringLiteral("Start"));
+        QCOMPARE(startAction()->text(), u"Start"_s);
         QCOMPARE(m_window->windowTitle(), QApplication::applicationDisplayName());
 
         QCOMPARE(SonoriaTest::filesBelow(m_output->path()),
-                 (QStringList{QStringLiteral("MP3/one.mp3"), QStringLiteral("MP3/two.mp3")}));
+                 (QStringList{u"MP3/one.mp3"_s, u"MP3/two.mp3"_s}));
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), m_output->path());
 
         // The launcher showed a bar for our desktop entry and hid it at the end.
         QTRY_VERIFY(!m_listener.launcherUpdates.isEmpty() &&
                     !m_listener.launcherUpdates.last().value("progress-visible").toBool());
-        QCOMPARE(m_listener.launcherUris.first(),
-                 QStringLiteral("application://app.sonoria.Sonoria.desktop"));
+        QCOMPARE(m_listener.launcherUris.first(), u"application://app.sonoria.Sonoria.desktop"_s);
         bool shown = false;
         double last = 0;
         for (const QVariantMap& update : std::as_const(m_listener.launcherUpdates)) {
@@ -144,29 +142,25 @@ private Q_SLOTS:
             last = update.value("progress").toDouble();
         }
         QVERIFY(shown);
-        QTRY_COMPARE(m_listener.notificationBodies,
-                     QStringList{QStringLiteral("Converted: 2. Failed: 1.")});
+        QTRY_COMPARE(m_listener.notificationBodies, QStringList{u"Converted: 2. Failed: 1."_s});
         // The failed row's tool tip says why, under its path.
         const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
         QStringList tips;
         for (int row = 0; row < rows->rowCount(); ++row)
             tips.append(rows->index(row, 0).data(Qt::ToolTipRole).toString());
-        QVERIFY2(tips.contains(gone + QStringLiteral("\nFailed: ") + reason),
-                 qPrintable(tips.join(u'|')));
-        QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(),
-                 QStringLiteral("app.sonoria.Sonoria"));
+        QVERIFY2(tips.contains(gone + u"\nFailed: "_s + reason), qPrintable(tips.join(u'|')));
+        QCOMPARE(m_listener.lastHints.value("desktop-entry").toString(), u"app.sonoria.Sonoria"_s);
     }
     // Stop during a run: the rows stay, nothing leaves the list while the children run, and no
     // file is left behind.
     void stopCancelsEveryItemAndLeavesNoFile() {
         // Long enough that Stop comes while the first conversions run and the last still wait.
-        const QStringList names{QStringLiteral("a.wav"), QStringLiteral("b.wav"),
-                                QStringLiteral("c.wav"), QStringLiteral("d.wav")};
-        addSources(names, 240.0, {QStringLiteral("-ar"), QStringLiteral("22050")});
+        const QStringList names{u"a.wav"_s, u"b.wav"_s, u"c.wav"_s, u"d.wav"_s};
+        addSources(names, 240.0, {u"-ar"_s, u"22050"_s});
         SXWorkspace& ws = m_window->workspace();
         auto* list = m_window->findChild<SXItemListView*>();
-        auto* remove = m_window->findChild<QPushButton*>(QStringLiteral("btnDelete"));
-        auto* clear = m_window->findChild<QPushButton*>(QStringLiteral("btnClear"));
+        auto* remove = m_window->findChild<QPushButton*>(u"btnDelete"_s);
+        auto* clear = m_window->findChild<QPushButton*>(u"btnClear"_s);
         ws.store().setSelectedRows({0, 1});
         startInto(m_output->path(), true);
         QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
@@ -192,7 +186,7 @@ private Q_SLOTS:
         QCOMPARE(list->model()->rowCount(), 4);
         for (const SXMusicInfoPtr& item : ws.store().getCurTableDatasource())
             QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateCanceled));
-        QVERIFY(clickMessageButton(summary, QStringLiteral("OK")));
+        QVERIFY(clickMessageButton(summary, u"OK"_s));
         QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
         QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
         QVERIFY(m_window->tabBar().addButton()->isVisible());
@@ -201,23 +195,22 @@ private Q_SLOTS:
         QCOMPARE(list->model()->rowCount(), 0);
     }
     void closingDuringARunCancelsItAndLeavesNoFile() {
-        addSources({QStringLiteral("long.wav"), QStringLiteral("longer.wav")}, 240.0,
-                   {QStringLiteral("-ar"), QStringLiteral("22050")});
+        addSources({u"long.wav"_s, u"longer.wav"_s}, 240.0, {u"-ar"_s, u"22050"_s});
         startInto(m_output->path());
         QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::filesBelow(m_output->path()).isEmpty(), 20000);
 
         m_window->close();
         QMessageBox* question = openDialog<QMessageBox>(m_window.get());
         QVERIFY(question);
-        QCOMPARE(question->text(), QStringLiteral("Warnning"));
-        QVERIFY(clickMessageButton(question, QStringLiteral("OK")));
+        QCOMPARE(question->text(), u"Warnning"_s);
+        QVERIFY(clickMessageButton(question, u"OK"_s));
         QTRY_VERIFY(!m_window->isVisible());
         // The children were waited for: nothing half-written is left, and no summary follows.
         QCOMPARE(m_window->workspace().store().enumAppState(), int(AppStateIdle));
         QCOMPARE(SonoriaTest::filesBelow(m_output->path()), QStringList());
         QTest::qWait(600);
         QVERIFY(!m_window->findChild<QMessageBox*>());
-        for (const QString& name : {QStringLiteral("long.wav"), QStringLiteral("longer.wav")})
+        for (const QString& name : {u"long.wav"_s, u"longer.wav"_s})
             QVERIFY(QFile::exists(m_media->filePath(name)));
     }
 
@@ -227,9 +220,8 @@ private:
     // Presses Start and answers the folder dialog with `folder`, organised by format.
     void startInto(const QString& folder, bool byEnterOnTheList = false);
     QAction* startAction() const {
-        for (QAction* action :
-             m_window->findChild<QToolBar*>(QStringLiteral("toolbar"))->actions()) {
-            if (action->text() == QLatin1String("Start") || action->text() == QLatin1String("Stop"))
+        for (QAction* action : m_window->findChild<QToolBar*>(u"toolbar"_s)->actions()) {
+            if (action->text() == u"Start"_s || action->text() == u"Stop"_s)
                 return action;
         }
         return nullptr;
@@ -267,10 +259,10 @@ void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
     auto* dialog = openDialog<SXOutputFolderDialog>(m_window.get());
     QVERIFY(dialog);
     QVERIFY(dialog->findChildren<QLabel*>().size() > 0);
-    grab(dialog, QStringLiteral("output-folder"));
+    grab(dialog, u"output-folder"_s);
     SONORIA_VERIFY_NONE(accessibilityProblems(dialog));
-    dialog->findChild<QLineEdit*>(QStringLiteral("folder"))->setText(folder);
-    auto* organise = dialog->findChild<QCheckBox*>(QStringLiteral("btnOrgized"));
+    dialog->findChild<QLineEdit*>(u"folder"_s)->setText(folder);
+    auto* organise = dialog->findChild<QCheckBox*>(u"btnOrgized"_s);
     QVERIFY(organise->isChecked()); // on unless the user turned it off
     dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
     QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));

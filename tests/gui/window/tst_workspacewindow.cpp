@@ -20,6 +20,7 @@
 #include <QTemporaryDir>
 #include <QToolButton>
 
+using namespace Qt::StringLiterals;
 using namespace SonoriaGuiTest;
 
 // One workspace window driven through its widgets: the container tabs and their rules, the
@@ -39,11 +40,10 @@ private Q_SLOTS:
     void tabsShowContainersAndCloseOnlyWhereAllowed() {
         SXContainerTabBar& tabs = m_window->tabBar();
         QCOMPARE(tabs.count(), m_window->workspace().store().tabLabels().size());
-        const int mp3 = tabIndex(QStringLiteral("MP3"));
+        const int mp3 = tabIndex(u"MP3"_s);
         QVERIFY(mp3 >= 0);
-        QCOMPARE(tabs.tabToolTip(mp3),
-                 QStringLiteral("Converter to MPEG Layer III audio, playable everywhere"));
-        QCOMPARE(tabs.addButton()->toolTip(), QStringLiteral("Add new format"));
+        QCOMPARE(tabs.tabToolTip(mp3), u"Converter to MPEG Layer III audio, playable everywhere"_s);
+        QCOMPARE(tabs.addButton()->toolTip(), u"Add new format"_s);
         for (const QString& fixed : SXDataEngine::getCanNotRemoveFormatContainer()) {
             QWidget* close = tabs.tabButton(tabIndex(fixed), QTabBar::RightSide);
             QVERIFY2(!close || !close->isVisible(), qPrintable(fixed));
@@ -51,22 +51,22 @@ private Q_SLOTS:
 
         // A container added by the user closes by its button; the tab next to it takes over.
         m_window->workspace().tabs().addContainerWithFormat(
-            SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("FLAC")));
-        const int flac = tabIndex(QStringLiteral("FLAC"));
+            SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s));
+        const int flac = tabIndex(u"FLAC"_s);
         QVERIFY(flac >= 0);
         QCOMPARE(tabs.currentIndex(), flac);
         auto* close = qobject_cast<QAbstractButton*>(tabs.tabButton(flac, QTabBar::RightSide));
         QVERIFY(close && close->isVisible());
         close->click();
-        QCOMPARE(tabIndex(QStringLiteral("FLAC")), -1);
-        QVERIFY(!m_window->workspace().store().tabLabels().contains(QStringLiteral("FLAC")));
+        QCOMPARE(tabIndex(u"FLAC"_s), -1);
+        QVERIFY(!m_window->workspace().store().tabLabels().contains(u"FLAC"_s));
         QCOMPARE(tabs.currentIndex(), m_window->workspace().store().selectedTabIndex());
     }
     void chooserAddsTheChosenContainerAndCancelAddsNothing() {
         const int before = m_window->tabBar().count();
         SXFormatChooserDialog* chooser = openChooser();
         QVERIFY(chooser);
-        QCOMPARE(chooser->objectName(), QStringLiteral("OtherFormat"));
+        QCOMPARE(chooser->objectName(), u"OtherFormat"_s);
         QVERIFY(chooser->isModal());
         auto* buttons = chooser->findChild<QDialogButtonBox*>();
         buttons->button(QDialogButtonBox::Cancel)->click();
@@ -75,32 +75,31 @@ private Q_SLOTS:
 
         chooser = openChooser();
         QVERIFY(chooser);
-        auto* format = chooser->findChild<QComboBox*>(QStringLiteral("popFormat"));
-        QCOMPARE(format->findText(QStringLiteral("MP3")), -1); // already has a container
+        auto* format = chooser->findChild<QComboBox*>(u"popFormat"_s);
+        QCOMPARE(format->findText(u"MP3"_s), -1); // already has a container
         // Chosen by keyboard, as a user without a mouse would.
         format->setFocus();
-        const int flac = format->findText(QStringLiteral("FLAC"));
+        const int flac = format->findText(u"FLAC"_s);
         QVERIFY(flac >= 0);
         while (format->currentIndex() < flac)
             QTest::keyClick(format, Qt::Key_Down);
-        auto* sampleRate = chooser->findChild<QComboBox*>(QStringLiteral("popSmpRate"));
+        auto* sampleRate = chooser->findChild<QComboBox*>(u"popSmpRate"_s);
         QVERIFY(sampleRate->count() > 1);
         const QString catalogueRate = sampleRate->currentData().toString();
         sampleRate->setFocus();
         QTest::keyClick(sampleRate, Qt::Key_End);
         const QString chosenRate = sampleRate->currentData().toString();
-        grab(chooser, QStringLiteral("chooser"));
+        grab(chooser, u"chooser"_s);
         buttons = chooser->findChild<QDialogButtonBox*>();
         buttons->button(QDialogButtonBox::Ok)->click();
 
-        QTRY_VERIFY(tabIndex(QStringLiteral("FLAC")) >= 0);
-        QCOMPARE(m_window->tabBar().currentIndex(), tabIndex(QStringLiteral("FLAC")));
+        QTRY_VERIFY(tabIndex(u"FLAC"_s) >= 0);
+        QCOMPARE(m_window->tabBar().currentIndex(), tabIndex(u"FLAC"_s));
         QCOMPARE(child<QComboBox>("popSmpRate")->currentData().toString(), chosenRate);
         QVERIFY(chosenRate != catalogueRate);
         // The container got a copy: the catalogue still offers its own default.
-        QCOMPARE(
-            SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("FLAC"))->sampleRate(),
-            catalogueRate);
+        QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"FLAC"_s)->sampleRate(),
+                 catalogueRate);
     }
     void chooserIsReplacedByAnAlertWhenEveryFormatIsOpen() {
         SXWorkspace& ws = m_window->workspace();
@@ -111,12 +110,12 @@ private Q_SLOTS:
         QMessageBox* alert = openDialog<QMessageBox>(m_window.get());
         QVERIFY(alert);
         QCOMPARE(messageTexts(alert),
-                 (QStringList{QStringLiteral("All formats are opened, you can set the paramas in "
-                                             "the setting window."),
-                              QString(), QStringLiteral("Yes")}));
-        grab(alert, QStringLiteral("alert-all-formats"));
-        grab(m_window.get(), QStringLiteral("window-all-containers"));
-        QVERIFY(clickMessageButton(alert, QStringLiteral("Yes")));
+                 (QStringList{u"All formats are opened, you can set the paramas in "
+                              "the setting window."_s,
+                              QString(), u"Yes"_s}));
+        grab(alert, u"alert-all-formats"_s);
+        grab(m_window.get(), u"window-all-containers"_s);
+        QVERIFY(clickMessageButton(alert, u"Yes"_s));
         QVERIFY(!m_window->findChild<SXFormatChooserDialog*>());
     }
     void settingsPanelMirrorsAndEditsTheSelectedContainer() {
@@ -124,7 +123,7 @@ private Q_SLOTS:
         auto* bitRate = child<QComboBox>("popBitRate");
         auto* library = child<QCheckBox>("btnAddToLibrary");
 
-        m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
+        m_window->tabBar().setCurrentIndex(tabIndex(u"MP3"_s));
         const SXFormatSettingPtr mp3 = ws.store().getSelectedTabFormatSetting();
         QCOMPARE(bitRate->currentData().toString(), mp3->bitRate());
         QVERIFY(library->isVisible());
@@ -138,10 +137,10 @@ private Q_SLOTS:
         QCOMPARE(mp3->enumAddToLibrary(), library->isChecked() ? 1 : 0);
 
         // A format without a library option hides the box; going back shows the edited values.
-        m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("Ringtone")));
+        m_window->tabBar().setCurrentIndex(tabIndex(u"Ringtone"_s));
         QCOMPARE(ws.store().getSelectedTabFormatSetting()->enumAddToLibrary(), -1);
         QVERIFY(!library->isVisible());
-        m_window->tabBar().setCurrentIndex(tabIndex(QStringLiteral("MP3")));
+        m_window->tabBar().setCurrentIndex(tabIndex(u"MP3"_s));
         QVERIFY(library->isVisible());
         QCOMPARE(bitRate->currentData().toString(), lowest);
         QCOMPARE(library->isChecked(), mp3->enumAddToLibrary() == 1);
@@ -165,26 +164,26 @@ private Q_SLOTS:
             return false;
         };
         QVERIFY(inked(empty));
-        grab(m_window.get(), QStringLiteral("window-empty"));
+        grab(m_window.get(), u"window-empty"_s);
 
-        const QString path = m_media.filePath(QStringLiteral("tone.wav"));
+        const QString path = m_media.filePath(u"tone.wav"_s);
         QVERIFY(SonoriaTest::makeTone(path));
         ws.addRun().loadAndParseFiles({path});
         QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
         QCOMPARE(ws.store().currentTabItemCount(), 1);
         QVERIFY(remove->isEnabled() && clear->isEnabled());
         const QString text = SXWorkspaceTexts::helpBarText(ws.store());
-        QVERIFY(text.startsWith(QStringLiteral("1 file")));
+        QVERIFY(text.startsWith(u"1 file"_s));
         QCOMPARE(help->text(), text);
         const int selected = m_window->tabBar().currentIndex();
-        QVERIFY(m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
-        grab(m_window.get(), QStringLiteral("window-one-item"));
+        QVERIFY(m_window->tabBar().accessibleTabName(selected).contains(u'1'));
+        grab(m_window.get(), u"window-one-item"_s);
         QVERIFY(!inked(list->viewport()->grab().toImage())); // one row, no hint
 
         QTest::mouseClick(clear, Qt::LeftButton);
         QCOMPARE(ws.store().currentTabItemCount(), 0);
         QVERIFY(!remove->isEnabled() && !clear->isEnabled());
-        QVERIFY(!m_window->tabBar().accessibleTabName(selected).contains(QLatin1Char('1')));
+        QVERIFY(!m_window->tabBar().accessibleTabName(selected).contains(u'1'));
     }
     void tabBadgesMakeRoomForTheirCounts_data() {
         QTest::addColumn<int>("count");
@@ -198,7 +197,7 @@ private Q_SLOTS:
         const QStringList labels = ws.store().tabLabels();
         // The counts as the workspace reports them: from one digit to four, the tab grows.
         Q_EMIT ws.store().tabCountsChanged(labels, QList<int>(labels.size(), count));
-        grab(&tabs, QStringLiteral("tabs-%1").arg(count));
+        grab(&tabs, u"tabs-%1"_s.arg(count));
         for (int i = 0; i < tabs.count(); ++i) {
             QWidget* badge = tabs.tabButton(i, QTabBar::LeftSide);
             QWidget* close = tabs.tabButton(i, QTabBar::RightSide);
@@ -217,7 +216,7 @@ private Q_SLOTS:
                 tabs.style()->subElementRect(QStyle::SE_TabBarTabText, &option, &tabs);
             const QSize textSize(tabs.fontMetrics().horizontalAdvance(option.text), box.height());
             const QRect text = QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, textSize, box);
-            const QString where = QStringLiteral("%1 with %2").arg(option.text).arg(count);
+            const QString where = u"%1 with %2"_s.arg(option.text).arg(count);
             QVERIFY2(!text.intersects(badge->geometry()), qPrintable(where));
             QVERIFY2(tabs.tabRect(i).contains(badge->geometry()), qPrintable(where));
             QVERIFY2(!(close && close->isVisible() && text.intersects(close->geometry())),
@@ -227,14 +226,14 @@ private Q_SLOTS:
     void runLocksTabsAndPanel() {
         SXWorkspace& ws = m_window->workspace();
         ws.tabs().addContainerWithFormat(
-            SXDataEngine::shareInstance()->getFormatWithName(QStringLiteral("Opus")));
-        const int opus = tabIndex(QStringLiteral("Opus"));
+            SXDataEngine::shareInstance()->getFormatWithName(u"Opus"_s));
+        const int opus = tabIndex(u"Opus"_s);
         ws.store().setAppState(AppStateConverting);
         QVERIFY(!m_window->tabBar().addButton()->isVisible());
         QVERIFY(!m_window->tabBar().tabButton(opus, QTabBar::RightSide)->isVisible());
         QVERIFY(!child<QComboBox>("popBitRate")->isEnabled());
         QVERIFY(!child<QPushButton>("btnAddFile")->isEnabled());
-        grab(m_window.get(), QStringLiteral("window-converting"));
+        grab(m_window.get(), u"window-converting"_s);
 
         ws.store().setAppState(AppStateIdle);
         QVERIFY(m_window->tabBar().addButton()->isVisible());
@@ -247,7 +246,7 @@ private Q_SLOTS:
         QVERIFY(chooser);
         SONORIA_VERIFY_NONE(accessibilityProblems(chooser));
         chooser->reject();
-        grab(m_window.get(), QStringLiteral("window"));
+        grab(m_window.get(), u"window"_s);
     }
     void geometryIsRememberedBetweenRuns() {
         m_window->resize(1100, 700);
