@@ -16,6 +16,7 @@
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
+#include "workspace/WorkspaceTestPresenter.h"
 
 #include <QAction>
 #include <QDialogButtonBox>
@@ -76,7 +77,7 @@ private Q_SLOTS:
     }
     // Whether to ask and what each answer does is the workspace's (tst_workspacelists); here the
     // question is a real message box over the window, and its buttons keep or close the window.
-    void lastWindowAsksWhenItemsRemainAndHonoursBothAnswers() {
+    void lastWindowAsksWhenItemsRemainAndNewContainerRevivesIt() {
         addTone(u"kept.wav"_s);
         window().close();
         QMessageBox* question = openDialog<QMessageBox>(&window());
@@ -95,11 +96,8 @@ private Q_SLOTS:
         QVERIFY(question);
         QVERIFY(clickMessageButton(question, u"OK"_s));
         QTRY_VERIFY(!window().isVisible());
-    }
-    void newContainerRevivesThePrimaryWindowEmpty() {
-        // An empty window closes without asking.
-        window().close();
-        QTRY_VERIFY(!window().isVisible());
+
+        // New Container revives the primary window, empty.
         QVERIFY(action(SXCommand::NewContainer)->isEnabled());
         QVERIFY(!action(SXCommand::Open)->isEnabled());
         QVERIFY(!action(SXCommand::NewFormat)->isEnabled());
@@ -110,8 +108,8 @@ private Q_SLOTS:
         QVERIFY(window().isVisible());
         QVERIFY(!action(SXCommand::NewContainer)->isEnabled());
         QVERIFY(action(SXCommand::Open)->isEnabled());
-
-        // The revived window takes files again.
+        QCOMPARE(window().workspace().store().currentTabItemCount(), 0);
+        // It takes files again.
         addTone(u"after.wav"_s);
     }
     void menusFollowTheStateAndNeverBeepWhenOpening() {
@@ -300,13 +298,9 @@ private:
     void addTone(const QString& name) {
         const QString path = m_media.filePath(name);
         QVERIFY(QFile::exists(path) || SonoriaTest::makeTone(path));
-        SXWorkspace& ws = window().workspace();
-        const int before = ws.store().currentTabItemCount();
-        ws.addRun().loadAndParseFiles({path});
-        QCOMPARE(ws.store().enumAppState(), int(AppStateLoading));
-        // The count grows on the loader's thread; the window hears of it when the run is over.
-        QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
-        QCOMPARE(ws.store().currentTabItemCount(), before + 1);
+        const int before = window().workspace().store().currentTabItemCount();
+        QVERIFY(addFiles(window().workspace(), {path}));
+        QCOMPARE(window().workspace().store().currentTabItemCount(), before + 1);
         // A load slow enough to show the loading dialog (a sanitizer build, a busy machine) leaves
         // no window active on this platform once the dialog has closed; a desktop gives it back.
         QVERIFY(SonoriaGuiTest::activate(&window()));

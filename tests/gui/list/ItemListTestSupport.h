@@ -16,20 +16,10 @@
 // The pieces of a workspace window the list tests drive, and real drops onto its widgets.
 namespace ItemListTest {
 
+using SonoriaGuiTest::openWindow;
+
 inline SXItemListView* listOf(SXMainAppController* window) {
     return window->findChild<SXItemListView*>(QStringLiteral("itemList"));
-}
-
-// A shown, active window with the fixed containers.
-inline std::unique_ptr<SXMainAppController> openWindow() {
-    auto window = std::make_unique<SXMainAppController>();
-    window->workspace().tabs().addDefaultTabs();
-    window->resize(900, 560);
-    window->show();
-    window->activateWindow();
-    if (!QTest::qWaitForWindowActive(window.get()))
-        return nullptr;
-    return window;
 }
 
 inline QStringList rowNames(const SXItemListView* view) {

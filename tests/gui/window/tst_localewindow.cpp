@@ -7,6 +7,7 @@
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceScheduler.h"
+#include "workspace/WorkspaceTestPresenter.h"
 
 #include <QLocale>
 #include <QMessageBox>
@@ -51,18 +52,14 @@ private Q_SLOTS:
             QLocale::setDefault(QLocale::c());
         });
 
-        SXMainAppController window;
-        window.resize(960, 600);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        SXWorkspace& ws = window.workspace();
-        ws.tabs().addDefaultTabs();
-        ws.addRun().loadAndParseFiles({m_source});
-        QTRY_COMPARE_WITH_TIMEOUT(ws.store().currentTabItemCount(), 1, 10000);
-        QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 10000);
+        const auto window = openWindow({960, 600});
+        QVERIFY(window);
+        SXWorkspace& ws = window->workspace();
+        QVERIFY(addFiles(ws, {m_source}));
+        QCOMPARE(ws.store().currentTabItemCount(), 1);
         QTest::qWait(50);
-        grab(&window, u"locale-window-"_s + language);
-        SONORIA_VERIFY_NONE(clippedTexts(&window));
+        grab(window.get(), u"locale-window-"_s + language);
+        SONORIA_VERIFY_NONE(clippedTexts(window.get()));
 
         // The summary of a run with failures, in the words the scheduler uses.
         const SXPathFailureList failures{
@@ -73,7 +70,7 @@ private Q_SLOTS:
         ws.store().runAlert({SXWorkspaceScheduler::summaryMessage(4, failures),
                              QString(),
                              {QCoreApplication::translate("SXWorkspaceScheduler", "OK")}});
-        QMessageBox* summary = openDialog<QMessageBox>(&window);
+        QMessageBox* summary = openDialog<QMessageBox>(window.get());
         QVERIFY(summary);
         QVERIFY(QTest::qWaitForWindowExposed(summary));
         // The English catalogue corrects the source text's grammar.
@@ -86,8 +83,8 @@ private Q_SLOTS:
         QTRY_VERIFY(!summary->isVisible());
 
         // The dialogs with the most words: the format chooser and the preferences.
-        QTest::mouseClick(window.tabBar().addButton(), Qt::LeftButton);
-        auto* chooser = openDialog<SXFormatChooserDialog>(&window);
+        QTest::mouseClick(window->tabBar().addButton(), Qt::LeftButton);
+        auto* chooser = openDialog<SXFormatChooserDialog>(window.get());
         QVERIFY(chooser);
         QVERIFY(QTest::qWaitForWindowExposed(chooser));
         grab(chooser, u"locale-chooser-"_s + language);

@@ -42,10 +42,9 @@ private Q_SLOTS:
             m_noSound.prepend(u"no PulseAudio to play into: "_s);
     }
     void init() {
-        m_window = std::make_unique<SXMainAppController>();
+        m_window = SonoriaGuiTest::openWindow();
+        QVERIFY(m_window);
         m_window->workspace().store().setPresenter(&m_presenter);
-        m_window->workspace().tabs().addDefaultTabs();
-        m_window->show();
     }
     void cleanup() {
         m_window->workspace().preview().stopPlayerWithRefreshUI();

@@ -9,6 +9,7 @@
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWindowRegistry.h"
 #include "workspace/SXWorkspace.h"
+#include "workspace/WorkspaceTestPresenter.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -78,11 +79,8 @@ private Q_SLOTS:
         m_media = std::make_unique<QTemporaryDir>();
         m_output = std::make_unique<QTemporaryDir>();
         SXSettings::setValue(SXSettingsKey::MaxTask, 2);
-        m_window = std::make_unique<SXMainAppController>();
-        m_window->show();
-        m_window->workspace().tabs().addDefaultTabs();
-        m_window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(m_window.get()));
+        m_window = openWindow();
+        QVERIFY(m_window);
     }
     void cleanup() {
         m_window.reset();
@@ -216,9 +214,37 @@ private Q_SLOTS:
 
 private:
     // Adds generated sources to the selected container and waits until they are listed.
-    void addSources(const QStringList& names, double seconds, const QStringList& extra = {});
+    void addSources(const QStringList& names, double seconds, const QStringList& extra = {}) {
+        QStringList paths;
+        for (const QString& name : names) {
+            paths.append(m_media->filePath(name));
+            QVERIFY(SonoriaTest::makeTone(paths.last(), seconds, extra));
+        }
+        QVERIFY(addFiles(m_window->workspace(), paths));
+        QCOMPARE(m_window->workspace().store().currentTabItemCount(), names.size());
+    }
     // Presses Start and answers the folder dialog with `folder`, organised by format.
-    void startInto(const QString& folder, bool byEnterOnTheList = false);
+    void startInto(const QString& folder, bool byEnterOnTheList = false) {
+        QAction* start = startAction();
+        QVERIFY(start && start->isEnabled());
+        if (byEnterOnTheList) {
+            auto* list = m_window->findChild<SXItemListView*>();
+            list->setFocus();
+            QTest::keyClick(list, Qt::Key_Return);
+        } else {
+            start->trigger();
+        }
+        auto* dialog = openDialog<SXOutputFolderDialog>(m_window.get());
+        QVERIFY(dialog);
+        QVERIFY(dialog->findChildren<QLabel*>().size() > 0);
+        grab(dialog, u"output-folder"_s);
+        SONORIA_VERIFY_NONE(accessibilityProblems(dialog));
+        dialog->findChild<QLineEdit*>(u"folder"_s)->setText(folder);
+        auto* organise = dialog->findChild<QCheckBox*>(u"btnOrgized"_s);
+        QVERIFY(organise->isChecked()); // on unless the user turned it off
+        dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
+        QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
+    }
     QAction* startAction() const {
         for (QAction* action : m_window->findChild<QToolBar*>(u"toolbar"_s)->actions()) {
             if (action->text() == u"Start"_s || action->text() == u"Stop"_s)
@@ -233,40 +259,6 @@ private:
     std::unique_ptr<QTemporaryDir> m_output;
     std::unique_ptr<SXMainAppController> m_window;
 };
-
-void TestWindowRun::addSources(const QStringList& names, double seconds, const QStringList& extra) {
-    QStringList paths;
-    for (const QString& name : names) {
-        paths.append(m_media->filePath(name));
-        QVERIFY(SonoriaTest::makeTone(paths.last(), seconds, extra));
-    }
-    SXWorkspace& ws = m_window->workspace();
-    ws.addRun().loadAndParseFiles(paths);
-    QTRY_COMPARE_WITH_TIMEOUT(ws.store().enumAppState(), int(AppStateIdle), 20000);
-    QCOMPARE(ws.store().currentTabItemCount(), names.size());
-}
-
-void TestWindowRun::startInto(const QString& folder, bool byEnterOnTheList) {
-    QAction* start = startAction();
-    QVERIFY(start && start->isEnabled());
-    if (byEnterOnTheList) {
-        auto* list = m_window->findChild<SXItemListView*>();
-        list->setFocus();
-        QTest::keyClick(list, Qt::Key_Return);
-    } else {
-        start->trigger();
-    }
-    auto* dialog = openDialog<SXOutputFolderDialog>(m_window.get());
-    QVERIFY(dialog);
-    QVERIFY(dialog->findChildren<QLabel*>().size() > 0);
-    grab(dialog, u"output-folder"_s);
-    SONORIA_VERIFY_NONE(accessibilityProblems(dialog));
-    dialog->findChild<QLineEdit*>(u"folder"_s)->setText(folder);
-    auto* organise = dialog->findChild<QCheckBox*>(u"btnOrgized"_s);
-    QVERIFY(organise->isChecked()); // on unless the user turned it off
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
-    QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
-}
 
 SONORIA_GUI_TEST_MAIN(TestWindowRun)
 #include "tst_windowrun.moc"

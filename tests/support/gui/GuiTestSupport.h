@@ -2,10 +2,14 @@
 
 #include "support/TestSupport.h"
 
+#include "gui/window/SXMainAppController.h"
+#include "workspace/SXWorkspace.h"
+
 #include <QApplication>
 #include <QStringList>
 #include <QTest>
 #include <QWidget>
+#include <memory>
 
 class QMessageBox;
 
@@ -37,6 +41,16 @@ template <class T> T* openDialog(QWidget* window) {
 // left behind on this platform have been handled: replayed later, they would take the activation
 // away just as a key or a shortcut arrives. False when it is not active within 5 s.
 bool activate(QWidget* window);
+
+// A shown, active workspace window of `size` with the fixed containers; null when it does not
+// become active.
+inline std::unique_ptr<SXMainAppController> openWindow(QSize size = {900, 560}) {
+    auto window = std::make_unique<SXMainAppController>();
+    window->workspace().tabs().addDefaultTabs();
+    window->resize(size);
+    window->show();
+    return activate(window.get()) ? std::move(window) : nullptr;
+}
 
 // The texts of a message box: its text, informative text and button texts.
 QStringList messageTexts(QMessageBox* box);
