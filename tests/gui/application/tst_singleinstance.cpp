@@ -179,7 +179,27 @@ private:
     int
     runProgram(const QStringList& arguments, const QString& workingDir,
                const QProcessEnvironment& environment = QProcessEnvironment::systemEnvironment(),
-               QString* error = nullptr);
+               QString* error = nullptr) {
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.setWorkingDirectory(workingDir);
+        program.setProcessChannelMode(error ? QProcess::ForwardedOutputChannel
+                                            : QProcess::ForwardedChannels);
+        QElapsedTimer clock;
+        clock.start();
+        program.start(QStringLiteral(SONORIA_APP_PATH), arguments);
+        const bool ended =
+            QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 60000);
+        qInfo("sonoria %s ended after %lld ms", qPrintable(arguments.join(u' ')), clock.elapsed());
+        if (!ended) {
+            program.kill();
+            program.waitForFinished();
+            return -1;
+        }
+        if (error)
+            *error = QString::fromUtf8(program.readAllStandardError());
+        return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    }
     void becomeTheRunningInstance() {
         m_instance = std::make_unique<SXSingleInstance>();
         QVERIFY(m_instance->claim());
@@ -193,29 +213,6 @@ private:
     std::unique_ptr<SXDesktopApp> m_app;
     std::unique_ptr<SXSingleInstance> m_instance;
 };
-
-int TestSingleInstance::runProgram(const QStringList& arguments, const QString& workingDir,
-                                   const QProcessEnvironment& environment, QString* error) {
-    QProcess program;
-    program.setProcessEnvironment(environment);
-    program.setWorkingDirectory(workingDir);
-    program.setProcessChannelMode(error ? QProcess::ForwardedOutputChannel
-                                        : QProcess::ForwardedChannels);
-    QElapsedTimer clock;
-    clock.start();
-    program.start(QStringLiteral(SONORIA_APP_PATH), arguments);
-    const bool ended =
-        QTest::qWaitFor([&] { return program.state() == QProcess::NotRunning; }, 60000);
-    qInfo("sonoria %s ended after %lld ms", qPrintable(arguments.join(u' ')), clock.elapsed());
-    if (!ended) {
-        program.kill();
-        program.waitForFinished();
-        return -1;
-    }
-    if (error)
-        *error = QString::fromUtf8(program.readAllStandardError());
-    return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
-}
 
 SONORIA_GUI_TEST_MAIN(TestSingleInstance)
 #include "tst_singleinstance.moc"

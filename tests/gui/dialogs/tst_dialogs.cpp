@@ -5,16 +5,22 @@
 #include "framework/MTEAudioFileMgr.h"
 #include "gui/dialogs/SXArtworkDropView.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
+#include "gui/dialogs/SXPreferencesDialog.h"
+#include "gui/panels/SXSettingsPanel.h"
 #include "model/SXDataEngine.h"
+#include "online/SXServiceRequest.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/WorkspaceTestPresenter.h"
 
 #include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTabWidget>
@@ -52,15 +58,26 @@ int tagCount(const QString& file, const char* key) {
 }
 } // namespace
 
-class TestMetadataEditor : public QObject {
+// The tag editor and the preferences, driven as a user would. The preference window has no OK
+// button: every change must be in the settings file at once, where the next start (another
+// process) reads it; so must the settings panel's output naming, with the first file's name shown.
+class TestDialogs : public QObject {
     Q_OBJECT
 private Q_SLOTS:
     void initTestCase() {
         for (const QString& name : {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s})
             QVERIFY(SonoriaTest::makeTone(m_dir.filePath(name), 1.0,
                                           {u"-metadata"_s, u"title=Old %1"_s.arg(name)}));
+        QVERIFY(SonoriaTest::makeTone(m_dir.filePath(u"x.flac"_s), 0.5,
+                                      {"-metadata", "artist=Nina", "-metadata", "title=One"}));
     }
     void init() {
+        SXSettings::setValue(SXSettingsKey::MaxTask, 5);
+        SXSettings::setValue(SXSettingsKey::libraryFormat, u"AAC"_s);
+        SXSettings::setValue(SXSettingsKey::libraryPlaylistName, u"Sonoria"_s);
+        SXSettings::removeKey(SXServiceRequest::kConsentKey);
+        SXSettings::removeKey(SXSettingsKey::ExistingOutputs);
+        SXSettings::synchronize();
         m_presenter = WorkspaceTestPresenter();
         m_workspace = std::make_unique<SXWorkspace>();
         prepareWorkspace(*m_workspace, &m_presenter);
@@ -270,7 +287,99 @@ private Q_SLOTS:
         QCOMPARE(tagCount(output, "GROUPING"), 1); // under the name other programs read
     }
 
+    void everyChangeIsStoredAtOnce() {
+        SXPreferencesDialog window;
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        auto* tasks = window.findChild<QComboBox*>(u"pbtnMaxTasks"_s);
+        auto* library = window.findChild<QComboBox*>(u"pbtnLibraryFormat"_s);
+        auto* playlist = window.findChild<QLineEdit*>(u"fdPlaylistName"_s);
+        auto* existing = window.findChild<QComboBox*>(u"pbtnExistingOutputs"_s);
+        QCOMPARE(tasks->currentText(), u"5"_s);
+        QCOMPARE(library->currentText(), u"AAC"_s);
+        QCOMPARE(playlist->text(), u"Sonoria"_s);
+        QCOMPARE(existing->currentText(), u"Skip files already converted"_s);
+        SonoriaGuiTest::grab(&window, u"preferences"_s);
+
+        tasks->setFocus();
+        QTest::keyClick(tasks, Qt::Key_Down);
+        QCOMPARE(storedOnDisk(SXSettingsKey::MaxTask).toInt(), 10);
+        QTest::keyClick(tasks, Qt::Key_Home);
+        QCOMPARE(storedOnDisk(SXSettingsKey::MaxTask).toInt(), 2);
+
+        library->setFocus();
+        QTest::keyClick(library, Qt::Key_Down);
+        QCOMPARE(storedOnDisk(SXSettingsKey::libraryFormat).toString(), u"MP3"_s);
+
+        playlist->setFocus();
+        playlist->selectAll();
+        QTest::keyClicks(playlist, u"Road Mix"_s);
+        QCOMPARE(storedOnDisk(SXSettingsKey::libraryPlaylistName).toString(), u"Road Mix"_s);
+        QTest::keyClick(playlist, Qt::Key_Backspace);
+        QCOMPARE(storedOnDisk(SXSettingsKey::libraryPlaylistName).toString(), u"Road Mi"_s);
+
+        // What a run does with outputs already there.
+        existing->setFocus();
+        QTest::keyClick(existing, Qt::Key_Down);
+        QCOMPARE(storedOnDisk(SXSettingsKey::ExistingOutputs).toString(), u"both"_s);
+        QTest::keyClick(existing, Qt::Key_Down);
+        QCOMPARE(storedOnDisk(SXSettingsKey::ExistingOutputs).toString(), u"replace"_s);
+
+        // The network consent starts off and is the user's own act.
+        auto* consent = window.findChild<QCheckBox*>(u"chkServiceConsent"_s);
+        QVERIFY(!consent->isChecked() && !storedOnDisk(SXServiceRequest::kConsentKey).isValid());
+        consent->setFocus();
+        QTest::keyClick(consent, Qt::Key_Space);
+        QCOMPARE(storedOnDisk(SXServiceRequest::kConsentKey).toString(), u"true"_s);
+        QTest::keyClick(consent, Qt::Key_Space);
+        QCOMPARE(storedOnDisk(SXServiceRequest::kConsentKey).toString(), u"false"_s);
+
+        // Tab runs through the controls, and each has a name to read out.
+        SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(&window));
+        QCOMPARE(existing->accessibleName(), u"Existing outputs"_s);
+    }
+    void aStoredValueOutsideTheChoicesShowsNoChoice() {
+        SXSettings::setValue(SXSettingsKey::MaxTask, 3);
+        SXSettings::setValue(SXSettingsKey::libraryFormat, u"MP3"_s);
+        SXPreferencesDialog window;
+        QCOMPARE(window.findChild<QComboBox*>(u"pbtnMaxTasks"_s)->currentIndex(), -1);
+        QCOMPARE(window.findChild<QComboBox*>(u"pbtnLibraryFormat"_s)->currentText(), u"MP3"_s);
+        // Showing it wrote nothing back.
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
+    }
+    void panelEditsTheContainersNaming() {
+        addFiles(u"MP3"_s, {u"x.flac"_s});
+        SXSettingsPanel panel(m_workspace->store());
+        panel.showSetting(m_workspace->store().getSelectedTabFormatSetting());
+        panel.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&panel));
+        auto* pattern = panel.findChild<QLineEdit*>(u"fdNamePattern"_s);
+        auto* preview = panel.findChild<QLabel*>(u"lblNamePreview"_s);
+        auto* mirror = panel.findChild<QCheckBox*>(u"btnMirrorFolders"_s);
+        QVERIFY(pattern && preview && mirror);
+        QCOMPARE(preview->text(), u"The first file becomes: x.mp3"_s);
+
+        pattern->setFocus();
+        QTest::keyClicks(pattern, u"{artist}/{title}"_s);
+        const SXFormatSettingPtr setting = m_workspace->store().getSelectedTabFormatSetting();
+        QCOMPARE(setting->namePattern(), u"{artist}/{title}"_s);
+        QCOMPARE(preview->text(), u"The first file becomes: Nina/One.mp3"_s);
+        mirror->setFocus();
+        QTest::keyClick(mirror, Qt::Key_Space);
+        QVERIFY(setting->mirrorFolders());
+        // Stored with the container's other choices, for the next start.
+        const QString stored = storedOnDisk(u"SXContainerChoices/MP3"_s).toString();
+        QVERIFY2(stored.contains(u"\"namePattern\":\"{artist}/{title}\""_s) &&
+                     stored.contains(u"\"mirrorFolders\":true"_s),
+                 qPrintable(stored));
+        SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(&panel));
+    }
+
 private:
+    // What another process would read from the settings file right now.
+    static QVariant storedOnDisk(const QString& key) {
+        return QSettings(SXSettings::fileName(), QSettings::NativeFormat).value(key);
+    }
     SXMusicInfoList addFiles(const QString& container, const QStringList& names) {
         if (!m_workspace->tabs().selectContainer(container))
             m_workspace->tabs().addContainerWithFormat(
@@ -294,5 +403,5 @@ private:
     SXMetadataEditDialog* m_editor = nullptr;
 };
 
-SONORIA_GUI_TEST_MAIN(TestMetadataEditor)
-#include "tst_metadataeditor.moc"
+SONORIA_GUI_TEST_MAIN(TestDialogs)
+#include "tst_dialogs.moc"
