@@ -170,13 +170,9 @@ private Q_SLOTS:
         QTest::newRow("CR") << u"a\rb"_s << u"a\\rb"_s;
         QTest::newRow("LF") << u"a\nb"_s << u"a\\nb"_s;
         QTest::newRow("tab") << u"a\tb"_s << u"a\\tb"_s;
-        QTest::newRow("other C0") << u"a\x01"
-                                     "b"_s
-                                  << u"a\\x01b"_s;
+        QTest::newRow("other C0") << u"a\u0001b"_s << u"a\\x01b"_s;
         QTest::newRow("C1 CSI") << u"a\u009bb"_s << u"a\\u009bb"_s;
-        QTest::newRow("DEL") << u"a\x7f"
-                                "b"_s
-                             << u"a\\x7fb"_s;
+        QTest::newRow("DEL") << u"a\u007fb"_s << u"a\\x7fb"_s;
         QTest::newRow("backslash") << u"a\\eb"_s << u"a\\\\eb"_s;
     }
     // A name or tag value cannot drive the terminal or split the lines scripts read: every line

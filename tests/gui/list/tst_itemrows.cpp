@@ -57,36 +57,28 @@ private Q_SLOTS:
     void cleanupTestCase() { m_window.reset(); }
     void rowsPaintEachProgress_data() {
         QTest::addColumn<double>("progress");
-        QTest::addColumn<int>("state");
+        QTest::addColumn<bool>("running");
         QTest::addColumn<QString>("toolTip");
         QTest::addColumn<QString>("rightImage"); // under the mouse
         QTest::addColumn<double>("pieShare");    // of the button's disc; -1: no pie at all
-        QTest::newRow("waiting") << -1.0 << int(AppStateIdle) << u"pending"_s << u"right_edit"_s
-                                 << -1.0;
-        QTest::newRow("sending") << -2.0 << int(AppStateConverting) << u"sending"_s << u"cancel"_s
-                                 << -1.0;
-        QTest::newRow("cancelled")
-            << -3.0 << int(AppStateIdle) << u"canceled"_s << u"right_edit"_s << -1.0;
-        QTest::newRow("failed") << -4.0 << int(AppStateIdle) << u"error"_s << u"right_edit"_s
-                                << -1.0;
-        QTest::newRow("finished") << 100.0 << int(AppStateIdle) << u"finish"_s << u"right_edit"_s
-                                  << -1.0;
-        QTest::newRow("starting") << 0.0 << int(AppStateConverting) << u"converting"_s
-                                  << u"cancel"_s << 0.0;
-        QTest::newRow("37.9 %") << 37.9 << int(AppStateConverting) << u"converting"_s << u"cancel"_s
-                                << 0.37;
-        QTest::newRow("99.6 %") << 99.6 << int(AppStateConverting) << u"converting"_s << u"cancel"_s
-                                << 0.99;
+        QTest::newRow("waiting") << -1.0 << false << u"pending"_s << u"right_edit"_s << -1.0;
+        QTest::newRow("sending") << -2.0 << true << u"sending"_s << u"cancel"_s << -1.0;
+        QTest::newRow("cancelled") << -3.0 << false << u"canceled"_s << u"right_edit"_s << -1.0;
+        QTest::newRow("failed") << -4.0 << false << u"error"_s << u"right_edit"_s << -1.0;
+        QTest::newRow("finished") << 100.0 << false << u"finish"_s << u"right_edit"_s << -1.0;
+        QTest::newRow("starting") << 0.0 << true << u"converting"_s << u"cancel"_s << 0.0;
+        QTest::newRow("37.9 %") << 37.9 << true << u"converting"_s << u"cancel"_s << 0.37;
+        QTest::newRow("99.6 %") << 99.6 << true << u"converting"_s << u"cancel"_s << 0.99;
     }
     void rowsPaintEachProgress() {
         QFETCH(double, progress);
-        QFETCH(int, state);
+        QFETCH(bool, running);
         QFETCH(QString, toolTip);
         QFETCH(QString, rightImage);
         QFETCH(double, pieShare);
         SXWorkspace& workspace = m_window->workspace();
         item(1)->setDConvertProgress(progress);
-        workspace.store().setAppState(state);
+        workspace.store().setAppState(running ? AppStateConverting : AppStateIdle);
         Q_EMIT workspace.scheduler().rowsRedrawRequested();
 
         const QRect button = rowGeometry(1).state;
