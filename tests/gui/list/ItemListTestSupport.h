@@ -77,8 +77,7 @@ inline bool dropFilesOnList(SXMainAppController* window, const QStringList& path
         !(finished.count() > 0 || finished.wait(60000)))
         return false;
     // The closed dialog leaves no window active on this platform; a desktop gives it back.
-    window->activateWindow();
-    return QTest::qWaitForWindowActive(window);
+    return SonoriaGuiTest::activate(window);
 }
 
 // The point between rows `row` - 1 and `row` of the list (the end for the row count).

@@ -99,9 +99,9 @@ private Q_SLOTS:
         // Under the mouse the right button shows; elsewhere it is hidden.
         // Waited for: a real X server delivers the pointer's moves when it gets to them.
         hover(3);
-        QTRY_VERIFY(blank(rowGeometry(1).right));
+        QTRY_VERIFY(SonoriaGuiTest::isBlank(m_view->viewport(), rowGeometry(1).right));
         hover(1);
-        QTRY_VERIFY(!blank(rowGeometry(1).right));
+        QTRY_VERIFY(!SonoriaGuiTest::isBlank(m_view->viewport(), rowGeometry(1).right));
         QCOMPARE(
             SXItemRowLookRules::rowLook(workspace.store(), item(1), true, false, true).rightImage,
             rightImage);
@@ -286,17 +286,6 @@ private:
     void hover(int row) const {
         QTest::mouseMove(m_view->viewport(), centreOf(row == 0 ? 1 : 0));
         QTest::mouseMove(m_view->viewport(), centreOf(row));
-    }
-    // Nothing drawn in `rect` of the list: every pixel like the first.
-    bool blank(const QRect& rect) const {
-        const QImage image = m_view->viewport()->grab(rect).toImage();
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (image.pixel(x, y) != image.pixel(0, 0))
-                    return false;
-            }
-        }
-        return true;
     }
     void refill() {
         m_window->workspace().addRun().clearContainer();

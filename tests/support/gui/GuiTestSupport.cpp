@@ -54,6 +54,17 @@ bool clickMessageButton(QMessageBox* box, const QString& text) {
     return false;
 }
 
+bool isBlank(QWidget* widget, const QRect& rect) {
+    const QImage image = widget->grab(rect).toImage();
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (image.pixel(x, y) != image.pixel(0, 0))
+                return false;
+        }
+    }
+    return true;
+}
+
 void grab(QWidget* widget, const QString& name) {
     const QString folder = qEnvironmentVariable("SONORIA_GRAB_DIR");
     if (folder.isEmpty() || !widget)

@@ -57,6 +57,9 @@ QStringList messageTexts(QMessageBox* box);
 // Clicks the button of a message box that reads `text`; false when there is none.
 bool clickMessageButton(QMessageBox* box, const QString& text);
 
+// Whether `rect` of `widget`, as it is drawn now, is one colour: nothing drawn there.
+bool isBlank(QWidget* widget, const QRect& rect);
+
 // Writes a picture of `widget` to $SONORIA_GRAB_DIR/<name>.png when that variable is set.
 void grab(QWidget* widget, const QString& name);
 
