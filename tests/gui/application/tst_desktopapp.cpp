@@ -244,21 +244,17 @@ private Q_SLOTS:
         pressInWindow(Qt::Key_I);
         noClash(&window());
         grab(&window(), u"window-keys"_s);
-        pressInWindow(Qt::Key_E);
-        auto* editor = openDialog<SXMetadataEditDialog>(&window());
-        QVERIFY(editor);
-        noClash(editor);
-        editor->reject();
-        pressInWindow(Qt::Key_T);
-        auto* chooser = openDialog<SXFormatChooserDialog>(&window());
-        QVERIFY(chooser);
-        noClash(chooser);
-        chooser->reject();
-        pressInWindow(Qt::Key_Return);
-        auto* folder = openDialog<SXOutputFolderDialog>(&window());
-        QVERIFY(folder);
-        noClash(folder);
-        folder->reject();
+        const QList<std::pair<Qt::Key, const QMetaObject*>> dialogs{
+            {Qt::Key_E, &SXMetadataEditDialog::staticMetaObject},
+            {Qt::Key_T, &SXFormatChooserDialog::staticMetaObject},
+            {Qt::Key_Return, &SXOutputFolderDialog::staticMetaObject}};
+        for (const auto& [key, type] : dialogs) {
+            pressInWindow(key);
+            auto* dialog = openDialog<QDialog>(&window());
+            QVERIFY(dialog && dialog->metaObject() == type);
+            noClash(dialog);
+            dialog->reject();
+        }
         QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
 
         // Preferences: its own mnemonics, and closed by Escape, Ctrl+W and its Close button.

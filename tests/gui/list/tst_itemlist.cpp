@@ -36,22 +36,25 @@ private Q_SLOTS:
             QVERIFY(QFile::link(path(u"b.wav"_s),
                                 path(u"many/%1.wav"_s.arg(i, 4, 10, QLatin1Char('0')))));
     }
-    void init() { SXSettings::removeKey(SXSettingsKey::AppSupportVob); }
+    void init() {
+        SXSettings::removeKey(SXSettingsKey::AppSupportVob);
+        m_window = openWindow();
+        QVERIFY(m_window);
+    }
+    void cleanup() { m_window.reset(); }
     void droppedFilesBecomeRowsReadAloud() {
-        const auto window = openWindow();
-        QVERIFY(window);
-        SXItemListView* view = listOf(window.get());
+        SXItemListView* view = listOf(m_window.get());
         QAbstractItemModelTester tester(view->model(),
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
 
         // A file, a folder and a remote address: the core's refusal reaches the user as a
         // window-modal message box.
-        QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
+        QSignalSpy finished(&m_window->workspace().addRun(), &SXAddRun::loadFinished);
         const std::unique_ptr<QMimeData> data(
             uriList(localUrls({path(u"a.mp3"_s), path(u"folder"_s)}) +
                     QList<QUrl>{QUrl(u"https://example.org/x.mp3"_s)}));
         QVERIFY(dragAndDrop(view->viewport(), QPoint(10, 10), data.get()));
-        auto* refusal = SonoriaGuiTest::openDialog<QMessageBox>(window.get());
+        auto* refusal = SonoriaGuiTest::openDialog<QMessageBox>(m_window.get());
         QVERIFY(refusal);
         QCOMPARE(refusal->windowModality(), Qt::WindowModal);
         QCOMPARE(refusal->informativeText(), u"https://example.org/x.mp3\n"_s);
@@ -68,27 +71,25 @@ private Q_SLOTS:
         for (int i = 0; i < list->childCount(); ++i)
             spoken.append(list->child(i)->text(QAccessible::Name));
         QCOMPARE(spoken, rowNames(view));
-        QCOMPARE(tabCount(window.get(), u"MP3"_s), 3);
-        auto* help = window->findChild<SXHelpView*>();
+        QCOMPARE(tabCount(m_window.get(), u"MP3"_s), 3);
+        auto* help = m_window->findChild<SXHelpView*>();
         QVERIFY(help->tipsStr().startsWith(u"3 files"_s));
 
         // A file dropped anywhere else in the window is added too.
         finished.clear();
         const std::unique_ptr<QMimeData> more(uriList(localUrls({path(u"b.wav"_s)})));
-        const QPoint onHelpBar = help->mapTo(window.get(), help->rect().center());
-        QWidget* target = dropTargetAt(window.get(), onHelpBar);
-        QVERIFY(dragAndDrop(target, target->mapFrom(window.get(), onHelpBar), more.get()));
+        const QPoint onHelpBar = help->mapTo(m_window.get(), help->rect().center());
+        QWidget* target = dropTargetAt(m_window.get(), onHelpBar);
+        QVERIFY(dragAndDrop(target, target->mapFrom(m_window.get(), onHelpBar), more.get()));
         QVERIFY(finished.count() > 0 || finished.wait(60000));
         QCOMPARE(view->model()->rowCount(), 4);
-        QCOMPARE(tabCount(window.get(), u"MP3"_s), 4);
+        QCOMPARE(tabCount(m_window.get(), u"MP3"_s), 4);
         QVERIFY(help->tipsStr().startsWith(u"4 files"_s));
     }
     void addDialogTakesFilesAndFoldersTogether() {
-        const auto window = openWindow();
-        QVERIFY(window);
-        QSignalSpy finished(&window->workspace().addRun(), &SXAddRun::loadFinished);
-        QTest::mouseClick(window->findChild<QPushButton*>(u"btnAddFile"_s), Qt::LeftButton);
-        auto* dialog = SonoriaGuiTest::openDialog<SXAddFilesDialog>(window.get());
+        QSignalSpy finished(&m_window->workspace().addRun(), &SXAddRun::loadFinished);
+        QTest::mouseClick(m_window->findChild<QPushButton*>(u"btnAddFile"_s), Qt::LeftButton);
+        auto* dialog = SonoriaGuiTest::openDialog<SXAddFilesDialog>(m_window.get());
         QVERIFY(dialog);
         QCOMPARE(dialog->windowModality(), Qt::WindowModal);
         QVERIFY(dialog->nameFilters().first().contains(u"*.flac"_s));
@@ -97,17 +98,15 @@ private Q_SLOTS:
         name->setText(u"\"c.flac\" \"folder\""_s);
         QTest::keyClick(name, Qt::Key_Return);
         QVERIFY(finished.wait(60000));
-        QStringList names = rowNames(listOf(window.get()));
+        QStringList names = rowNames(listOf(m_window.get()));
         names.sort();
         QCOMPARE(names, (QStringList{u"c.flac"_s, u"d.ogg"_s, u"e.vob"_s}));
     }
     void loadingDialogShowsProgressAndCancels() {
-        const auto window = openWindow();
-        QVERIFY(window);
-        SXWorkspace& workspace = window->workspace();
+        SXWorkspace& workspace = m_window->workspace();
         QSignalSpy finished(&workspace.addRun(), &SXAddRun::loadFinished);
         QStringList seen;
-        SXLoadingDialog* dialog = window->findChild<SXLoadingDialog*>();
+        SXLoadingDialog* dialog = m_window->findChild<SXLoadingDialog*>();
         int stateWhileShown = -1;
         QStringList dialogProblems;
         connect(&workspace.addRun(), &SXAddRun::loadStarted, this,
@@ -122,7 +121,7 @@ private Q_SLOTS:
             QTest::mouseClick(dialog->findChild<QPushButton*>(u"btnCancel"_s), Qt::LeftButton);
             seen.append(dialog->isVisible() ? u"still shown"_s : u"hidden"_s);
         });
-        QVERIFY(dropFilesOnList(window.get(), {path(u"many"_s)}));
+        QVERIFY(dropFilesOnList(m_window.get(), {path(u"many"_s)}));
         QCOMPARE(seen.size(), 3);
         QCOMPARE(seen.at(0), u"Loading Media Files..."_s);
         QVERIFY2(seen.at(1).startsWith(u"Importing "_s) && seen.at(1).endsWith(u".wav..."_s),
@@ -134,13 +133,12 @@ private Q_SLOTS:
         QCOMPARE(workspace.store().currentTabItemCount(), 0);
     }
     void rowsMoveWithinTheListOntoTabsAndIntoOtherWindows() {
-        const auto first = openWindow();
+        SXMainAppController* first = m_window.get();
         const auto second = openWindow();
-        QVERIFY(first && second);
-        QVERIFY(
-            dropFilesOnList(first.get(), {path(u"a.mp3"_s), path(u"b.wav"_s), path(u"c.flac"_s)}));
+        QVERIFY(second);
+        QVERIFY(dropFilesOnList(first, {path(u"a.mp3"_s), path(u"b.wav"_s), path(u"c.flac"_s)}));
         QVERIFY(dropFilesOnList(second.get(), {path(u"a.mp3"_s), path(u"b.wav"_s)}));
-        SXItemListView* view = listOf(first.get());
+        SXItemListView* view = listOf(first);
         SXItemListView* other = listOf(second.get());
         QAbstractItemModelTester tester(view->model(),
                                         QAbstractItemModelTester::FailureReportingMode::QtTest);
@@ -162,8 +160,8 @@ private Q_SLOTS:
         QCOMPARE(rowNames(view), (QStringList{u"c.flac"_s, u"b.wav"_s}));
         QCOMPARE(first->workspace().store().getDataForFormat(u"AAC"_s).size(), 1);
         QCOMPARE(rowNames(other), QStringList{u"b.wav"_s});
-        QCOMPARE(tabCount(first.get(), u"MP3"_s), 2);
-        QCOMPARE(tabCount(first.get(), u"AAC"_s), 1);
+        QCOMPARE(tabCount(first, u"MP3"_s), 2);
+        QCOMPARE(tabCount(first, u"AAC"_s), 1);
 
         // Into the list of another window showing another container.
         QTest::mouseClick(
@@ -181,22 +179,20 @@ private Q_SLOTS:
         QVERIFY(first->findChild<SXHelpView*>()->tipsStr().startsWith(u"2 files"_s));
     }
     void dropsAreRefusedDuringARun() {
-        const auto window = openWindow();
-        QVERIFY(window);
-        QVERIFY(dropFilesOnList(window.get(), {path(u"a.mp3"_s), path(u"b.wav"_s)}));
-        SXItemListView* view = listOf(window.get());
+        QVERIFY(dropFilesOnList(m_window.get(), {path(u"a.mp3"_s), path(u"b.wav"_s)}));
+        SXItemListView* view = listOf(m_window.get());
         const std::unique_ptr<QMimeData> rows = dragRows(view, {0});
         const std::unique_ptr<QMimeData> files(uriList(localUrls({path(u"c.flac"_s)})));
-        window->workspace().store().setAppState(AppStateConverting);
+        m_window->workspace().store().setAppState(AppStateConverting);
 
         QVERIFY(!dragRows(view, {1}));
         QVERIFY(!dragAndDrop(view->viewport(), pointBeforeRow(view, 2), rows.get()));
         QVERIFY(!dragAndDrop(view->viewport(), QPoint(10, 10), files.get()));
-        QVERIFY(!dragAndDrop(window.get(), QPoint(5, 5), files.get()));
-        const QRect aac = window->tabBar().tabRect(1);
-        QVERIFY(!dragAndDrop(&window->tabBar(), aac.center(), rows.get()));
+        QVERIFY(!dragAndDrop(m_window.get(), QPoint(5, 5), files.get()));
+        const QRect aac = m_window->tabBar().tabRect(1);
+        QVERIFY(!dragAndDrop(&m_window->tabBar(), aac.center(), rows.get()));
         QCOMPARE(rowNames(view), (QStringList{u"a.mp3"_s, u"b.wav"_s}));
-        window->workspace().store().setAppState(AppStateIdle);
+        m_window->workspace().store().setAppState(AppStateIdle);
     }
 
 private:
@@ -208,6 +204,7 @@ private:
     }
 
     QTemporaryDir m_media;
+    std::unique_ptr<SXMainAppController> m_window;
 };
 
 SONORIA_GUI_TEST_MAIN(TestItemList)
