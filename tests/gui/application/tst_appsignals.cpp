@@ -96,18 +96,13 @@ private Q_SLOTS:
         const QString first = m_dir.filePath(u"plain tone.wav"_s);
         const QString second = m_dir.filePath(u"second tone.wav"_s);
         QVERIFY(SonoriaTest::makeTone(first, 1.0) && SonoriaTest::makeTone(second, 2.0));
-        QProcessEnvironment env = SonoriaTest::cliEnvironment();
-        env.insert(u"CLI"_s, QStringLiteral(SONORIA_CLI_PATH));
-        env.insert(u"OUT"_s, out);
-        env.insert(u"FIRST"_s, first);
-        env.insert(u"LONG"_s, m_sources.first());
-        env.insert(u"SECOND"_s, second);
-        const SonoriaTest::RunResult result =
-            SonoriaTest::runProgram(u"bash"_s,
-                                    {u"-c"_s, u"\"$CLI\" -j 2 --no-organize -o \"$OUT\" "
-                                              u"\"$FIRST\" \"$LONG\" \"$SECOND\" | head -c1\n"
-                                              u"exit \"${PIPESTATUS[0]}\""_s},
-                                    env);
+        // The tool and its arguments reach the shell as its own arguments, never quoted into it.
+        const SonoriaTest::RunResult result = SonoriaTest::runProgram(
+            u"bash"_s,
+            {u"-c"_s, u"\"$@\" | head -c1; exit \"${PIPESTATUS[0]}\""_s, u"bash"_s,
+             QStringLiteral(SONORIA_CLI_PATH), u"-j"_s, u"2"_s, u"--no-organize"_s, u"-o"_s, out,
+             first, m_sources.first(), second},
+            SonoriaTest::cliEnvironment());
         QCOMPARE(result.out, u"d"_s); // of "done: "
         SONORIA_COMPARE_EXIT(result, 0);
         // Every file whole: as long as its source.
