@@ -7,7 +7,6 @@
 #include <QImage>
 #include <QMimeDatabase>
 #include <QRegularExpression>
-#include <QSet>
 #include <QTemporaryDir>
 #include <QXmlStreamReader>
 
@@ -132,7 +131,6 @@ private Q_SLOTS:
         const QString entry = QString::fromUtf8(SonoriaTest::readFile(desktopEntry()));
         const QRegularExpression line(u"^MimeType=(.*)$"_s, QRegularExpression::MultilineOption);
         const QStringList offered = line.match(entry).captured(1).split(u';', Qt::SkipEmptyParts);
-        const QSet<QString> offeredSet(offered.begin(), offered.end());
         QMimeDatabase mimes;
         QStringList missing;
         for (const QString& extension : SXFolderScan::acceptedExtensions()) {
@@ -142,7 +140,7 @@ private Q_SLOTS:
             // An extension no MIME type claims cannot be offered; one that is claimed must be.
             const bool covered = types.isEmpty() ||
                                  std::any_of(types.begin(), types.end(), [&](const QString& name) {
-                                     return offeredSet.contains(name);
+                                     return offered.contains(name);
                                  });
             if (!covered)
                 missing.append(extension + u" ("_s + types.join(u", "_s) + u')');
