@@ -66,9 +66,7 @@ private Q_SLOTS:
         QVERIFY(SonoriaTest::makeTone(m_media.filePath(name), 1.0));
 
         QCOMPARE(runProgram({name}, m_media.path()), 0);
-        QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), QStringList{m_media.filePath(name)},
-                                  20000);
-        QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
+        waitUntilListed({m_media.filePath(name)});
     }
     void filesHandedOverDuringALoadFollowIt() {
         const QString first = m_media.filePath(u"first.wav"_s);
@@ -80,9 +78,7 @@ private Q_SLOTS:
         m_app->openFiles({first});
         QCOMPARE(workspace().store().enumAppState(), int(AppStateLoading));
         m_app->openFiles({second}); // arrives while the first batch is being probed
-        const QStringList expected = before + QStringList{first, second};
-        QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
-        QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
+        waitUntilListed(before + QStringList{first, second});
     }
     void openFromTheDesktopTakesLocalFilesOnly() {
         // As a desktop shell calls it: URIs, percent-encoded, and not all of them local.
@@ -101,9 +97,7 @@ private Q_SLOTS:
         QVERIFY2(!reply.isError(), qPrintable(reply.error().message()));
         QDBusConnection::disconnectFromBus(u"shell"_s);
 
-        const QStringList expected = before + QStringList{local};
-        QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
-        QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
+        waitUntilListed(before + QStringList{local});
     }
     void secondStartRunsAloneWhenNobodyAnswers_data() {
         QTest::addColumn<bool>("busAvailable");
@@ -199,6 +193,11 @@ private:
         if (error)
             *error = QString::fromUtf8(program.readAllStandardError());
         return program.exitStatus() == QProcess::NormalExit ? program.exitCode() : -1;
+    }
+    // Waits until the window lists `expected` and its add run is over.
+    void waitUntilListed(const QStringList& expected) {
+        QTRY_COMPARE_WITH_TIMEOUT(listedPaths(workspace()), expected, 20000);
+        QTRY_COMPARE(workspace().store().enumAppState(), int(AppStateIdle));
     }
     void becomeTheRunningInstance() {
         m_instance = std::make_unique<SXSingleInstance>();
