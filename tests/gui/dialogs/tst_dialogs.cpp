@@ -91,7 +91,7 @@ private Q_SLOTS:
         m_window.reset();
         m_workspace.reset();
     }
-    void fillingWritesNothingAndTypingWritesOnlyItsField() {
+    void fillingWritesNothingTypingWritesOnlyItsFieldAndThePlaceIsKept() {
         const SXMusicInfoPtr item = addFiles(u"MP3"_s, {u"a.mp3"_s}).first();
         const auto tags = item->metHandler();
         const QMap<QString, QVariant> before = tags->dicReadInfo();
@@ -112,6 +112,20 @@ private Q_SLOTS:
         QCOMPARE(tags->comment(), u"Nice"_s);
         QCOMPARE(tags->album(), QString());
         grab(u"editor-tags"_s);
+
+        // Its place is remembered as a point string, by OK and by the title bar's close button.
+        QCOMPARE(parsePointString(u"{120, -35}"_s), QPoint(120, -35));
+        QCOMPARE(parsePointString(u"{12.4, 7}"_s), QPoint(12, 7));
+        QVERIFY(!parsePointString(u"120,35"_s));
+        m_editor->move(140, 90);
+        m_editor->findChild<QPushButton*>(u"btnOk"_s)->click();
+        const QPoint saved = m_editor->pos();
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::MetadataWndPosition), pointString(saved));
+        m_editor->move(0, 0);
+        m_editor->open();
+        QCOMPARE(m_editor->pos(), saved);
+        m_editor->close();
+        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::MetadataWndPosition), pointString(saved));
     }
     void onlyOkKeepsTheEdits_data() {
         QTest::addColumn<QString>("leave");
@@ -224,23 +238,6 @@ private Q_SLOTS:
         }
         m_editor->findChild<QPushButton*>(u"btnDeleteImg"_s)->click();
         QVERIFY(item->metHandler()->albumImg().isEmpty());
-    }
-    void positionIsRememberedAsAPointString() {
-        QCOMPARE(parsePointString(u"{120, -35}"_s), QPoint(120, -35));
-        QCOMPARE(parsePointString(u"{12.4, 7}"_s), QPoint(12, 7));
-        QVERIFY(!parsePointString(u"120,35"_s));
-        m_editor->setMusicInfo(addFiles(u"MP3"_s, {u"a.mp3"_s}).first());
-        m_editor->open();
-        m_editor->move(140, 90);
-        m_editor->findChild<QPushButton*>(u"btnOk"_s)->click();
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::MetadataWndPosition),
-                 pointString(m_editor->pos()));
-        const QPoint saved = m_editor->pos();
-        m_editor->move(0, 0);
-        m_editor->open();
-        QCOMPARE(m_editor->pos(), saved);
-        m_editor->close(); // the title bar's close button: saved as by OK
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::MetadataWndPosition), pointString(saved));
     }
     void editsReachTheConvertedFileOnce_data() {
         QTest::addColumn<QString>("container");
