@@ -42,15 +42,6 @@ inline QList<QUrl> localUrls(const QStringList& paths) {
     return urls;
 }
 
-// The widget a drag over `window` at `pos` (window coordinates) reaches: the one under the
-// pointer, or its nearest ancestor that takes drops.
-inline QWidget* dropTargetAt(QWidget* window, const QPoint& pos) {
-    QWidget* widget = window->childAt(pos);
-    while (widget && !widget->acceptDrops())
-        widget = widget->parentWidget();
-    return widget ? widget : window;
-}
-
 // Enters, moves and drops `data` at `pos` of `target`, as the platform does; true when the
 // drop was taken.
 inline bool dragAndDrop(QWidget* target, const QPoint& pos, const QMimeData* data) {
