@@ -21,7 +21,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QToolBar>
 #include <QToolButton>
 
 using namespace Qt::StringLiterals;
@@ -241,13 +240,7 @@ private:
         dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Ok)->click();
         QTRY_COMPARE(m_window->workspace().store().enumAppState(), int(AppStateConverting));
     }
-    QAction* startAction() const {
-        for (QAction* action : m_window->findChild<QToolBar*>(u"toolbar"_s)->actions()) {
-            if (action->text() == u"Start"_s || action->text() == u"Stop"_s)
-                return action;
-        }
-        return nullptr;
-    }
+    QAction* startAction() const { return m_window->toolbar().action(SXCommand::Start); }
 
     SonoriaTest::PrivateSessionBus m_bus;
     DesktopListener m_listener;
