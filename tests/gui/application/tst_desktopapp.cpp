@@ -151,9 +151,8 @@ private Q_SLOTS:
             const QStringList opened = log.lines().filter(
                 QRegularExpression(u"^open file:///.*/share/sonoria/help\\.html$"_s));
             QCOMPARE(opened.size(), 1);
-            QFile page(QUrl(opened.first().mid(5)).toLocalFile());
-            QVERIFY(page.open(QIODevice::ReadOnly));
-            const QByteArray html = page.readAll();
+            const QByteArray html =
+                SonoriaTest::readFile(QUrl(opened.first().mid(5)).toLocalFile());
             QVERIFY(html.contains("<h1>Using Sonoria</h1>") &&
                     html.contains("<li><strong>Containers.</strong>"));
             QVERIFY(window().isVisible());
