@@ -70,12 +70,9 @@ private Q_SLOTS:
     // changes no decimal point.
     void albumTags() {
         const QString out = m_work.filePath(u"tagged"_s);
-        const SonoriaTest::RunResult result =
-            SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"-f"_s, u"FLAC"_s, u"-r"_s,
-                                 u"48000"_s, u"--no-organize"_s, u"-o"_s, out, m_album.at(0),
-                                 m_album.at(1), m_album.at(2), m_single},
-                                SonoriaTest::cliEnvironment(u"de_DE.UTF-8"_s));
-        QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
+        SONORIA_COMPARE_EXIT(SonoriaTest::runCli(albumRun(out) << m_single,
+                                                 SonoriaTest::cliEnvironment(u"de_DE.UTF-8"_s)),
+                             0);
         const double album = -18.0 - ffmpegLoudness(m_album);
         QStringList outputs;
         for (const QString& source : std::as_const(m_album)) {
@@ -104,11 +101,7 @@ private Q_SLOTS:
     // gain fields left to apply it twice.
     void albumNormalised() {
         const QString out = m_work.filePath(u"normalised"_s);
-        const SonoriaTest::RunResult result =
-            SonoriaTest::runCli({u"--replaygain"_s, u"album"_s, u"--normalise"_s, u"-f"_s,
-                                 u"FLAC"_s, u"-r"_s, u"48000"_s, u"--no-organize"_s, u"-o"_s, out,
-                                 m_album.at(0), m_album.at(1), m_album.at(2)});
-        QVERIFY2(result.exitCode == 0, qPrintable(result.out + result.err));
+        SONORIA_COMPARE_EXIT(SonoriaTest::runCli(albumRun(out) << u"--normalise"_s), 0);
         QStringList outputs;
         for (const QString& source : std::as_const(m_album)) {
             outputs.append(out + u'/' + QFileInfo(source).completeBaseName() + u".flac"_s);
@@ -199,6 +192,12 @@ private Q_SLOTS:
     }
 
 private:
+    // The album into `out` as FLAC at 48 kHz, with album gains.
+    QStringList albumRun(const QString& out) const {
+        const QStringList options{"--replaygain", "album", "-f", "FLAC", "-r", "48000"};
+        return options + QStringList{"--no-organize", "-o", out} + m_album;
+    }
+
     QTemporaryDir m_work;
     QStringList m_album;
     QString m_single;
