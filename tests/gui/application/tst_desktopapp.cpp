@@ -44,13 +44,10 @@ class TestDesktopApp : public QObject {
 
 private Q_SLOTS:
     void init() {
-        for (const QString& key : {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat,
-                                   SXSettingsKey::libraryPlaylistName})
-            SXSettings::removeKey(key);
+        SXSettings::removeKey(SXSettingsKey::libraryPlaylistName); // for the start to fill in
         m_app = std::make_unique<SXDesktopApp>();
         m_app->start({}, false);
-        window().activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window()));
+        QVERIFY(activate(&window()));
     }
     void cleanup() {
         m_app.reset();

@@ -127,16 +127,14 @@ private Q_SLOTS:
         QTRY_VERIFY(!m_listener.launcherUpdates.isEmpty() &&
                     !m_listener.launcherUpdates.last().value("progress-visible").toBool());
         QCOMPARE(m_listener.launcherUris.first(), u"application://app.sonoria.Sonoria.desktop"_s);
-        bool shown = false;
-        double last = 0;
+        double last = -1;
         for (const QVariantMap& update : std::as_const(m_listener.launcherUpdates)) {
-            if (!update.value("progress-visible").toBool())
-                continue;
-            shown = true;
-            QVERIFY(update.value("progress").toDouble() >= last); // never backwards
-            last = update.value("progress").toDouble();
+            if (update.value("progress-visible").toBool()) {
+                QVERIFY(update.value("progress").toDouble() >= last); // never backwards
+                last = update.value("progress").toDouble();
+            }
         }
-        QVERIFY(shown);
+        QVERIFY(last >= 0); // shown at all
         QTRY_COMPARE(m_listener.notificationBodies, QStringList{u"Converted: 2. Failed: 1."_s});
         // The failed row's tool tip says why, under its path.
         const QAbstractItemModel* rows = m_window->findChild<SXItemListView*>()->model();
