@@ -6,7 +6,6 @@
 #include "gui/dialogs/SXArtworkDropView.h"
 #include "gui/dialogs/SXMetadataEditDialog.h"
 #include "gui/dialogs/SXPreferencesDialog.h"
-#include "gui/panels/SXSettingsPanel.h"
 #include "model/SXDataEngine.h"
 #include "online/SXServiceRequest.h"
 #include "workspace/SXWorkspace.h"
@@ -60,7 +59,7 @@ int tagCount(const QString& file, const char* key) {
 
 // The tag editor and the preferences, driven as a user would. The preference window has no OK
 // button: every change must be in the settings file at once, where the next start (another
-// process) reads it; so must the settings panel's output naming, with the first file's name shown.
+// process) reads it.
 class TestDialogs : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -68,8 +67,6 @@ private Q_SLOTS:
         for (const QString& name : {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s})
             QVERIFY(SonoriaTest::makeTone(m_dir.filePath(name), 1.0,
                                           {u"-metadata"_s, u"title=Old %1"_s.arg(name)}));
-        QVERIFY(SonoriaTest::makeTone(m_dir.filePath(u"x.flac"_s), 0.5,
-                                      {"-metadata", "artist=Nina", "-metadata", "title=One"}));
     }
     void init() {
         SXSettings::setValue(SXSettingsKey::MaxTask, 5);
@@ -342,33 +339,6 @@ private Q_SLOTS:
         QCOMPARE(next.findChild<QComboBox*>(u"pbtnMaxTasks"_s)->currentIndex(), -1);
         QCOMPARE(next.findChild<QComboBox*>(u"pbtnLibraryFormat"_s)->currentText(), u"MP3"_s);
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
-    }
-    void panelEditsTheContainersNaming() {
-        addFiles(u"MP3"_s, {u"x.flac"_s});
-        SXSettingsPanel panel(m_workspace->store());
-        panel.showSetting(m_workspace->store().getSelectedTabFormatSetting());
-        panel.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&panel));
-        auto* pattern = panel.findChild<QLineEdit*>(u"fdNamePattern"_s);
-        auto* preview = panel.findChild<QLabel*>(u"lblNamePreview"_s);
-        auto* mirror = panel.findChild<QCheckBox*>(u"btnMirrorFolders"_s);
-        QVERIFY(pattern && preview && mirror);
-        QCOMPARE(preview->text(), u"The first file becomes: x.mp3"_s);
-
-        pattern->setFocus();
-        QTest::keyClicks(pattern, u"{artist}/{title}"_s);
-        const SXFormatSettingPtr setting = m_workspace->store().getSelectedTabFormatSetting();
-        QCOMPARE(setting->namePattern(), u"{artist}/{title}"_s);
-        QCOMPARE(preview->text(), u"The first file becomes: Nina/One.mp3"_s);
-        mirror->setFocus();
-        QTest::keyClick(mirror, Qt::Key_Space);
-        QVERIFY(setting->mirrorFolders());
-        // Stored with the container's other choices, for the next start.
-        const QString stored = storedOnDisk(u"SXContainerChoices/MP3"_s).toString();
-        QVERIFY2(stored.contains(u"\"namePattern\":\"{artist}/{title}\""_s) &&
-                     stored.contains(u"\"mirrorFolders\":true"_s),
-                 qPrintable(stored));
-        SONORIA_VERIFY_NONE(SonoriaGuiTest::accessibilityProblems(&panel));
     }
 
 private:

@@ -1,3 +1,4 @@
+#include "base/SXSettings.h"
 #include "gui/dialogs/SXFormatChooserDialog.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/list/SXItemRowDelegate.h"
@@ -5,7 +6,6 @@
 #include "gui/panels/SXItemStateView.h"
 #include "gui/window/SXContainerTabBar.h"
 #include "gui/window/SXMainAppController.h"
-#include "gui/window/SXWindowPresenter.h"
 #include "gui/window/SXWindowToolbar.h"
 #include "model/SXDataEngine.h"
 #include "online/SXPreferences.h"
@@ -13,22 +13,21 @@
 #include "support/TestSupport.h"
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXFileInfoText.h"
-#include "workspace/SXMetadataEditing.h"
 #include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceTexts.h"
 #include "workspace/WorkspaceTestPresenter.h"
 
-#include <QAbstractItemView>
-#include <QApplication>
 #include <QBuffer>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
 #include <QLabel>
+#include <QLineEdit>
 #include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QSettings>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QStyleOptionTab>
@@ -158,7 +157,7 @@ private Q_SLOTS:
         QVERIFY(clickMessageButton(alert, u"Yes"_s));
         QTRY_VERIFY(!m_window->findChild<SXFormatChooserDialog*>());
     }
-    void settingsPanelMirrorsAndEditsTheSelectedContainer() {
+    void settingsPanelMirrorsAndEditsTheSelectedContainerAndItsNaming() {
         SXWorkspace& ws = m_window->workspace();
         auto* bitRate = child<QComboBox>("popBitRate");
         auto* library = child<QCheckBox>("btnAddToLibrary");
@@ -184,6 +183,29 @@ private Q_SLOTS:
         QVERIFY(library->isVisible());
         QCOMPARE(bitRate->currentData().toString(), lowest);
         QCOMPARE(library->isChecked(), mp3->enumAddToLibrary() == 1);
+
+        // The output naming: the pattern and the folder layout, with the first file's name shown.
+        const QString source = m_media.filePath(u"x.flac"_s);
+        QVERIFY(SonoriaTest::makeTone(source, 0.5,
+                                      {"-metadata", "artist=Nina", "-metadata", "title=One"}));
+        QVERIFY(addFiles(ws, {source}));
+        auto* pattern = child<QLineEdit>("fdNamePattern");
+        auto* preview = child<QLabel>("lblNamePreview");
+        QCOMPARE(preview->text(), u"The first file becomes: x.mp3"_s);
+        pattern->setFocus();
+        QTest::keyClicks(pattern, u"{artist}/{title}"_s);
+        QCOMPARE(mp3->namePattern(), u"{artist}/{title}"_s);
+        QCOMPARE(preview->text(), u"The first file becomes: Nina/One.mp3"_s);
+        child<QCheckBox>("btnMirrorFolders")->setFocus();
+        QTest::keyClick(child<QCheckBox>("btnMirrorFolders"), Qt::Key_Space);
+        QVERIFY(mp3->mirrorFolders());
+        // Stored with the container's other choices, for the next start.
+        const QString stored = QSettings(SXSettings::fileName(), QSettings::NativeFormat)
+                                   .value(u"SXContainerChoices/MP3"_s)
+                                   .toString();
+        QVERIFY2(stored.contains(u"\"namePattern\":\"{artist}/{title}\""_s) &&
+                     stored.contains(u"\"mirrorFolders\":true"_s),
+                 qPrintable(stored));
     }
     void helpBarAndFileButtonsFollowTheItemsAndTheSizeIsKept() {
         SXWorkspace& ws = m_window->workspace();
