@@ -2,7 +2,6 @@
 #include "support/ProbeReference.h"
 #include "support/TestSupport.h"
 
-#include <QDir>
 #include <QProcess>
 #include <QScopeGuard>
 #include <QTemporaryDir>

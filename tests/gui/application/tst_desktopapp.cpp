@@ -20,7 +20,6 @@
 
 #include <QAction>
 #include <QDialogButtonBox>
-#include <QDir>
 #include <QListView>
 #include <QMenu>
 #include <QMenuBar>

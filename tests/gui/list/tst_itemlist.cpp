@@ -8,7 +8,6 @@
 
 #include <QAbstractItemModelTester>
 #include <QAccessible>
-#include <QDialogButtonBox>
 #include <QDir>
 #include <QLineEdit>
 #include <QMessageBox>

@@ -14,7 +14,6 @@
 #include <QAction>
 #include <QCheckBox>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDialogButtonBox>
 #include <QLineEdit>
 #include <QMessageBox>
