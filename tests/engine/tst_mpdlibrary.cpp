@@ -40,12 +40,6 @@ unsigned freePort() {
     ::close(fd);
     return ntohs(address.sin_port);
 }
-
-void useMpdAt(unsigned port) {
-    SXSettings::setValue(SXSettingsKey::LibraryBackend, u"mpd"_s);
-    SXSettings::setValue(SXSettingsKey::MpdHost, u"127.0.0.1"_s);
-    SXSettings::setValue(SXSettingsKey::MpdPort, int(port));
-}
 } // namespace
 
 class TestMpdLibrary : public QObject {
@@ -59,13 +53,7 @@ class TestMpdLibrary : public QObject {
     Connection connect() const {
         return Connection(mpd_connection_new("127.0.0.1", m_port, 3000), &mpd_connection_free);
     }
-    SXMpdLibrary::Server server() const {
-        SXMpdLibrary::Server server;
-        server.host = u"127.0.0.1"_s;
-        server.port = m_port;
-        server.musicDirectory = m_music;
-        return server;
-    }
+    SXMpdLibrary::Server server() const { return {u"127.0.0.1"_s, m_port, m_music}; }
     QString tone(const QString& relative) const {
         const QString path = m_music + u'/' + relative;
         QDir().mkpath(QFileInfo(path).absolutePath());
@@ -152,8 +140,7 @@ private Q_SLOTS:
         const SXMpdLibrary library(server());
         QCOMPARE(library.deliver(u"Sonoria"_s, first), Result::Added);
         QCOMPARE(library.deliver(u"Sonoria"_s, first), Result::AlreadyListed);
-        SXMpdLibrary::Server local;
-        local.host = m_root.filePath(u"socket"_s);
+        const SXMpdLibrary::Server local{.host = m_root.filePath(u"socket"_s)};
         QCOMPARE(SXMpdLibrary(local).deliver(u"Sonoria"_s, awkward), Result::Added);
         QCOMPARE(storedPlaylist(u"Sonoria"_s),
                  (QStringList{u"Sonoria/MP3/tone.mp3"_s,
@@ -191,7 +178,9 @@ private Q_SLOTS:
     }
 
     void settingsAndEnvironmentChooseTheServerOrOnlyLog() {
-        useMpdAt(m_port);
+        SXSettings::setValue(SXSettingsKey::LibraryBackend, u"mpd"_s);
+        SXSettings::setValue(SXSettingsKey::MpdHost, u"127.0.0.1"_s);
+        SXSettings::setValue(SXSettingsKey::MpdPort, int(m_port));
         SXSettings::setValue(SXSettingsKey::MpdMusicDirectory, m_music);
         const QString file = tone(u"settings/chosen.mp3"_s);
         ScriptBridgeHelper::syncMusicLibrary(u"FromSettings"_s, file);

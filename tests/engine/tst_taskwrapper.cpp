@@ -71,18 +71,6 @@ private:
 };
 using Event = RecordingController::Event;
 
-// Keeps the event loop turning for a while, so late callbacks would show up.
-void settle(int ms = 200) {
-    QElapsedTimer timer;
-    timer.start();
-    while (timer.elapsed() < ms)
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
-}
-
-bool processExists(qint64 pid) {
-    return pid > 0 && ::kill(static_cast<pid_t>(pid), 0) == 0;
-}
-
 // The state letter of /proc/<pid>/stat. A shell waiting in vfork for a child that was stopped
 // before its exec shows 'D' instead of 'T'; it writes nothing either.
 char processState(qint64 pid) {
@@ -166,7 +154,7 @@ private Q_SLOTS:
         // Returns only once the ended child has been reported.
         wrapper->waitUntilTaskExit();
         QCOMPARE(controller.status(), expectedStatus);
-        settle();
+        QTest::qWait(200); // late callbacks would show up
 
         QVERIFY2(controller.hasRunShape(), qPrintable(controller.kinds().join(u' ')));
         QCOMPARE(controller.output(), expectedOutput);
@@ -184,7 +172,7 @@ private Q_SLOTS:
         // Destroying a wrapper whose child has ended reaches the former controller no more.
         const QStringList before = controller.kinds();
         wrapper.reset();
-        settle();
+        QTest::qWait(200);
         QCOMPARE(controller.kinds(), before);
         QVERIFY(log.contains(u"Task dealloc"_s));
     }
@@ -207,9 +195,9 @@ private Q_SLOTS:
 
         wrapper->suspend();
         QTRY_VERIFY_WITH_TIMEOUT(isSuspended(child), 5000);
-        settle(300); // lets what was already in the pipe arrive
+        QTest::qWait(300); // lets what was already in the pipe arrive
         const qsizetype held = controller.output().size();
-        settle(500);
+        QTest::qWait(500);
         QCOMPARE(controller.output().size(), held);
         wrapper->resume();
         QTRY_VERIFY_WITH_TIMEOUT(controller.output().size() > held, 5000);
@@ -219,7 +207,7 @@ private Q_SLOTS:
         wrapper->stopProcess();
         QCOMPARE(controller.kinds().last(), u"finished"_s); // at once, not queued
         QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(m_dir.filePath(u"stubborn.sh.term"_s)), 5000);
-        settle(300);
+        QTest::qWait(300);
         QVERIFY(!controller.terminated());
         // Still alive and not stopped; on a busy machine it may be caught for a moment in
         // another state (waiting for the disk while it starts its next sleep).
@@ -231,9 +219,9 @@ private Q_SLOTS:
         timer.start();
         wrapper.reset();
         QVERIFY(timer.elapsed() >= TaskWrapper::kDestroyGraceMs - 100);
-        QVERIFY(!processExists(child));
-        QTRY_VERIFY_WITH_TIMEOUT(!processExists(grandchild), 5000);
-        settle();
+        QVERIFY(!SonoriaTest::processIsAlive(child));
+        QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::processIsAlive(grandchild), 5000);
+        QTest::qWait(200);
         QVERIFY(!controller.terminated());
         QCOMPARE(controller.kinds().last(), u"finished"_s); // from the final stop
     }
@@ -259,12 +247,12 @@ private Q_SLOTS:
             wrapper.get(), [&] { wrapper->startProcess(); }, Qt::BlockingQueuedConnection);
         QTRY_VERIFY_WITH_TIMEOUT(controller.output().endsWith(u'\n'), 10000);
         const qint64 grandchild = controller.output().trimmed().toLongLong();
-        QVERIFY(processExists(grandchild));
+        QVERIFY(SonoriaTest::processIsAlive(grandchild));
 
         wrapper->stopProcess();
         QTRY_VERIFY_WITH_TIMEOUT(controller.terminated(), 10000);
         QCOMPARE(controller.status(), TaskWrapper::kSignalStatusBase + SIGTERM);
-        QTRY_VERIFY_WITH_TIMEOUT(!processExists(grandchild), 5000);
+        QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::processIsAlive(grandchild), 5000);
         QVERIFY(controller.hasRunShape());
         for (const Event& event : controller.events())
             QCOMPARE(event.thread,
