@@ -73,15 +73,10 @@ class TestLSMediaLoader : public QObject {
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_dir.isValid());
-        m_mp3 = path("tone.mp3");
         QVERIFY(SonoriaTest::makeTone(m_mp3, 2, {"-b:a", "128k"}));
-        m_flac = path("tone.flac");
         QVERIFY(SonoriaTest::makeTone(m_flac, 1, {"-ac", "2"}));
-        m_text = path("letter.mp3");
         QVERIFY(SonoriaTest::writeFile(m_text, "Not a sound, only words.\n"));
-        m_ac3 = path("surround.ac3");
         QVERIFY(SonoriaTest::makeTone(m_ac3, 1, {"-ac", "6"}));
-        m_mka = path("tone.mka");
         QVERIFY(SonoriaTest::makeTone(m_mka, 1, {"-c:a", "libvorbis"}));
     }
 
@@ -197,11 +192,11 @@ private:
     QString path(const char* name) const { return m_dir.filePath(QString::fromUtf8(name)); }
 
     QTemporaryDir m_dir;
-    QString m_mp3;
-    QString m_flac;
-    QString m_text;
-    QString m_ac3;
-    QString m_mka;
+    const QString m_mp3 = path("tone.mp3");
+    const QString m_flac = path("tone.flac");
+    const QString m_text = path("letter.mp3");
+    const QString m_ac3 = path("surround.ac3");
+    const QString m_mka = path("tone.mka");
 };
 
 SONORIA_TEST_MAIN(TestLSMediaLoader)

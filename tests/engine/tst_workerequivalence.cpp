@@ -145,22 +145,29 @@ private Q_SLOTS:
         item.job.choices = {enc.lossless ? std::nullopt : std::optional<int>(192), enc.sampleRate,
                             src.channels, enc.lossless};
         QVERIFY(ConvertEngineChoice::workerTakes(item.job));
+        // Through the worker, then the same job through an ffmpeg child.
+        QTemporaryDir out;
+        LogCapture log;
         Recorder recorder;
-        Decoded both;
-        convertBothWays(item, &recorder, &both);
-        if (QTest::currentTestFailed())
-            return;
+        const ConvertOperationPtr operation = convert(item, out.path(), &recorder);
+        QVERIFY(log.contains(u"engine: worker"_s));
+        QCOMPARE(stateOf(item), int(CvtStateFinished));
         QVERIFY(recorder.isWellFormed());
-        QVERIFY(!both.ffmpeg.isEmpty());
+        const QString reference = out.filePath(u"reference."_s + item.job.extension);
+        const QStringList arguments =
+            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
+        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
+        const QByteArray worker = decoded(operation->strOutFilePath());
+        const QByteArray ffmpeg = decoded(reference);
+        QVERIFY(!ffmpeg.isEmpty());
         if (enc.lossless) {
-            QVERIFY(both.worker == both.ffmpeg);
+            QVERIFY(worker == ffmpeg);
             return;
         }
         // One frame of the largest encoder (2048 samples) either way.
         const qsizetype frameBytes = 2048 * 4 * src.channels;
-        QVERIFY(std::abs(both.worker.size() - both.ffmpeg.size()) <= frameBytes);
-        QVERIFY2(snrDb(both.ffmpeg, both.worker) >= 60.0,
-                 qPrintable(u"%1 dB"_s.arg(snrDb(both.ffmpeg, both.worker))));
+        QVERIFY(std::abs(worker.size() - ffmpeg.size()) <= frameBytes);
+        QVERIFY2(snrDb(ffmpeg, worker) >= 60.0, qPrintable(u"%1 dB"_s.arg(snrDb(ffmpeg, worker))));
     }
 
     // The rule: the worker's encoders only, no cue range or gain, and never when ffmpeg is asked
@@ -190,26 +197,6 @@ private Q_SLOTS:
     }
 
 private:
-    struct Decoded {
-        QByteArray worker;
-        QByteArray ffmpeg;
-    };
-    // Converts `item` through the worker, then its job through an ffmpeg child; both outputs
-    // decoded.
-    static void convertBothWays(const Item& item, Recorder* recorder, Decoded* both) {
-        QTemporaryDir out;
-        LogCapture log;
-        const ConvertOperationPtr operation = convert(item, out.path(), recorder);
-        QVERIFY(log.contains(u"engine: worker"_s));
-        QCOMPARE(stateOf(item), int(CvtStateFinished));
-        const QString reference = out.filePath(u"reference."_s + item.job.extension);
-        const QStringList arguments =
-            ConvertCommandLine::arguments(u"ffmpeg"_s, item.job, reference);
-        QCOMPARE(SonoriaTest::run(arguments.first(), arguments.mid(1)), 0);
-        both->worker = decoded(operation->strOutFilePath());
-        both->ffmpeg = decoded(reference);
-    }
-
     QTemporaryDir m_sources;
 };
 

@@ -87,9 +87,7 @@ private Q_SLOTS:
         row("surround.ac3", 48000, "-ac 6");
         row("tone.mp2", 44100, "-ac 2");
         row("movie.mp4", 44100, "-c:v libx264 -pix_fmt yuv420p -c:a aac -ac 2", HVMediaTypeVideo);
-        row("cover.mp3", 44100,
-            "-i " + cover +
-                " -map 0:a -map 1:v -c:v png -id3v2_version 3 -disposition:v attached_pic");
+        row("cover.mp3", 44100, with(cover) + id3Cover);
         row("photo.mp3", 44100, withPhoto + "-ac 2" + id3Cover);
         // Without the Xing header the duration comes from the size of what follows the tag.
         row("photo-cbr.mp3", 44100, withPhoto + "-write_xing 0" + id3Cover);

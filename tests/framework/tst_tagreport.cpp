@@ -33,17 +33,12 @@ class TestTagReport : public QObject {
             if (ref.isNull())
                 return false;
             TagLib::PropertyMap properties;
-            const auto put = [&properties](const char* key, const char* value) {
+            const char* const fields[][2] = {{"TITLE", "Título — 東京"}, {"ARTIST", "The Artist"},
+                                             {"ALBUM", "The Album"},     {"DATE", "2019-05-04"},
+                                             {"TRACKNUMBER", "3"},       {"GENRE", "Jazz"},
+                                             {"LYRICS", "la la la"},     {"BPM", "120"}};
+            for (const auto& [key, value] : fields)
                 properties.insert(key, TagLib::String(value, TagLib::String::UTF8));
-            };
-            put("TITLE", "Título — 東京");
-            put("ARTIST", "The Artist");
-            put("ALBUM", "The Album");
-            put("DATE", "2019-05-04");
-            put("TRACKNUMBER", "3");
-            put("GENRE", "Jazz");
-            put("LYRICS", "la la la");
-            put("BPM", "120");
             ref.file()->setProperties(properties);
             if (!ref.save())
                 return false;
