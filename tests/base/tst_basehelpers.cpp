@@ -199,8 +199,12 @@ private Q_SLOTS:
     }
 
     // A settings file as earlier versions wrote it (the keys' old spellings, which the code's
-    // names no longer show) is read by today's names, and a save keeps those spellings.
-    void fileOfAnEarlierVersionStillLoads() {
+    // names no longer show) is read by today's names, registration keeps its choices and a save
+    // keeps those spellings. The store lives under the isolated config home; registration puts
+    // the defaults on disk where a value is missing, empty or zero.
+    void fileOfAnEarlierVersionStillLoadsAndRegistrationKeepsIt() {
+        QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome() + "/"));
+        QVERIFY(SXSettings::fileName().endsWith("Sonoria/Sonoria.conf"));
         QVERIFY(QDir().mkpath(QFileInfo(SXSettings::fileName()).path()));
         QFile file(SXSettings::fileName());
         QVERIFY(file.open(QIODevice::WriteOnly));
@@ -212,7 +216,8 @@ private Q_SLOTS:
                    "DEFAULT_OUTPUT_PATH_KEY=/music/out\n"
                    "DEFAUTL_SET_ORIGANIZED_KEY=false\n");
         file.close();
-        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
+        SXSettings::setPreferenceValue();
+        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3); // not offered, honoured
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
                  QStringLiteral("Road trip"));
@@ -220,44 +225,21 @@ private Q_SLOTS:
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath),
                  QStringLiteral("/music/out"));
         QVERIFY(!SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
-        SXSettings::setPreferenceValue();
         SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
         SXSettings::synchronize();
         QVERIFY(file.open(QIODevice::ReadOnly));
         const QByteArray saved = file.readAll();
         QVERIFY(saved.contains("com.sx.iTunesFmtKey=AAC") && saved.contains("AppBSyncToiTunesKey"));
         QVERIFY(saved.contains("com.sx.iTunesPlaylistNameKey=Road trip"));
-        for (const QString& key :
-             {SXSettingsKey::MaxTask, SXSettingsKey::libraryFormat,
-              SXSettingsKey::libraryPlaylistName, SXSettingsKey::AppBSyncToLibrary,
-              SXSettingsKey::DefaultOutputPath, SXSettingsKey::DefaultSetOrganized})
-            SXSettings::removeKey(key);
-        SXSettings::synchronize();
-    }
 
-    // The store lives under the isolated config home; the first run puts the defaults on disk,
-    // later runs keep stored choices and only repair what is empty or zero.
-    void registrationKeepsStoredChoices() {
-        QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome() + "/"));
-        QVERIFY(SXSettings::fileName().endsWith("Sonoria/Sonoria.conf"));
-        SXSettings::setPreferenceValue();
-        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
-        QCOMPARE(QSettings(SXSettings::fileName(), QSettings::IniFormat)
-                     .value(SXSettingsKey::libraryPlaylistName),
-                 QStringLiteral("Sonoria"));
-
-        SXSettings::setValue(SXSettingsKey::MaxTask, 3); // not offered, still honoured
-        SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("MP3"));
+        SXSettings::removeKey(SXSettingsKey::libraryFormat);
         SXSettings::setValue(SXSettingsKey::libraryPlaylistName, QString());
-        SXSettings::setPreferenceValue();
-        QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3);
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
-        QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryPlaylistName),
-                 QStringLiteral("Sonoria"));
         SXSettings::setValue(SXSettingsKey::MaxTask, 0);
         SXSettings::setPreferenceValue();
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 5);
+        const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
+        QCOMPARE(onDisk.value(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
+        QCOMPARE(onDisk.value(SXSettingsKey::libraryPlaylistName), QStringLiteral("Sonoria"));
     }
 
     // INI brings scalars back as text; the typed readers must not be fooled by that.

@@ -54,6 +54,17 @@ inline SXMusicInfoPtr makeWorkspaceItem(const QString& path, const QString& type
     return item;
 }
 
+// Items of container `type` for made-up paths /x/<name>, each `seconds` long.
+inline SXMusicInfoList madeUpItems(const QString& type, const QStringList& names,
+                                   double seconds = 0) {
+    SXMusicInfoList items;
+    for (const QString& name : names) {
+        items.append(makeWorkspaceItem(QStringLiteral("/x/") + name, type));
+        items.last()->mediaInfo()->setDuration(seconds);
+    }
+    return items;
+}
+
 // An alert's texts and then its buttons, for one comparison.
 inline QStringList alertTexts(const SXAlert& alert) {
     return QStringList{alert.messageText, alert.informativeText} + alert.buttons;
@@ -65,13 +76,6 @@ inline QStringList fileNames(const SXMusicInfoList& items) {
     for (const SXMusicInfoPtr& item : items)
         names.append(QFileInfo(item->strFilePath()).fileName());
     return names;
-}
-
-// Whether the workspace agreed to close; the test presenter answers at once.
-template <class Workspace> bool closes(Workspace& workspace) {
-    bool mayClose = false;
-    workspace.windowShouldClose([&mayClose](bool answer) { mayClose = answer; });
-    return mayClose;
 }
 
 // Gives `workspace` the fixed containers, answered by `presenter`.

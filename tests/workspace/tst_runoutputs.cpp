@@ -12,32 +12,27 @@
 
 #include "WorkspaceTestPresenter.h"
 
-#include <QDirIterator>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
+using SonoriaTest::filesBelow;
+
 namespace {
-// Every file and folder below `dir`, relative, sorted, with what identifies the file itself
+// Every file and folder below `dir` as filesBelow lists them, each file with what identifies it
 // (inode and modification time): a file renamed or written again reads differently.
-QStringList treeWithIdentity(const QString& dir, bool identity = true) {
-    QStringList entries;
-    QDirIterator it(dir, QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden,
-                    QDirIterator::Subdirectories);
-    while (it.hasNext()) {
-        const QString path = it.next();
-        QString entry = QDir(dir).relativeFilePath(path);
+QStringList treeWithIdentity(const QString& dir) {
+    QStringList entries = filesBelow(dir, true);
+    for (QString& entry : entries) {
         struct stat status {};
-        if (identity && ::stat(QFile::encodeName(path).constData(), &status) == 0 &&
+        if (::stat(QFile::encodeName(dir + u'/' + entry).constData(), &status) == 0 &&
             S_ISREG(status.st_mode))
             entry += u" %1 %2.%3"_s.arg(status.st_ino)
                          .arg(status.st_mtim.tv_sec)
                          .arg(status.st_mtim.tv_nsec);
-        entries.append(entry);
     }
-    entries.sort();
     return entries;
 }
 } // namespace
@@ -86,7 +81,7 @@ private Q_SLOTS:
                                u"B/C/_hidden_dir/Unknown Track y.mp3"_s,
                                u"B/Unknown Artist"_s,
                                u"B/Unknown Artist/Unknown Track x.mp3"_s};
-        QCOMPARE(treeWithIdentity(folder, false), tree);
+        QCOMPARE(filesBelow(folder, true), tree);
         const QStringList before = treeWithIdentity(folder);
 
         QSignalSpy done(&workspace.scheduler(), &SXWorkspaceScheduler::itemFinished);
@@ -116,10 +111,10 @@ private Q_SLOTS:
             2);
         const QString folder = out(u"shared"_s);
         QVERIFY(!runInto(workspace, folder).isEmpty());
-        QCOMPARE(treeWithIdentity(folder, false),
+        QCOMPARE(filesBelow(folder, true),
                  (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
         QVERIFY(!runInto(workspace, folder).isEmpty());
-        QCOMPARE(treeWithIdentity(folder, false),
+        QCOMPARE(filesBelow(folder, true),
                  (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album(2).mp3"_s,
                               u"Unknown Album.mp3"_s}));
         const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
@@ -139,9 +134,8 @@ private Q_SLOTS:
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
         QVERIFY(!runInto(workspace, folder).isEmpty());
         QVERIFY(!runInto(workspace, folder).isEmpty());
-        QCOMPARE(
-            treeWithIdentity(folder, false),
-            (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s, u"q.mp3"_s}));
+        QCOMPARE(filesBelow(folder, true), (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s,
+                                                        u"q(2).mp3"_s, u"q.mp3"_s}));
 
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
         const QStringList before = treeWithIdentity(folder);
@@ -149,9 +143,8 @@ private Q_SLOTS:
         const QStringList after = treeWithIdentity(folder);
         // p.mp3 got a new file under its name; the user's q.mp3 stayed, and q's output went to the
         // next free name.
-        QCOMPARE(treeWithIdentity(folder, false),
-                 (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s, u"q(2).mp3"_s,
-                              u"q(3).mp3"_s, u"q.mp3"_s}));
+        QCOMPARE(filesBelow(folder, true), (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s,
+                                                        u"q(2).mp3"_s, u"q(3).mp3"_s, u"q.mp3"_s}));
         QVERIFY(!after.contains(before.filter(u"p.mp3 "_s).first()));
         QVERIFY(after.contains(before.filter(u"p(1).mp3 "_s).first()));
         QCOMPARE(SonoriaTest::readFile(folder + u"/q.mp3"_s), users);
@@ -181,7 +174,7 @@ private Q_SLOTS:
         QVERIFY(!runInto(workspace, folder).isEmpty());
         for (const SXMusicInfoPtr& item : workspace.store().getDataForFormat(u"MP3"_s))
             QCOMPARE(item->mediaInfo()->eumCvtState(), int(CvtStateFailed));
-        QCOMPARE(treeWithIdentity(folder, false), QStringList{u"r.mp3"_s});
+        QCOMPARE(filesBelow(folder, true), QStringList{u"r.mp3"_s});
         QCOMPARE(SonoriaTest::readFile(folder + u"/r.mp3"_s), old);
     }
 

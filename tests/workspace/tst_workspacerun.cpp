@@ -19,12 +19,10 @@
 
 using namespace Qt::StringLiterals;
 
+using SonoriaTest::filesBelow;
+
 namespace {
 constexpr int kRunTimeoutMs = 180000;
-
-QStringList filesIn(const QString& folder) {
-    return QDir(folder).entryList(QDir::Files, QDir::Name);
-}
 } // namespace
 
 class TestWorkspaceRun : public QObject {
@@ -97,7 +95,6 @@ private Q_SLOTS:
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::DefaultOutputPath), folder);
         QVERIFY(SXSettings::boolForKey(SXSettingsKey::DefaultSetOpen, false));
 
-        // Summary, folder opened, back to idle.
         QCOMPARE(finished.first().at(0).toString(), u"3 files has been successfully converted."_s);
         QCOMPARE(alertTexts(m_presenter.alerts.last()),
                  (QStringList{finished.first().at(0).toString(), QString(), u"OK"_s}));
@@ -106,11 +103,10 @@ private Q_SLOTS:
         QCOMPARE(totals.first().first().toDouble(), 0.0);
         QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 1.0);
 
-        // Organised by format, except the container with a folder of its own.
-        QCOMPARE(QDir(folder).entryList(QDir::Dirs | QDir::NoDotAndDotDot),
-                 (QStringList{u"FLAC"_s, u"MP3"_s}));
-        QCOMPARE(filesIn(own), QStringList{u"m44.m4a"_s});
-        // Each item announced its end once, with the file it wrote.
+        // Organised by format, except the container with a folder of its own; each item
+        // announced its end once, with the file it wrote.
+        QCOMPARE(filesBelow(folder), (QStringList{u"FLAC/s48.flac"_s, u"MP3/s48.mp3"_s}));
+        QCOMPARE(filesBelow(own), QStringList{u"m44.m4a"_s});
         QStringList outputs;
         for (const QList<QVariant>& done : std::as_const(itemsDone))
             outputs.append(QDir(folder).relativeFilePath(done.at(1).toString()));
@@ -166,7 +162,7 @@ private Q_SLOTS:
         // Every Start queues every item again, straight into the folder; the second finds the
         // whole, newer output of the first and leaves it (skipping is what a user gets unless they
         // chose).
-        QCOMPARE(filesIn(folder), QStringList{u"m44.mp3"_s});
+        QCOMPARE(filesBelow(folder), QStringList{u"m44.mp3"_s});
         QCOMPARE(workspace.store().getDataForFormat(u"AAC"_s).first()->dConvertProgress(),
                  SXProgress::Waiting);
         QCOMPARE(workspace.scheduler().getTotalConvertProgress(), 0.5);
@@ -229,22 +225,20 @@ private Q_SLOTS:
         for (const QList<QVariant>& total : std::as_const(totals))
             QCOMPARE(total.first().toDouble(), 0.0);
 
-        // A state set twice is announced twice, each time with its item: a preview moving on
-        // from row to row stays AppStatePlaying.
-        const SXMusicInfoPtr first = makeWorkspaceItem(u"/x/1.wav"_s, u"MP3"_s);
-        const SXMusicInfoPtr second = makeWorkspaceItem(u"/x/2.wav"_s, u"MP3"_s);
-        workspace.store().setAppState(AppStatePlaying, first);
-        workspace.store().setAppState(AppStatePlaying, second);
-        QCOMPARE(states.size(), 4);
-        QCOMPARE(states.at(2).at(1).value<SXMusicInfoPtr>(), first);
-        QCOMPARE(states.at(3).at(1).value<SXMusicInfoPtr>(), second);
-        QCOMPARE(workspace.store().appStateItem(), second);
-
         SXMusicInfoList items;
         for (double value : {-4.0, -3.0, 100.0, -2.0, -1.0, 50.0}) {
             items.append(makeWorkspaceItem(u"/x/%1.wav"_s.arg(items.size()), u"MP3"_s));
             items.last()->setDConvertProgress(value);
         }
+        // A state set twice is announced twice, each time with its item: a preview moving on
+        // from row to row stays AppStatePlaying.
+        for (int i = 0; i < 2; ++i) {
+            workspace.store().setAppState(AppStatePlaying, items.at(i));
+            QCOMPARE(states.last().at(1).value<SXMusicInfoPtr>(), items.at(i));
+        }
+        QCOMPARE(states.size(), 4);
+        QCOMPARE(workspace.store().appStateItem(), items.at(1));
+
         workspace.store().setData(items.mid(0, 3), u"MP3"_s);
         workspace.store().setData(items.mid(3), u"AAC"_s);
         QCOMPARE(workspace.store().getTotalNeedConvertMusic(), 6);
@@ -345,7 +339,7 @@ private Q_SLOTS:
         QVERIFY(finished.wait(kRunTimeoutMs));
         QCOMPARE(finished.first().at(0).toString(), u"3 files has been successfully converted."_s);
         QCOMPARE(itemsDone.size(), 3);
-        QCOMPARE(filesIn(folder + u"/MP3"_s),
+        QCOMPARE(filesBelow(folder + u"/MP3"_s),
                  (QStringList{u"m44.mp3"_s, u"mid.mp3"_s, u"s48.mp3"_s}));
         for (const auto& [name, seconds] :
              {std::pair{u"s48"_s, 1.0}, std::pair{u"mid"_s, 120.0}, std::pair{u"m44"_s, 1.0}}) {
