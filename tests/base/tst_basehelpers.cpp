@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(!back.decode("missing").isValid());
     }
 
-    void fileOperationsNeverReplaceAnything() {
+    void fileOperationsNeverReplaceAnythingAndFindFiles() {
         QTemporaryDir dir;
         const auto at = [&dir](const char* name) { return dir.filePath(name); };
         QVERIFY(writeFile(at("a.txt"), "a"));
@@ -312,6 +312,15 @@ private Q_SLOTS:
                 readFile(at("made/here/f.txt")) == "f");
         QVERIFY(FileHelper::deleteFileWithPath(at("a.txt")) &&
                 !FileHelper::deleteFileWithPath(at("a.txt")));
+
+        // A file is found by name at the top, or named below its first-level folder; links back
+        // up do not make the search go round.
+        QVERIFY(writeFile(at("a/b/c/deep.txt"), {}));
+        QVERIFY(QFile::link(at("a"), at("a/b/up")) && QFile::link(at("a/b"), at("a/b/self")));
+        QCOMPARE(FileHelper::findFile(dir.path(), "b.txt"), QStringLiteral("b.txt"));
+        QCOMPARE(FileHelper::findFile(dir.path(), "deep.txt"), at("a") + "/deep.txt");
+        QCOMPARE(FileHelper::findFile(at("a/b"), "deep.txt"), at("a/b/c/deep.txt"));
+        QVERIFY(FileHelper::findFile(dir.path(), "nowhere.txt").isNull());
     }
 
     void freeSpaceFollowsProcessHome_data() {
@@ -348,20 +357,6 @@ private Q_SLOTS:
         const QString data = SonoriaTest::temporaryHome().dataHome();
         QCOMPARE(FileHelper::getLangConfigPath(), data + "/Caches/lang/lang.dat");
         QVERIFY(QFileInfo(data + "/Caches/lang").isDir());
-    }
-
-    void findFileGivesNameOrFirstLevelFolder() {
-        QTemporaryDir dir;
-        QVERIFY(writeFile(dir.filePath("top.txt"), {}) &&
-                writeFile(dir.filePath("a/b/c/deep.txt"), {}));
-        QVERIFY(QFile::link(dir.filePath("a"), dir.filePath("a/b/up")));
-        QVERIFY(QFile::link(dir.filePath("a/b"), dir.filePath("a/b/self")));
-
-        QCOMPARE(FileHelper::findFile(dir.path(), "top.txt"), QStringLiteral("top.txt"));
-        QCOMPARE(FileHelper::findFile(dir.path(), "deep.txt"), dir.filePath("a") + "/deep.txt");
-        QCOMPARE(FileHelper::findFile(dir.filePath("a/b"), "deep.txt"),
-                 dir.filePath("a/b/c/deep.txt"));
-        QVERIFY(FileHelper::findFile(dir.path(), "nowhere.txt").isNull());
     }
 
     void defaultFoldersFollowHomeAndCreateNothing_data() {

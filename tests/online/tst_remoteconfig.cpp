@@ -26,7 +26,9 @@ struct ReceivedRequest {
 // answers every request with the same status and body.
 class TinyHttpServer : public QObject {
 public:
-    TinyHttpServer() {
+    explicit TinyHttpServer(int status = 200, const QByteArray& body = "{}")
+        : m_status(status)
+        , m_body(body) {
         connect(&m_server, &QTcpServer::newConnection, this, [this] {
             while (QTcpSocket* socket = m_server.nextPendingConnection()) {
                 socket->setParent(this);
@@ -37,10 +39,6 @@ public:
     }
     QString baseURL() const {
         return QStringLiteral("http://127.0.0.1:%1").arg(m_server.serverPort());
-    }
-    void respond(int status, const QByteArray& body) {
-        m_status = status;
-        m_body = body;
     }
     QList<ReceivedRequest> requests;
 
@@ -60,8 +58,8 @@ private:
 
     QTcpServer m_server;
     QHash<QTcpSocket*, QByteArray> m_pending;
-    int m_status = 200;
-    QByteArray m_body = "{}";
+    int m_status;
+    QByteArray m_body;
 };
 
 // What a fresh reader of the settings file sees, bypassing every in-process copy.
@@ -121,8 +119,7 @@ private Q_SLOTS:
         config()->setSupportVOB(failure == vob);
         config()->setExperimental(failure == experimental);
         LogCapture log;
-        TinyHttpServer server;
-        server.respond(status, body);
+        TinyHttpServer server(status, body);
         QString base = server.baseURL();
         if (status == 0) {
             const TinyHttpServer gone;

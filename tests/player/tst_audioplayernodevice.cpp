@@ -23,10 +23,9 @@ private Q_SLOTS:
         QVERIFY(SonoriaTest::makeTone(file, 2.0));
         WorkspaceTestPresenter presenter;
         SXWorkspace workspace;
-        workspace.store().setPresenter(&presenter);
+        prepareWorkspace(workspace, &presenter);
         SXAudioPlayer* player = SXAudioPlayer::shareAudioPlayer();
         workspace.preview().setPreviewPlayer(player);
-        workspace.tabs().addDefaultTabs();
         const SXMusicInfoPtr item = SXMusicInfo::newForSource(file, u"MP3"_s);
         QVERIFY(HVMediaInfo::dumpMediaInfo(*item->mediaInfo()));
         workspace.store().setData({item}, u"MP3"_s);

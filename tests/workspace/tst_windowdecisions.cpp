@@ -265,10 +265,9 @@ private Q_SLOTS:
     // catalogue, and a stored choice the format no longer offers is ignored.
     void containersAndChoicesSurviveARestart() {
         const QStringList fixed = SXDataEngine::getCanNotRemoveFormatContainer();
-        const SXFormatSettingPtr catalogueMp3 =
-            SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s);
-        const QStringList vorbisRates =
-            SXDataEngine::shareInstance()->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
+        SXDataEngine* engine = SXDataEngine::shareInstance();
+        const SXFormatSettingPtr catalogueMp3 = engine->getFormatWithName(u"MP3"_s);
+        const QStringList vorbisRates = engine->getFormatWithName(u"Ogg Vorbis"_s)->aryBiteRate();
         QVERIFY(vorbisRates.size() > 1);
         QStringList expected = fixed;
         {
@@ -277,8 +276,7 @@ private Q_SLOTS:
             first.tabs().addDefaultTabs();
             QCOMPARE(first.store().tabLabels(), fixed);
             for (const QString& name : {u"Ogg Vorbis"_s, u"FLAC"_s, u"WAV"_s})
-                first.tabs().addContainerWithFormat(
-                    SXDataEngine::shareInstance()->getFormatWithName(name));
+                first.tabs().addContainerWithFormat(engine->getFormatWithName(name));
             QVERIFY(first.tabs().selectContainer(u"WAV"_s) && first.tabs().closeTab());
             expected << u"Ogg Vorbis"_s << u"FLAC"_s;
             QCOMPARE(first.store().tabLabels(), expected);
@@ -315,8 +313,7 @@ private Q_SLOTS:
         QCOMPARE(second.store().getFormatSettingForFormatName(u"Ogg Vorbis"_s)->bitRate(),
                  vorbisRates.first());
         // The catalogue itself is untouched.
-        QCOMPARE(SXDataEngine::shareInstance()->getFormatWithName(u"MP3"_s)->bitRate(),
-                 catalogueMp3->bitRate());
+        QCOMPARE(engine->getFormatWithName(u"MP3"_s)->bitRate(), catalogueMp3->bitRate());
 
         SXWorkspace other;
         other.tabs().addDefaultTabs();
@@ -332,13 +329,11 @@ private Q_SLOTS:
         third.tabs().setRemembersContainers(true);
         third.tabs().addDefaultTabs();
         QCOMPARE(third.store().tabLabels(), fixed + QStringList{u"Opus"_s});
-        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->bitRate(),
-                 catalogueMp3->bitRate());
-        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->channels(), u"Mono"_s);
+        const SXFormatSettingPtr edited = third.store().getFormatSettingForFormatName(u"MP3"_s);
+        QCOMPARE(edited->bitRate(), catalogueMp3->bitRate());
+        QCOMPARE(edited->channels(), u"Mono"_s);
         // A file from before the loudness options leaves them off.
-        QCOMPARE(third.store().getFormatSettingForFormatName(u"MP3"_s)->replayGain(),
-                 SXReplayGainMode::Off);
-        QVERIFY(!third.store().getFormatSettingForFormatName(u"MP3"_s)->normalise());
+        QVERIFY(edited->replayGain() == SXReplayGainMode::Off && !edited->normalise());
     }
 
     void showInFilesAndACancelledStartCreateNothing_data() {
