@@ -103,13 +103,14 @@ private Q_SLOTS:
     }
 
     // Two items planning the same name: the second is numbered, and on the next run the first
-    // one's output is not taken for the second one's result.
-    void itemsOfOneRunNeverShareANameNorCountAsEachOthersResult() {
+    // one's output is not taken for the second one's result. Then, named by their files beside
+    // the user's own q.mp3: "Keep both" numbers every output, "Replace" replaces only our own.
+    void sharedNamesKeepBothAndReplace() {
         SXWorkspace workspace;
         QCOMPARE(
             setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{album}"_s, false),
             2);
-        const QString folder = out(u"shared"_s);
+        QString folder = out(u"shared"_s);
         QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(filesBelow(folder, true),
                  (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
@@ -120,14 +121,9 @@ private Q_SLOTS:
         const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
         QVERIFY(items.first()->mediaInfo()->alreadyConverted());
         QVERIFY(!items.last()->mediaInfo()->alreadyConverted());
-    }
 
-    void keepBothNumbersAndReplaceSwapsOnlyOurOwnOutputs() {
-        SXWorkspace workspace;
-        QCOMPARE(setUp(workspace, {in(u"loose/p.flac"_s), in(u"loose/q.flac"_s)}, u"{filename}"_s,
-                       false),
-                 2);
-        const QString folder = out(u"both"_s);
+        SXSettingPanelActions::setNamePattern(workspace.store(), u"{filename}"_s);
+        folder = out(u"both"_s);
         // q.mp3 is the user's own file (whole audio, newer than the source): never ours to replace.
         QVERIFY(QDir().mkpath(folder) && SonoriaTest::makeTone(folder + u"/q.mp3"_s, 1.0));
         const QByteArray users = SonoriaTest::readFile(folder + u"/q.mp3"_s);

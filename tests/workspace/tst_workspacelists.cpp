@@ -76,10 +76,8 @@ private Q_SLOTS:
         QStringList offered;
         for (const SXFormatSettingPtr& format : std::as_const(m_presenter.offeredFormats))
             offered.append(format->fmtName());
-        QStringList expected = SXDataEngine::shareInstance()->getAllOutputFormats();
-        for (const QString& name : fixed)
-            expected.removeAll(name);
-        QCOMPARE(offered, expected);
+        // The fixed containers lead the catalogue (tst_sxdataengine).
+        QCOMPARE(offered, SXDataEngine::shareInstance()->getAllOutputFormats().mid(fixed.size()));
         QCOMPARE(workspace.store().getSelectedMusicFormat(), u"WAV"_s);
 
         // No container closes during a run.
