@@ -73,15 +73,9 @@ private Q_SLOTS:
     void initTestCase() {
         QVERIFY(m_dir.isValid());
         QVERIFY(QDir().mkpath(path(u"album"_s)));
-        QStringList tones{u"-v"_s, u"error"_s};
-        for (int i = 0; i < 3; ++i)
-            tones << u"-f"_s << u"lavfi"_s << u"-i"_s
-                  << u"sine=frequency=%1:duration=%2:sample_rate=%3"_s.arg(kFrequencies[i])
-                         .arg(double(kSamples[i]) / kRate)
-                         .arg(kRate);
-        tones << u"-filter_complex"_s << u"[0][1][2]concat=n=3:v=0:a=1"_s << u"-c:a"_s << u"flac"_s
-              << u"-y"_s << path(u"album/Trois Tons.flac"_s);
-        QVERIFY(SonoriaTest::run(u"ffmpeg"_s, tones) == 0);
+        QVERIFY(SonoriaTest::makeMedia(path(u"album/Trois Tons.flac"_s),
+                                       u"aevalsrc=0.5*sin(2*PI*t*if(lt(t\\,2)\\,440\\,"
+                                       "if(lt(t\\,5)\\,880\\,1760))):s=44100:d=7.5"_s));
         m_sourceHash = SonoriaTest::fileHash(path(u"album/Trois Tons.flac"_s));
         QVERIFY(SonoriaTest::writeFile(path(u"album/Trois Tons.cue"_s),
                                        "\xEF\xBB\xBF" + sheetText(u"Trois Tons.flac"_s).toUtf8()));
