@@ -73,32 +73,26 @@ private Q_SLOTS:
         QTest::addColumn<double>("seconds");
         QTest::addColumn<QString>("clock");
         QTest::addColumn<QString>("remaining");
-        const double nan = std::numeric_limits<double>::quiet_NaN();
-        QTest::newRow("zero") << 0.0 << "00:00:00" << QString();
-        QTest::newRow("truncated") << 59.99 << "00:00:59" << QString();
-        QTest::newRow("minutes") << 205.9 << "00:03:25" << QString();
-        QTest::newRow("hours keep all digits") << 360000.0 << "100:00:00" << QString();
-        QTest::newRow("saturates at 32 bits") << 1e12 << "596523:14:07" << QString();
-        QTest::newRow("plural looks at raw") << 1.4 << "00:00:01"
-                                             << "1 seconds remaining";
-        QTest::newRow("under one") << 0.7 << "00:00:00"
-                                   << "1 second remaining";
-        QTest::newRow("rounds to sixty") << 59.6 << "00:00:59"
-                                         << "60 seconds remaining";
-        QTest::newRow("one minute") << 60.0 << "00:01:00"
-                                    << "1 minite 0 second remaining";
-        QTest::newRow("minite to 119") << 119.9 << "00:01:59"
-                                       << "1 minite 59 seconds remaining";
-        QTest::newRow("minites from 120") << 121.0 << "00:02:01"
-                                          << "2 minites 1 second remaining";
-        QTest::newRow("one hour") << 3600.0 << "01:00:00"
-                                  << "1 hour 0 minite remaining";
-        QTest::newRow("hour to 7199") << 7199.0 << "01:59:59"
-                                      << "1 hour 59 minites remaining";
-        QTest::newRow("hours") << 7325.0 << "02:02:05"
-                               << "2 hours 2 minites remaining";
-        QTest::newRow("not a number") << nan << "00:00:00"
-                                      << "0 hour 0 minite remaining";
+        const auto row = [](const char* name, double seconds, const char* clock,
+                            const char* remaining = nullptr) {
+            QTest::newRow(name) << seconds << QString(clock) << QString(remaining);
+        };
+        row("zero", 0.0, "00:00:00");
+        row("truncated", 59.99, "00:00:59");
+        row("minutes", 205.9, "00:03:25");
+        row("hours keep all digits", 360000.0, "100:00:00");
+        row("saturates at 32 bits", 1e12, "596523:14:07");
+        row("plural looks at raw", 1.4, "00:00:01", "1 seconds remaining");
+        row("under one", 0.7, "00:00:00", "1 second remaining");
+        row("rounds to sixty", 59.6, "00:00:59", "60 seconds remaining");
+        row("one minute", 60.0, "00:01:00", "1 minite 0 second remaining");
+        row("minite to 119", 119.9, "00:01:59", "1 minite 59 seconds remaining");
+        row("minites from 120", 121.0, "00:02:01", "2 minites 1 second remaining");
+        row("one hour", 3600.0, "01:00:00", "1 hour 0 minite remaining");
+        row("hour to 7199", 7199.0, "01:59:59", "1 hour 59 minites remaining");
+        row("hours", 7325.0, "02:02:05", "2 hours 2 minites remaining");
+        row("not a number", std::numeric_limits<double>::quiet_NaN(), "00:00:00",
+            "0 hour 0 minite remaining");
     }
     void timeTexts() {
         QFETCH(double, seconds);
