@@ -116,8 +116,13 @@ private Q_SLOTS:
         QCOMPARE(m_player->played.size(), 1);
     }
 
-    void playButtonTogglesAndStopTwiceIsHarmless() {
+    // The play button toggles and a second stop is harmless; the slider seeks only when the drag
+    // pauses. Another window's Start stops the shared player: this window goes idle, without an
+    // alert (a failure to play, with its alert, is tested on the real player in
+    // tst_audioplayernodevice).
+    void playButtonSliderAndAForeignStop() {
         QSignalSpy notes(m_player.get(), &SXPreviewPlayer::notificationPosted);
+        m_workspace->preview().sliderDown(50, 10.0); // not playing: ignored
         m_workspace->preview().togglePlay(row(1));
         QVERIFY(m_workspace->preview().isPlayingMusic(row(1)));
         QCOMPARE(m_workspace->store().enumAppState(), int(AppStatePlaying));
@@ -150,6 +155,15 @@ private Q_SLOTS:
         m_workspace->store().setAppState(AppStateIdle);
         m_workspace->preview().playRow(0);
         QVERIFY(m_workspace->preview().isPlayingMusic(row(0)));
+
+        for (const double now : {20.0, 20.1, 20.25, 20.5, 20.65})
+            m_workspace->preview().sliderDown(25, now);
+        QCOMPARE(m_player->seeks, (QList<double>{50.0, 50.0}));
+        SXWorkspace other;
+        other.preview().setPreviewPlayer(m_player.get());
+        other.scheduler().doRealConverterTask(QDir::tempPath());
+        QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
+        QVERIFY(m_presenter.alerts.isEmpty());
     }
 
     void workspaceStopsThePreview_data() {
@@ -193,23 +207,6 @@ private Q_SLOTS:
         QCOMPARE(!m_player->playingMusic(), stops);
         if (stops)
             QVERIFY(m_workspace->store().enumAppState() != AppStatePlaying);
-    }
-
-    // The slider seeks only when the drag pauses. Another window's Start stops the shared player:
-    // this window goes idle, without an alert (a failure to play, with its alert, is tested on the
-    // real player in tst_audioplayernodevice).
-    void sliderSeeksWhenTheDragPausesAndAForeignStopEndsThePreview() {
-        m_workspace->preview().sliderDown(50, 10.0); // not playing: ignored
-        m_workspace->preview().playMusic(row(0));
-        for (const double now : {20.0, 20.1, 20.25, 20.5, 20.65})
-            m_workspace->preview().sliderDown(25, now);
-        QCOMPARE(m_player->seeks, (QList<double>{50.0, 50.0}));
-
-        SXWorkspace other;
-        other.preview().setPreviewPlayer(m_player.get());
-        other.scheduler().doRealConverterTask(QDir::tempPath());
-        QCOMPARE(m_workspace->store().enumAppState(), int(AppStateIdle));
-        QVERIFY(m_presenter.alerts.isEmpty());
     }
 
 private:
