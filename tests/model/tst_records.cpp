@@ -24,9 +24,7 @@ LSMediaPtr probedRecord() {
 }
 
 SXMusicInfoPtr item(const QString& path, const QString& type = QStringLiteral("MP3")) {
-    auto result = std::make_shared<SXMusicInfo>();
-    result->setStrFilePath(path);
-    result->setStrMusicType(type);
+    const SXMusicInfoPtr result = SXMusicInfo::newForSource(path, type);
     result->setMediaInfo(probedRecord());
     return result;
 }
