@@ -155,16 +155,14 @@ private Q_SLOTS:
         const QString guid = storedOnDisk(SXSettingsKey::Guid).toString(); // made at once
         QCOMPARE(guid.size(), 36);
 
-        // Three version components from the build's short version, then the build number.
-        QStringList parts = SXInstallation::version().split(QLatin1Char('.'));
-        while (parts.size() < 3)
-            parts << QStringLiteral("0");
+        // Three version components from the build's short version (read as tst_basehelpers'
+        // versions test reads them), then the build number.
         const QString query = "&appid=" + SXAppIdentity::applicationId() +
                               "&sysver=" + SXSystemInfo::systemVersionString();
-        const QString report =
-            "/common_task/reportstartup.php?appver=" + parts.mid(0, 3).join(QLatin1Char('.')) +
-            QLatin1Char('.') + SXInstallation::buildNumber() + query +
-            "&channelid=5&userid=" + guid;
+        const QString report = "/common_task/reportstartup.php?appver=" +
+                               SXAppIdentity::normalizedVersion(SXInstallation::version()) +
+                               QLatin1Char('.') + SXInstallation::buildNumber() + query +
+                               "&channelid=5&userid=" + guid;
         const QString configuration =
             "/common_task/getconfig.php?appver=" + SXInstallation::version() + query +
             "&appstore=0";
