@@ -178,19 +178,18 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("first");  // folder, album, album artist, container
         QTest::addColumn<QStringList>("second"); // the same for the other item
         QTest::addColumn<bool>("sameAlbum");
-        QTest::newRow("same tags, other folders")
-            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
-            << QStringList{u"two"_s, u"A"_s, u"X"_s, u"MP3"_s} << true;
-        QTest::newRow("same album, other album artist")
-            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
-            << QStringList{u"one"_s, u"A"_s, u"Y"_s, u"MP3"_s} << false;
-        QTest::newRow("no album, one folder") << QStringList{u"one"_s, {}, {}, u"MP3"_s}
-                                              << QStringList{u"one"_s, {}, {}, u"MP3"_s} << true;
-        QTest::newRow("no album, two folders") << QStringList{u"one"_s, {}, {}, u"MP3"_s}
-                                               << QStringList{u"two"_s, {}, {}, u"MP3"_s} << false;
-        QTest::newRow("same album, other containers")
-            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"MP3"_s}
-            << QStringList{u"one"_s, u"A"_s, u"X"_s, u"FLAC"_s} << false;
+        // Each item as "folder album artist container", "-" for a tag it does not have.
+        const auto row = [](const char* name, const char* first, const char* second, bool same) {
+            const auto fields = [](const char* text) {
+                return QString::fromLatin1(text).split(u' ').replaceInStrings(u"-"_s, QString());
+            };
+            QTest::newRow(name) << fields(first) << fields(second) << same;
+        };
+        row("same tags, other folders", "one A X MP3", "two A X MP3", true);
+        row("same album, other album artist", "one A X MP3", "one A Y MP3", false);
+        row("no album, one folder", "one - - MP3", "one - - MP3", true);
+        row("no album, two folders", "one - - MP3", "two - - MP3", false);
+        row("same album, other containers", "one A X MP3", "one A X FLAC", false);
     }
 
     void albumKeys() {
