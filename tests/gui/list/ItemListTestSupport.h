@@ -4,8 +4,6 @@
 
 #include "gui/list/SXItemListModel.h"
 #include "gui/list/SXItemListView.h"
-#include "gui/window/SXMainAppController.h"
-#include "workspace/SXWorkspace.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -22,10 +20,12 @@ inline SXItemListView* listOf(SXMainAppController* window) {
     return window->findChild<SXItemListView*>(QStringLiteral("itemList"));
 }
 
-inline QStringList rowNames(const SXItemListView* view) {
+inline QStringList rowNames(const SXItemListView* view, bool sorted = false) {
     QStringList names;
     for (int row = 0; row < view->model()->rowCount(); ++row)
         names.append(view->model()->index(row, 0).data().toString());
+    if (sorted)
+        names.sort();
     return names;
 }
 

@@ -14,7 +14,6 @@
 #include <QMessageBox>
 #include <QMultiMap>
 #include <QTabBar>
-#include <QTabWidget>
 
 namespace SonoriaGuiTest {
 
@@ -166,10 +165,6 @@ QStringList mnemonicClashes(QWidget* root) {
     }
     return clashes;
 }
-
-} // namespace SonoriaGuiTest
-
-namespace SonoriaGuiTest {
 
 QStringList clippedTexts(QWidget* root) {
     QStringList clipped;
