@@ -8,14 +8,12 @@
 #include "gui/dialogs/SXOutputFolderDialog.h"
 #include "gui/dialogs/SXPreferencesDialog.h"
 #include "gui/window/SXContainerTabBar.h"
-#include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "online/SXPreferences.h"
 #include "support/LogCapture.h"
 #include "support/TemporaryHome.h"
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWindowRegistry.h"
-#include "workspace/SXWorkspace.h"
 #include "workspace/WorkspaceTestPresenter.h"
 
 #include <QAction>
@@ -82,8 +80,7 @@ private Q_SLOTS:
 
         window().close();
         question = openDialog<QMessageBox>(&window());
-        QVERIFY(question);
-        QVERIFY(clickMessageButton(question, u"OK"_s));
+        QVERIFY(question && clickMessageButton(question, u"OK"_s));
         QTRY_VERIFY(!window().isVisible());
 
         // New Container revives the primary window, empty.
@@ -158,17 +155,14 @@ private Q_SLOTS:
         QString probe;
         QCOMPARE(SonoriaTest::run(u"ffprobe"_s, {u"-version"_s}, &probe), 0);
         QStringList expected{SXInstallation::version(), u"Qt "_s + QString::fromLatin1(qVersion()),
-                             u"GNU General Public License"_s, u"TagLib 1."_s};
-        expected << u"FFmpeg "_s + probe.section(u' ', 2, 2);
-        for (const char* library : {"libavformat", "libavcodec"}) {
+                             u"GNU General Public License"_s, u"TagLib 1."_s,
+                             u"FFmpeg "_s + probe.section(u' ', 2, 2)};
+        for (const QString& library : {u"libavformat"_s, u"libavcodec"_s}) {
             const QRegularExpressionMatch version =
-                QRegularExpression(QString::fromLatin1(library) +
-                                   u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s)
-                    .match(probe);
-            QVERIFY2(version.hasMatch(), library);
-            expected << QString::fromLatin1(library) + u" %1.%2.%3"_s.arg(version.captured(1),
-                                                                          version.captured(2),
-                                                                          version.captured(3));
+                QRegularExpression(library + u"\\s+(\\d+)\\.\\s*(\\d+)\\.(\\d+)"_s).match(probe);
+            QVERIFY2(version.hasMatch(), qPrintable(library));
+            expected << library + u" %1.%2.%3"_s.arg(version.captured(1), version.captured(2),
+                                                     version.captured(3));
         }
         QString aboutText;
         QTimer closer; // the box runs its own loop: look for it from inside that loop
@@ -227,17 +221,12 @@ private Q_SLOTS:
         QCOMPARE(beeps.count(), 1);
     }
     void everyWindowHasUniqueMnemonicsAndPreferencesCloseByKey() {
-        const auto noClash = [](QWidget* root) {
-            const QStringList clashes = mnemonicClashes(root);
-            QVERIFY2(clashes.isEmpty(),
-                     qPrintable(root->objectName() + u": "_s + clashes.join(u"; "_s)));
-        };
         addTone(u"keys.wav"_s);
         SXWorkspace& ws = window().workspace();
         ws.store().setSelectedRows({0});
         // The window with its information panel open, then each dialog it opens by key.
         pressInWindow(Qt::Key_I);
-        noClash(&window());
+        SONORIA_VERIFY_NONE(mnemonicClashes(&window()));
         grab(&window(), u"window-keys"_s);
         const QList<std::pair<Qt::Key, const QMetaObject*>> dialogs{
             {Qt::Key_E, &SXMetadataEditDialog::staticMetaObject},
@@ -247,7 +236,7 @@ private Q_SLOTS:
             pressInWindow(key);
             auto* dialog = openDialog<QDialog>(&window());
             QVERIFY(dialog && dialog->metaObject() == type);
-            noClash(dialog);
+            SONORIA_VERIFY_NONE(mnemonicClashes(dialog));
             dialog->reject();
         }
         QTRY_COMPARE(ws.store().enumAppState(), int(AppStateIdle));
@@ -262,7 +251,7 @@ private Q_SLOTS:
         };
         SXPreferencesDialog* preferences = openPreferences();
         QVERIFY(preferences);
-        noClash(preferences);
+        SONORIA_VERIFY_NONE(mnemonicClashes(preferences));
         grab(preferences, u"preferences-close"_s);
         QTest::keyClick(preferences, Qt::Key_Escape);
         QTRY_VERIFY(!preferences->isVisible());

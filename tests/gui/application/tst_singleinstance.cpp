@@ -1,11 +1,9 @@
 #include "base/SXSettings.h"
 #include "desktop/SXSingleInstance.h"
 #include "gui/application/SXDesktopApp.h"
-#include "gui/window/SXMainAppController.h"
 #include "model/SXMusicInfo.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
-#include "workspace/SXWorkspace.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>
@@ -49,7 +47,7 @@ private Q_SLOTS:
         m_instance.reset();
         m_app.reset();
     }
-    void secondStartWithoutFilesRevivesTheClosedWindow() {
+    void secondStartRevivesTheClosedWindowAndHandsItsFilesToTheFirst() {
         SXMainAppController* window = m_app->coreWindow();
         window->close(); // empty: closes without asking
         QTRY_VERIFY(!window->isVisible());
@@ -58,8 +56,7 @@ private Q_SLOTS:
         QTRY_VERIFY(window->isVisible());
         QCOMPARE(m_app->coreWindow(), window); // revived, not replaced
         QVERIFY(workspace().isRegistered());
-    }
-    void secondStartHandsItsFilesToTheFirst() {
+
         // A relative name with a space and a non-ASCII letter: made absolute by the second start,
         // carried as a file:// URI and back.
         const QString name = u"Café au lait.wav"_s;
@@ -71,8 +68,7 @@ private Q_SLOTS:
     void filesHandedOverDuringALoadFollowIt() {
         const QString first = m_media.filePath(u"first.wav"_s);
         const QString second = m_media.filePath(u"second.wav"_s);
-        QVERIFY(SonoriaTest::makeTone(first, 1.0));
-        QVERIFY(SonoriaTest::makeTone(second, 1.0));
+        QVERIFY(SonoriaTest::makeTone(first, 1.0) && SonoriaTest::makeTone(second, 1.0));
         const QStringList before = listedPaths(workspace());
 
         m_app->openFiles({first});

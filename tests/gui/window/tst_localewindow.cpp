@@ -3,9 +3,7 @@
 #include "gui/dialogs/SXFormatChooserDialog.h"
 #include "gui/dialogs/SXPreferencesDialog.h"
 #include "gui/window/SXContainerTabBar.h"
-#include "gui/window/SXMainAppController.h"
 #include "support/gui/GuiTestSupport.h"
-#include "workspace/SXWorkspace.h"
 #include "workspace/SXWorkspaceScheduler.h"
 #include "workspace/WorkspaceTestPresenter.h"
 

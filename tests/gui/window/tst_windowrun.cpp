@@ -2,13 +2,11 @@
 #include "gui/dialogs/SXOutputFolderDialog.h"
 #include "gui/list/SXItemListView.h"
 #include "gui/window/SXContainerTabBar.h"
-#include "gui/window/SXMainAppController.h"
 #include "gui/window/SXWindowPresenter.h"
 #include "gui/window/SXWindowToolbar.h"
 #include "support/PrivateSessionBus.h"
 #include "support/gui/GuiTestSupport.h"
 #include "workspace/SXWindowRegistry.h"
-#include "workspace/SXWorkspace.h"
 #include "workspace/WorkspaceTestPresenter.h"
 
 #include <QAction>
