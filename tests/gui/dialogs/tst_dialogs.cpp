@@ -1,4 +1,3 @@
-#include "support/TestSupport.h"
 #include "support/gui/GuiTestSupport.h"
 
 #include "base/SXSettings.h"
@@ -8,10 +7,8 @@
 #include "gui/dialogs/SXPreferencesDialog.h"
 #include "model/SXDataEngine.h"
 #include "online/SXServiceRequest.h"
-#include "workspace/SXWorkspace.h"
 #include "workspace/WorkspaceTestPresenter.h"
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
