@@ -308,12 +308,11 @@ private Q_SLOTS:
         const RunResult result = SonoriaTest::runProgram(
             u"script"_s, {"-qec", "\"$CLI\" -o \"$OUT\" \"$SRC\"", "/dev/null"}, env);
         SONORIA_COMPARE_EXIT(result, 0);
-        const QString& shown = result.out;
-        QVERIFY2(shown.contains(u"\r["_s), qPrintable(shown));
-        QVERIFY(shown.contains(u"100%  4/4 done"_s));
+        QVERIFY2(result.out.contains(u"\r["_s), qPrintable(result.out));
+        QVERIFY(result.out.contains(u"100%  4/4 done"_s));
         // No per-file lines on a terminal; the summary still ends the output.
-        QVERIFY(!shown.contains(u"done: "_s));
-        QVERIFY(shown.trimmed().endsWith(u"4 files have been converted."_s));
+        QVERIFY(!result.out.contains(u"done: "_s));
+        QVERIFY(result.out.trimmed().endsWith(u"4 files have been converted."_s));
     }
     // What the tool says of tags that did not arrive: --check-tags on any two files, and the
     // lost fields named per file after a run.
