@@ -57,10 +57,9 @@ private Q_SLOTS:
         QDirIterator it(m_destDir.path(), QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
         while (it.hasNext()) {
             const QString path = it.next();
-            const QString name = QFileInfo(path).fileName();
             // Benchmarks and tests stay in the build; everything lands under the prefix.
-            if (!path.startsWith(m_prefix + u'/') || name.startsWith(u"sonoria-bench"_s) ||
-                name.startsWith(u"tst_"_s))
+            if (!path.startsWith(m_prefix + u'/') || it.fileName().startsWith(u"sonoria-bench"_s) ||
+                it.fileName().startsWith(u"tst_"_s))
                 strays.append(path);
         }
         SONORIA_VERIFY_NONE(strays);
@@ -96,8 +95,7 @@ private Q_SLOTS:
             // Drawn to its size, not an empty canvas: the middle is opaque, a corner of the rounded
             // square is not.
             const QImage icon(file.filePath());
-            QCOMPARE(icon.width(), icon.height());
-            QVERIFY(path.contains(u"/%1x%1/"_s.arg(icon.width())));
+            QVERIFY(path.contains(u"/%1x%2/"_s.arg(icon.width()).arg(icon.height())));
             QCOMPARE(qAlpha(icon.pixel(icon.width() / 2, icon.height() / 2)), 255);
             QCOMPARE(qAlpha(icon.pixel(0, 0)), 0);
         }
@@ -179,8 +177,7 @@ private Q_SLOTS:
             runWith(u"gzip"_s, {u"-dc"_s, manual(u"sonoria-cli"_s)}, userEnvironment());
         SONORIA_COMPARE_EXIT(page, 0);
         QStringList undocumented;
-        const QRegularExpression option(u"--([a-z][a-z-]+)"_s);
-        for (const QRegularExpressionMatch& match : option.globalMatch(help.out)) {
+        for (const auto& match : QRegularExpression(u"--([a-z][a-z-]+)"_s).globalMatch(help.out)) {
             const QString troff = u"\\-\\-"_s + match.captured(1).replace(u'-', u"\\-"_s);
             if (!page.out.contains(troff))
                 undocumented.append(match.captured(0));

@@ -3,7 +3,6 @@
 #include "base/SXTranslations.h"
 
 #include <QDir>
-#include <QFile>
 #include <QHash>
 #include <QLibraryInfo>
 #include <QRegularExpression>
@@ -44,15 +43,10 @@ QStringList translationTexts(QXmlStreamReader& xml) {
     return texts;
 }
 
-QList<Entry> readCatalogue(const QString& path, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        *error = file.errorString();
-        return {};
-    }
+QList<Entry> readCatalogue(const QByteArray& text, QString* error) {
     QList<Entry> entries;
     QString context;
-    QXmlStreamReader xml(&file);
+    QXmlStreamReader xml(text);
     while (!xml.atEnd()) {
         if (xml.readNext() != QXmlStreamReader::StartElement)
             continue;
@@ -138,7 +132,7 @@ private Q_SLOTS:
             {}, QStringLiteral(SONORIA_SOURCE_DIR));
         SONORIA_COMPARE_EXIT(scan, 0);
         QString error;
-        m_wanted = readCatalogue(scanned, &error);
+        m_wanted = readCatalogue(SonoriaTest::readFile(scanned), &error);
         QVERIFY2(m_wanted.size() > 100, qPrintable(error));
     }
     void catalogueIsCompleteAndFollowsTheSources_data() {
@@ -151,7 +145,7 @@ private Q_SLOTS:
     void catalogueIsCompleteAndFollowsTheSources() {
         QFETCH(QString, path);
         QString error;
-        const QList<Entry> entries = readCatalogue(path, &error);
+        const QList<Entry> entries = readCatalogue(SonoriaTest::readFile(path), &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         SONORIA_VERIFY_NONE(problemsOf(entries));
         QSet<QString> present;
@@ -193,15 +187,11 @@ private Q_SLOTS:
     void checkFindsFaults() {
         QFETCH(QString, messages);
         QFETCH(bool, faulty);
-        QTemporaryDir dir;
-        const QString path = dir.filePath(u"sonoria_xx.ts"_s);
-        QVERIFY(SonoriaTest::writeFile(
-            path, (u"<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\"><context>"
-                   "<name>Menu</name>"_s +
-                   messages + u"</context></TS>"_s)
-                      .toUtf8()));
+        const QString catalogue = u"<?xml version=\"1.0\" encoding=\"utf-8\"?><TS version=\"2.1\">"
+                                  "<context><name>Menu</name>"_s +
+                                  messages + u"</context></TS>"_s;
         QString error;
-        const QList<Entry> entries = readCatalogue(path, &error);
+        const QList<Entry> entries = readCatalogue(catalogue.toUtf8(), &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
         QCOMPARE(!problemsOf(entries).isEmpty(), faulty);
     }
