@@ -203,17 +203,13 @@ private Q_SLOTS:
     void fileOfAnEarlierVersionStillLoadsAndRegistrationKeepsIt() {
         QVERIFY(SXSettings::fileName().startsWith(SonoriaTest::configHome() + "/"));
         QVERIFY(SXSettings::fileName().endsWith("Sonoria/Sonoria.conf"));
-        QVERIFY(QDir().mkpath(QFileInfo(SXSettings::fileName()).path()));
-        QFile file(SXSettings::fileName());
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("[General]\n"
-                   "com.sx.MaxTastKey=3\n"
-                   "com.sx.iTunesFmtKey=MP3\n"
-                   "com.sx.iTunesPlaylistNameKey=Road trip\n"
-                   "AppBSyncToiTunesKey=true\n"
-                   "DEFAULT_OUTPUT_PATH_KEY=/music/out\n"
-                   "DEFAUTL_SET_ORIGANIZED_KEY=false\n");
-        file.close();
+        QVERIFY(writeFile(SXSettings::fileName(), "[General]\n"
+                                                  "com.sx.MaxTastKey=3\n"
+                                                  "com.sx.iTunesFmtKey=MP3\n"
+                                                  "com.sx.iTunesPlaylistNameKey=Road trip\n"
+                                                  "AppBSyncToiTunesKey=true\n"
+                                                  "DEFAULT_OUTPUT_PATH_KEY=/music/out\n"
+                                                  "DEFAUTL_SET_ORIGANIZED_KEY=false\n"));
         SXSettings::setPreferenceValue();
         QCOMPARE(SXSettings::integerForKey(SXSettingsKey::MaxTask), 3); // not offered, honoured
         QCOMPARE(SXSettings::stringForKey(SXSettingsKey::libraryFormat), QStringLiteral("MP3"));
@@ -225,8 +221,7 @@ private Q_SLOTS:
         QVERIFY(!SXSettings::boolForKey(SXSettingsKey::DefaultSetOrganized, true));
         SXSettings::setValue(SXSettingsKey::libraryFormat, QStringLiteral("AAC"));
         SXSettings::synchronize();
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray saved = file.readAll();
+        const QByteArray saved = readFile(SXSettings::fileName());
         QVERIFY(saved.contains("com.sx.iTunesFmtKey=AAC") && saved.contains("AppBSyncToiTunesKey"));
         QVERIFY(saved.contains("com.sx.iTunesPlaylistNameKey=Road trip"));
 
@@ -238,10 +233,8 @@ private Q_SLOTS:
         const QSettings onDisk(SXSettings::fileName(), QSettings::IniFormat);
         QCOMPARE(onDisk.value(SXSettingsKey::libraryFormat), QStringLiteral("AAC"));
         QCOMPARE(onDisk.value(SXSettingsKey::libraryPlaylistName), QStringLiteral("Sonoria"));
-    }
 
-    // INI brings scalars back as text; the typed readers must not be fooled by that.
-    void typedReadsOfTextValues() {
+        // INI brings scalars back as text; the typed readers must not be fooled by that.
         QSettings raw(SXSettings::fileName(), QSettings::IniFormat);
         for (const auto& [key, text] : {std::pair{"flagTrue", "true"},
                                         {"flagOne", "1"},

@@ -2,7 +2,6 @@
 #include "model/SXMusicInfo.h"
 #include "support/TestSupport.h"
 
-#include <QRegularExpression>
 #include <QThread>
 #include <atomic>
 

@@ -7,8 +7,6 @@
 #include "model/SXPropertyListReader.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTemporaryDir>

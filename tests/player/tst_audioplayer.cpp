@@ -3,7 +3,6 @@
 
 #include "framework/HVMediaInfo.h"
 #include "player/HVAudioDecoder.h"
-#include "player/HVPlayer.h"
 #include "player/SXAudioPlayer.h"
 #include "workspace/SXWorkspace.h"
 

@@ -25,29 +25,6 @@ const QStringList kCommands =
     u"NewContainer Open NewFormat CloseTab Preferences Delete Clear NextRow PreviousRow "
     "NextContainer PreviousContainer TagEditor FileInfo Start Stop Quit Help"_s.split(u' ');
 
-// The names of the commands that are enabled, that beep when chosen though greyed out, and that
-// the application's dispatcher refuses before a window sees them.
-struct CommandAnswers {
-    QStringList enabled, beeping, refused;
-};
-
-CommandAnswers answersFor(const SXCommandContext& context) {
-    CommandAnswers answers;
-    for (qsizetype i = 0; i < kCommands.size(); ++i) {
-        const auto command = SXCommand(i);
-        const QString& name = kCommands.at(i);
-        const SXCommandAnswer answer = sxValidateMenuCommand(command, context);
-        if (answer.enabled)
-            answers.enabled.append(name);
-        if (answer.beep)
-            answers.beeping.append(name);
-        if (sxCommandRefused(command, context))
-            answers.refused.append(name);
-    }
-    answers.enabled.sort();
-    return answers;
-}
-
 // Stands in for a workspace window: only its key state matters to the registry.
 class FakeWindow : public SXWindowController {
 public:
@@ -111,14 +88,26 @@ private Q_SLOTS:
         QFETCH(QStringList, enabled);
         QFETCH(QStringList, beeping);
         QFETCH(QStringList, refused);
-        const CommandAnswers got = answersFor(context);
+        // The commands that are enabled, that beep when chosen though greyed out, and that the
+        // application's dispatcher refuses before a window sees them.
+        QStringList gotEnabled, gotBeeping, gotRefused;
+        for (qsizetype i = 0; i < kCommands.size(); ++i) {
+            const SXCommandAnswer answer = sxValidateMenuCommand(SXCommand(i), context);
+            if (answer.enabled)
+                gotEnabled.append(kCommands.at(i));
+            if (answer.beep)
+                gotBeeping.append(kCommands.at(i));
+            if (sxCommandRefused(SXCommand(i), context))
+                gotRefused.append(kCommands.at(i));
+        }
+        gotEnabled.sort();
         enabled.sort();
-        QCOMPARE(got.enabled, enabled);
-        QCOMPARE(got.beeping, beeping);
-        QCOMPARE(got.refused, refused);
+        QCOMPARE(gotEnabled, enabled);
+        QCOMPARE(gotBeeping, beeping);
+        QCOMPARE(gotRefused, refused);
         // The Delete and Clear buttons answer as their menu items do.
         QCOMPARE(sxRemoveButtonsEnabled(context.state, context.count),
-                 got.enabled.contains(u"Delete"_s));
+                 gotEnabled.contains(u"Delete"_s));
     }
 
     void toolbarFollowsTheRun() {

@@ -33,7 +33,6 @@ public:
     bool isPaused() const override { return m_paused; }
     void stop() override {
         const SXMusicInfoPtr item = m_item;
-        ++stops;
         setPlayingMusic(nullptr);
         if (item)
             Q_EMIT playStopped(item);
@@ -44,7 +43,6 @@ public:
 
     SXMusicInfoList played;
     QList<double> seeks;
-    int stops = 0;
 
 private:
     SXMusicInfoPtr m_item;
@@ -59,9 +57,8 @@ private Q_SLOTS:
         m_presenter = WorkspaceTestPresenter();
         m_player = std::make_unique<SilentPlayer>();
         m_workspace = std::make_unique<SXWorkspace>();
-        m_workspace->store().setPresenter(&m_presenter);
+        prepareWorkspace(*m_workspace, &m_presenter);
         m_workspace->preview().setPreviewPlayer(m_player.get());
-        m_workspace->tabs().addDefaultTabs();
         m_workspace->store().setData(
             madeUpItems(u"MP3"_s, {u"a.mp3"_s, u"b.mp3"_s, u"c.mp3"_s}, 200), u"MP3"_s);
         m_workspace->store().setData(madeUpItems(u"AAC"_s, {u"d.mp3"_s}, 200), u"AAC"_s);
