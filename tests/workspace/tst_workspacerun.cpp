@@ -12,7 +12,6 @@
 #include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <cmath>
 #include <sys/mount.h>
 #include <utility>
 
@@ -20,9 +19,7 @@ using namespace Qt::StringLiterals;
 
 using SonoriaTest::filesBelow;
 
-namespace {
 constexpr int kRunTimeoutMs = 180000;
-} // namespace
 
 class TestWorkspaceRun : public QObject {
     Q_OBJECT
