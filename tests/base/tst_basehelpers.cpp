@@ -18,9 +18,7 @@
 #include <cmath>
 #include <limits>
 
-using SonoriaTest::EnvironmentGuard;
 using SonoriaTest::readFile;
-using SonoriaTest::TemporaryHome;
 using SonoriaTest::writeFile;
 
 static void touch(const QString& path) {
@@ -326,7 +324,7 @@ private Q_SLOTS:
     void freeSpaceFollowsProcessHome() {
         QFETCH(QString, home);
         QFETCH(QString, measured);
-        EnvironmentGuard environment;
+        SonoriaTest::EnvironmentGuard environment;
         if (home.isNull())
             environment.unset("HOME");
         else
@@ -366,7 +364,7 @@ private Q_SLOTS:
     void defaultFoldersFollowHomeAndCreateNothing() {
         QFETCH(QByteArray, userDirs);
         QFETCH(QString, music);
-        TemporaryHome fresh;
+        SonoriaTest::TemporaryHome fresh;
         QVERIFY(fresh.isValid());
         if (!userDirs.isEmpty())
             QVERIFY(writeFile(fresh.configHome() + "/user-dirs.dirs", userDirs));

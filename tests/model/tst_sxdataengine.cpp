@@ -182,9 +182,9 @@ private Q_SLOTS:
             "</array></dict></plist>";
         SXDataEngine bareEngine(writePreset(u"bare.plist"_s, xml));
         const SXFormatSettingPtr bare = bareEngine.getFormatWithName(u"Bare"_s);
-        QVERIFY(bare && bare->decodecName().isNull() && bare->sampleRate().isEmpty());
-        QVERIFY(bare->arySampleRate().isEmpty() && bare->aryChannels().isEmpty());
-        QCOMPARE(bare->enumAddToLibrary(), 0);
+        QVERIFY(bare && bare->decodecName().isNull() && bare->sampleRate().isEmpty() &&
+                bare->arySampleRate().isEmpty() && bare->aryChannels().isEmpty() &&
+                bare->enumAddToLibrary() == 0);
         QCOMPARE(bare->aryBiteRate(), QStringList({"64", " 96", "", "128"}));
         QCOMPARE(bare->bitRate(), u" 96"_s);
         QVERIFY(bareEngine.getCanEditMetadataMusicType().isEmpty());

@@ -21,21 +21,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-// What `action` writes to the process's standard error.
-QString standardErrorOf(const std::function<void()>& action) {
-    QTemporaryFile file;
-    file.open();
-    std::fflush(stderr);
-    const int saved = ::dup(2);
-    ::dup2(file.handle(), 2);
-    action();
-    std::fflush(stderr);
-    ::dup2(saved, 2);
-    ::close(saved);
-    file.seek(0);
-    return QString::fromLocal8Bit(file.readAll());
-}
-
 // The file names the workspace's list shows.
 QStringList shown(SXWorkspace& workspace) {
     return fileNames(workspace.store().getCurTableDatasource());
@@ -141,12 +126,19 @@ private Q_SLOTS:
         // A loose "vob" file is refused without the preference; inside a folder only the folder's
         // filter applies (and it drops the text file). A path that cannot be examined is reported
         // on standard error and among the load failures.
-        bool done = false;
-        const QString errors = standardErrorOf([&] {
-            done = addFiles(workspace, {path(u"a.mp3"_s), path(u"d.VOB"_s), path(u"missing.mp3"_s),
-                                        path(u"folder"_s)});
-        });
+        QTemporaryFile standardError;
+        QVERIFY(standardError.open());
+        std::fflush(stderr);
+        const int saved = ::dup(2);
+        ::dup2(standardError.handle(), 2);
+        const bool done = addFiles(workspace, {path(u"a.mp3"_s), path(u"d.VOB"_s),
+                                               path(u"missing.mp3"_s), path(u"folder"_s)});
+        std::fflush(stderr);
+        ::dup2(saved, 2);
+        ::close(saved);
         QVERIFY(done);
+        const QString errors =
+            QString::fromLocal8Bit(SonoriaTest::readFile(standardError.fileName()));
         QVERIFY2(errors.contains(u"lstat error: No such file or directory"_s), qPrintable(errors));
         QCOMPARE(started.count(), 1);
         QCOMPARE(started.first().first().toString(), u"Loading Media Files..."_s);
