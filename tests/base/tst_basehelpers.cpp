@@ -21,10 +21,6 @@
 using SonoriaTest::readFile;
 using SonoriaTest::writeFile;
 
-static void touch(const QString& path) {
-    QVERIFY2(SonoriaTest::writeFile(path, {}), qPrintable(path));
-}
-
 // The base layer's helpers: versions, clocks, file names, folder scans, the settings store, and
 // the file helpers and the user's standard folders, on real temporary folders.
 class BaseHelpersTest : public QObject {
@@ -123,8 +119,8 @@ private Q_SLOTS:
         QCOMPARE(FileHelper::unusedPath(dir.filePath("song"), "mp3"), song);
         QCOMPARE(FileHelper::unusedPath(dir.filePath("song.MP3"), "mp3"),
                  dir.filePath("song.MP3.mp3"));
-        touch(song);
-        touch(dir.filePath("song(1).mp3"));
+        QVERIFY(writeFile(song, {}));
+        QVERIFY(writeFile(dir.filePath("song(1).mp3"), {}));
         QCOMPARE(FileHelper::unusedPath(song, "mp3"), dir.filePath("song(2).mp3"));
         // A folder and a dangling link are taken names too.
         QVERIFY(QDir(dir.path()).mkdir("song(2).mp3"));
@@ -132,7 +128,7 @@ private Q_SLOTS:
         QCOMPARE(FileHelper::unusedPath(dir.filePath("song(1).mp3"), "mp3"),
                  dir.filePath("song(4).mp3"));
         // The counter belongs to the file name: a folder called "Album(1)" stays the folder.
-        touch(dir.filePath("Album(1)/take.wav"));
+        QVERIFY(writeFile(dir.filePath("Album(1)/take.wav"), {}));
         QCOMPARE(FileHelper::unusedPath(dir.filePath("Album(1)/take"), "wav"),
                  dir.filePath("Album(1)/take(1).wav"));
         // Names another writer of this program has claimed count as taken too.
@@ -144,7 +140,7 @@ private Q_SLOTS:
         QVERIFY(FileHelper::makeSureFolderExists(dir.filePath("a/b/c")));
         QVERIFY(QFileInfo(dir.filePath("a/b/c")).isDir());
         QVERIFY(FileHelper::makeSureFolderExists(dir.filePath("a/b/c")));
-        touch(dir.filePath("plain"));
+        QVERIFY(writeFile(dir.filePath("plain"), {}));
         QVERIFY(!FileHelper::makeSureFolderExists(dir.filePath("plain")));
         QVERIFY(!FileHelper::makeSureFolderExists(dir.filePath("plain/below")));
     }
@@ -153,7 +149,7 @@ private Q_SLOTS:
         QTemporaryDir dir;
         for (const char* name : {"song.mp3", ".hidden.FLAC", "notes.txt", "mp3", "sub/clip.wav",
                                  "sub/deeper/track.Mp3", ".Trash-1000/files/old.mp3", "._song.mp3"})
-            touch(dir.filePath(name));
+            QVERIFY(writeFile(dir.filePath(name), {}));
         QVERIFY(QFile::link(dir.filePath("song.mp3"), dir.filePath("alias.mp3")));
         QVERIFY(QFile::link(dir.filePath("gone.mp3"), dir.filePath("dangling.mp3")));
         // A link to an ancestor, to the folder itself and a second way into the same folder.
@@ -164,7 +160,7 @@ private Q_SLOTS:
         const QStringList natural{"sub/Track 1.flac",   "sub/track 2.flac",   "sub/Track 10.flac",
                                   "sub/track 026.flac", "sub/Track 227.flac", "sub/track 356.flac"};
         for (auto name = natural.crbegin(); name != natural.crend(); ++name)
-            touch(dir.filePath(*name));
+            QVERIFY(writeFile(dir.filePath(*name), {}));
 
         // Hidden entries (a trash folder, resource forks) stay out; files come before folders;
         // a file matching two filter entries comes once; depth first.

@@ -44,20 +44,6 @@ FILE "%1" WAVE
 const QStringList kTitles{u"Café Noël"_s, u"Élan/Vital"_s, u"Fin"_s};
 const QStringList kOutputNames{u"01 Café Noël"_s, u"02 Élan_Vital"_s, u"03 Fin"_s};
 
-// The output decoded to mono 16-bit samples at its own rate.
-QList<qint16> decodedSamples(const QString& path) {
-    const QString raw = path + u".raw"_s;
-    if (SonoriaTest::run(u"ffmpeg"_s,
-                         {"-v", "error", "-i", path, "-ac", "1", "-f", "s16le", "-y", raw}) != 0)
-        return {};
-    const QByteArray bytes = SonoriaTest::readFile(raw);
-    QFile::remove(raw);
-    QList<qint16> samples(bytes.size() / 2);
-    for (qsizetype i = 0; i < samples.size(); ++i)
-        samples[i] = qFromLittleEndian<qint16>(bytes.constData() + 2 * i);
-    return samples;
-}
-
 } // namespace
 
 class TestCueTracks : public QObject {
@@ -161,7 +147,14 @@ private Q_SLOTS:
         QCOMPARE(written.entryList(QDir::Files, QDir::Name), expected);
         for (int i = 0; i < 3; ++i) {
             const QString output = written.filePath(expected.at(i));
-            const QList<qint16> samples = decodedSamples(output);
+            // The output decoded to mono 16-bit samples at its own rate.
+            const QString raw = path(u"decoded.raw"_s);
+            QCOMPARE(SonoriaTest::run(u"ffmpeg"_s, {"-v", "error", "-i", output, "-ac", "1", "-f",
+                                                    "s16le", "-y", raw}),
+                     0);
+            const QByteArray bytes = SonoriaTest::readFile(raw);
+            QList<qint16> samples(bytes.size() / 2);
+            qFromLittleEndian<qint16>(bytes.constData(), samples.size(), samples.data());
             QCOMPARE(samples.size(), kSamples[i]);
             // The tone's frequency from its sign changes.
             int changes = 0;
