@@ -16,7 +16,8 @@ class TestFileInfoText : public QObject {
 private Q_SLOTS:
     // Numbers and sizes as an American English desktop writes them, whatever the machine's.
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
-    void fallbacksWithoutTags() {
+    // What the panel shows without tags, and that a file's tags win over its probe.
+    void fallbacksWithoutTagsAndTagsOverTheProbe() {
         const auto item = makeWorkspaceItem(u"/music/Album.Take 2.flac"_s, QString());
         const LSMediaPtr media = item->mediaInfo();
         media->setAudioChannels(6);
@@ -60,28 +61,25 @@ private Q_SLOTS:
         QCOMPARE(SXFileInfoText::textForLabel(bare, u"tfInfoBitRate"_s), u"Unknow"_s);
         QCOMPARE(SXFileInfoText::textForLabel(bare, u"tfInfoSampleRate"_s), u"Unknow"_s);
         QCOMPARE(SXFileInfoText::textForLabel(bare, u"tfInfoLength"_s), QString());
-    }
 
-    void tagValuesWinOverTheProbe() {
+        // A tagged file whose probe disagrees: the tag library's figures are shown.
         QTemporaryDir dir;
         const QString path = dir.filePath(u"tagged.mp3"_s);
         QVERIFY(SonoriaTest::makeTone(
             path, 1.0, {"-b:a", "96k", "-ar", "32000", "-metadata", "title=Tagged"}));
-        const auto item = makeWorkspaceItem(path, QString());
-        // A probe that disagrees: the tag library's figures are shown.
-        item->mediaInfo()->setAudioBitrate(1000);
-        item->mediaInfo()->setAudioSamplerate(8000);
-        item->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(path, true));
-        QVERIFY(item->metHandler());
-
-        const QList<SXFileInfoLine> lines = SXFileInfoText::linesForItem(*item);
-        const auto text = [&lines](const QString& label) {
-            return SXFileInfoText::textForLabel(lines, label);
+        const auto tagged = makeWorkspaceItem(path, QString());
+        tagged->mediaInfo()->setAudioBitrate(1000);
+        tagged->mediaInfo()->setAudioSamplerate(8000);
+        tagged->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(path, true));
+        QVERIFY(tagged->metHandler());
+        const QList<SXFileInfoLine> taggedLines = SXFileInfoText::linesForItem(*tagged);
+        const auto text = [&taggedLines](const QString& label) {
+            return SXFileInfoText::textForLabel(taggedLines, label);
         };
         QCOMPARE(text(u"tfInfoTitle"_s), u"Tagged"_s);
-        QCOMPARE(text(u"tfInfoBitRate"_s), u"%1kbps"_s.arg(item->metHandler()->bitrate()));
+        QCOMPARE(text(u"tfInfoBitRate"_s), u"%1kbps"_s.arg(tagged->metHandler()->bitrate()));
         QCOMPARE(text(u"tfInfoSampleRate"_s), u"32.0kHz"_s);
-        const QString version = item->metHandler()->strTagVersion();
+        const QString version = tagged->metHandler()->strTagVersion();
         QVERIFY2(version.startsWith(u"ID3 v2."_s), qPrintable(version));
         QCOMPARE(text(u"tfInfoTagFmt"_s), u"ID3v2"_s);
         QCOMPARE(text(u"tfInfoId3Tag"_s), version.section(u' ', 1, 1));

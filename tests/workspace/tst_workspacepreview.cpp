@@ -101,8 +101,7 @@ private Q_SLOTS:
 
         QCOMPARE(m_workspace->store().enumAppState(), endState);
         if (nextRow < 0) {
-            QVERIFY(m_player->played.isEmpty());
-            QVERIFY(scrolled.isEmpty());
+            QVERIFY(m_player->played.isEmpty() && scrolled.isEmpty());
             return;
         }
         QCOMPARE(m_player->played, SXMusicInfoList{row(nextRow)});
