@@ -45,21 +45,12 @@ public:
     QStringList openedFolders;
 };
 
-// An item of container `type` for `path`, with a media record unless told otherwise.
-inline SXMusicInfoPtr makeWorkspaceItem(const QString& path, const QString& type,
-                                        bool withMedia = true) {
-    const SXMusicInfoPtr item = SXMusicInfo::newForSource(path, type);
-    if (!withMedia)
-        item->setMediaInfo(nullptr);
-    return item;
-}
-
 // Items of container `type` for made-up paths /x/<name>, each `seconds` long.
 inline SXMusicInfoList madeUpItems(const QString& type, const QStringList& names,
                                    double seconds = 0) {
     SXMusicInfoList items;
     for (const QString& name : names) {
-        items.append(makeWorkspaceItem(QStringLiteral("/x/") + name, type));
+        items.append(SXMusicInfo::newForSource(QStringLiteral("/x/") + name, type));
         items.last()->mediaInfo()->setDuration(seconds);
     }
     return items;

@@ -4,8 +4,6 @@
 #include "workspace/SXFileInfoText.h"
 #include "workspace/SXReadableNames.h"
 
-#include "WorkspaceTestPresenter.h"
-
 #include <QLocale>
 #include <QTemporaryDir>
 
@@ -18,7 +16,7 @@ private Q_SLOTS:
     void initTestCase() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates)); }
     // What the panel shows without tags, and that a file's tags win over its probe.
     void fallbacksWithoutTagsAndTagsOverTheProbe() {
-        const auto item = makeWorkspaceItem(u"/music/Album.Take 2.flac"_s, QString());
+        const auto item = SXMusicInfo::newForSource(u"/music/Album.Take 2.flac"_s, QString());
         const LSMediaPtr media = item->mediaInfo();
         media->setAudioChannels(6);
         media->setAudioBitrate(320499);
@@ -67,7 +65,7 @@ private Q_SLOTS:
         const QString path = dir.filePath(u"tagged.mp3"_s);
         QVERIFY(SonoriaTest::makeTone(
             path, 1.0, {"-b:a", "96k", "-ar", "32000", "-metadata", "title=Tagged"}));
-        const auto tagged = makeWorkspaceItem(path, QString());
+        const auto tagged = SXMusicInfo::newForSource(path, QString());
         tagged->mediaInfo()->setAudioBitrate(1000);
         tagged->mediaInfo()->setAudioSamplerate(8000);
         tagged->setMetHandler(MTEAudioFileMgr::createAudioFileWithPath(path, true));

@@ -106,12 +106,10 @@ private Q_SLOTS:
             2);
         QString folder = out(u"shared"_s);
         QVERIFY(!runInto(workspace, folder).isEmpty());
-        QCOMPARE(filesBelow(folder, true),
-                 (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album.mp3"_s}));
+        QCOMPARE(filesBelow(folder, true), u"Unknown Album(1).mp3|Unknown Album.mp3"_s.split(u'|'));
         QVERIFY(!runInto(workspace, folder).isEmpty());
         QCOMPARE(filesBelow(folder, true),
-                 (QStringList{u"Unknown Album(1).mp3"_s, u"Unknown Album(2).mp3"_s,
-                              u"Unknown Album.mp3"_s}));
+                 u"Unknown Album(1).mp3|Unknown Album(2).mp3|Unknown Album.mp3"_s.split(u'|'));
         const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
         QVERIFY(items.first()->mediaInfo()->alreadyConverted());
         QVERIFY(!items.last()->mediaInfo()->alreadyConverted());
@@ -124,8 +122,7 @@ private Q_SLOTS:
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"both"_s);
         QVERIFY(!runInto(workspace, folder).isEmpty());
         QVERIFY(!runInto(workspace, folder).isEmpty());
-        QCOMPARE(filesBelow(folder, true), (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s,
-                                                        u"q(2).mp3"_s, u"q.mp3"_s}));
+        QCOMPARE(filesBelow(folder, true), u"p(1).mp3 p.mp3 q(1).mp3 q(2).mp3 q.mp3"_s.split(u' '));
 
         SXSettings::setValue(SXSettingsKey::ExistingOutputs, u"replace"_s);
         const QStringList before = treeWithIdentity(folder);
@@ -133,8 +130,8 @@ private Q_SLOTS:
         const QStringList after = treeWithIdentity(folder);
         // p.mp3 got a new file under its name; the user's q.mp3 stayed, and q's output went to the
         // next free name.
-        QCOMPARE(filesBelow(folder, true), (QStringList{u"p(1).mp3"_s, u"p.mp3"_s, u"q(1).mp3"_s,
-                                                        u"q(2).mp3"_s, u"q(3).mp3"_s, u"q.mp3"_s}));
+        QCOMPARE(filesBelow(folder, true),
+                 u"p(1).mp3 p.mp3 q(1).mp3 q(2).mp3 q(3).mp3 q.mp3"_s.split(u' '));
         QVERIFY(!after.contains(before.filter(u"p.mp3 "_s).first()));
         QVERIFY(after.contains(before.filter(u"p(1).mp3 "_s).first()));
         QCOMPARE(SonoriaTest::readFile(folder + u"/q.mp3"_s), users);

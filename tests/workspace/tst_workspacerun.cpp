@@ -143,8 +143,10 @@ private Q_SLOTS:
         broken->setDecodecName(u"no_such_encoder"_s);
         workspace.store().setFmtSetting(broken);
         // An item without a media record waits for ever and adds nothing to the total.
-        workspace.store().setData({makeWorkspaceItem(u"/nowhere/x.wav"_s, u"Ringtone"_s, false)},
-                                  u"Ringtone"_s);
+        const SXMusicInfoPtr unprobed =
+            SXMusicInfo::newForSource(u"/nowhere/x.wav"_s, u"Ringtone"_s);
+        unprobed->setMediaInfo(nullptr);
+        workspace.store().setData({unprobed}, u"Ringtone"_s);
         SXSettings::setValue(SXSettingsKey::MaxTask, 4);
         workspace.scheduler().setMaxConcurrentOverride(1);
         workspace.scheduler().setOrganizeByFormat(false);
@@ -209,7 +211,7 @@ private Q_SLOTS:
 
         SXMusicInfoList items;
         for (double value : {-4.0, -3.0, 100.0, -2.0, -1.0, 50.0}) {
-            items.append(makeWorkspaceItem(u"/x/%1.wav"_s.arg(items.size()), u"MP3"_s));
+            items.append(SXMusicInfo::newForSource(u"/x/%1.wav"_s.arg(items.size()), u"MP3"_s));
             items.last()->setDConvertProgress(value);
         }
         // A state set twice is announced twice, each time with its item: a preview moving on
@@ -242,7 +244,7 @@ private Q_SLOTS:
         }
         QVERIFY(addFiles(workspace, u"MP3"_s, sources));
         const SXMusicInfoList items = workspace.store().getDataForFormat(u"MP3"_s);
-        const SXMusicInfoPtr outsider = makeWorkspaceItem(u"/nowhere/else.wav"_s, u"MP3"_s);
+        const SXMusicInfoPtr outsider = SXMusicInfo::newForSource(u"/nowhere/else.wav"_s, u"MP3"_s);
         QVERIFY(!workspace.scheduler().findOperationForMusicInfo(outsider)); // no queue yet
         workspace.store().setSelectedRows({0, 1, 2});
         workspace.scheduler().setMaxConcurrentOverride(1);
