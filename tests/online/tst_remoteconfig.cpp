@@ -186,7 +186,6 @@ private Q_SLOTS:
         QTRY_COMPARE_WITH_TIMEOUT(server.requests.size(), 4, kWaitMs);
         QVERIFY2(server.requests.last().target.endsWith("&userid=" + oddId.toUtf8()),
                  server.requests.last().target.constData());
-        SXSettings::removeKey(SXSettingsKey::Guid);
     }
 
     void nothingGoesOutWithoutConsentOrAddress_data() {
