@@ -2,7 +2,6 @@
 #include "support/TestSupport.h"
 
 #include "base/SXSettings.h"
-#include "engine/ConvertOutputFile.h"
 #include "framework/MTEAudioFileMgr.h"
 #include "workspace/SXFailureTexts.h"
 #include "workspace/SXItemRowLook.h"
