@@ -6,7 +6,6 @@
 #include <QString>
 #include <QStringList>
 
-#include <taglib/apefile.h>
 #include <taglib/apetag.h>
 #include <taglib/asffile.h>
 #include <taglib/attachedpictureframe.h>

@@ -206,7 +206,6 @@ private Q_SLOTS:
         Recorder recorder;
         SXOperationQueue queue;
         auto operation = makeOperation(item, folder, &recorder);
-        QDir().mkpath(folder);
         queue.addOperation(operation);
         bool sawTemporary = false;
         QSet<qint64> finalSizes; // every size the final name was seen with

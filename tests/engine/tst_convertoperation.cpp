@@ -18,7 +18,6 @@ class ConvertOperationTest : public QObject {
     QString m_tone; // one-second WAV, copied wherever a test needs a source
 
     QString copyTone(const QString& folder, const QString& name) {
-        QDir().mkpath(folder);
         return QFile::copy(m_tone, folder + u'/' + name) ? folder + u'/' + name : QString();
     }
 

@@ -80,8 +80,7 @@ private Q_SLOTS:
                  0);
         Tracker tracker;
         double lastProgress = -1;
-        const QStringList lines = console.split(QRegularExpression(u"[\r\n]"_s));
-        for (const QString& line : lines) {
+        for (const QString& line : console.split(QRegularExpression(u"[\r\n]"_s))) {
             const auto update = tracker.feed(line, 12.0);
             if (!update.hasTime)
                 continue;

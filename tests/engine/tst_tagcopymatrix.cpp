@@ -261,9 +261,7 @@ class TagCopyMatrixTest : public QObject {
         }
         item->setMetHandler(handle);
         const QString name = row(sourceKind, output, content);
-        const QString folder = m_dir.filePath(u"out/"_s + name);
-        QDir().mkpath(folder);
-        auto operation = makeOperation(item, folder, nullptr);
+        auto operation = makeOperation(item, m_dir.filePath(u"out/"_s + name), nullptr);
         m_runs.insert(name, operation);
         m_queue.addOperation(operation);
     }

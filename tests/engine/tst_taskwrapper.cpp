@@ -69,7 +69,6 @@ private:
     mutable QMutex m_lock;
     QList<Event> m_events;
 };
-using Event = RecordingController::Event;
 
 // The state letter of /proc/<pid>/stat. A shell waiting in vfork for a child that was stopped
 // before its exec shows 'D' instead of 'T'; it writes nothing either.
@@ -136,7 +135,6 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QString, body);
         QFETCH(bool, executable);
-        QFETCH(QString, expectedOutput);
         QFETCH(int, expectedStatus);
         QString program = m_dir.filePath(name);
         if (executable)
@@ -157,15 +155,13 @@ private Q_SLOTS:
         QTest::qWait(200); // late callbacks would show up
 
         QVERIFY2(controller.hasRunShape(), qPrintable(controller.kinds().join(u' ')));
-        QCOMPARE(controller.output(), expectedOutput);
-        const QList<QString> chunks = controller.chunks();
-        QTEST(int(std::count_if(chunks.begin(), chunks.end(), [](auto& c) { return c.isNull(); })),
-              "undecodedChunks");
+        QTEST(controller.output(), "expectedOutput");
+        QTEST(int(std::ranges::count_if(controller.chunks(), &QString::isNull)), "undecodedChunks");
         QCOMPARE(wrapper->processId(), qint64(0));
         // Output end and termination may come in either order; a stop reported after the
         // termination would have reached a cleared controller.
         QVERIFY(controller.kinds().count(u"finished"_s) <= 1);
-        for (const Event& event : controller.events())
+        for (const auto& event : controller.events())
             QCOMPARE(event.thread, QThread::currentThread());
         QVERIFY(log.contains(u"ffmpeg did finished:terminate status:%1"_s.arg(expectedStatus)));
 
@@ -254,7 +250,7 @@ private Q_SLOTS:
         QCOMPARE(controller.status(), TaskWrapper::kSignalStatusBase + SIGTERM);
         QTRY_VERIFY_WITH_TIMEOUT(!SonoriaTest::processIsAlive(grandchild), 5000);
         QVERIFY(controller.hasRunShape());
-        for (const Event& event : controller.events())
+        for (const auto& event : controller.events())
             QCOMPARE(event.thread,
                      event.kind == "finished"_L1 ? QThread::currentThread() : &worker);
 

@@ -10,14 +10,6 @@
 // 0.1 LU and true peak within a few tenths of a dB, for a track and for an album gated as one.
 using namespace Qt::StringLiterals;
 
-namespace {
-
-double decibels(double linear) {
-    return 20.0 * std::log10(linear);
-}
-
-} // namespace
-
 class TestLoudness : public QObject {
     Q_OBJECT
 private Q_SLOTS:
@@ -58,8 +50,7 @@ private Q_SLOTS:
         const std::optional<HVLoudnessMeasurement> measured =
             HVLoudness::measure(path, false, nullptr, &error);
         QVERIFY2(measured, qPrintable(error));
-        QVERIFY(measured->integrated);
-        QVERIFY(!measured->meter);
+        QVERIFY(measured->integrated && !measured->meter);
         const SonoriaTest::LoudnessReference reference =
             SonoriaTest::ffmpegLoudness({path}, dualMono);
         QVERIFY2(std::abs(*measured->integrated - reference.integrated) <= 0.1,
@@ -169,6 +160,7 @@ private Q_SLOTS:
     }
 
 private:
+    static double decibels(double linear) { return 20.0 * std::log10(linear); }
     QTemporaryDir m_dir;
 };
 
