@@ -30,10 +30,8 @@ FILE "album.flac" WAVE
 QByteArray eightBit(const QString& text, const char* encoding) {
     const QString file =
         QDir::tempPath() + u"/cue-encoding-%1"_s.arg(QCoreApplication::applicationPid());
-    QString output;
     SonoriaTest::writeFile(file, text.toUtf8());
-    SonoriaTest::run(u"iconv"_s, {"-f", "UTF-8", "-t", encoding, "-o", file + ".out", file},
-                     &output);
+    SonoriaTest::run(u"iconv"_s, {"-f", "UTF-8", "-t", encoding, "-o", file + ".out", file});
     const QByteArray bytes = SonoriaTest::readFile(file + ".out");
     QFile::remove(file);
     QFile::remove(file + ".out");
@@ -110,14 +108,12 @@ private Q_SLOTS:
     }
     void decodesEveryEncoding() {
         QFETCH(QByteArray, bytes);
-        QFETCH(QString, album);
-        QFETCH(QString, title);
         const QString text = SXCueSheet::decode(bytes);
         QVERIFY(!text.startsWith(QChar(0xFEFF)));
         const SXCueSheetResult sheet = SXCueSheet::parse(text, u"/music/album.cue"_s);
         QCOMPARE(sheet.tracks.size(), 3);
-        QCOMPARE(sheet.tracks.at(0).album, album);
-        QCOMPARE(sheet.tracks.at(1).title, title);
+        QTEST(sheet.tracks.at(0).album, "album");
+        QTEST(sheet.tracks.at(1).title, "title");
     }
     void readFindsTheAudioOrSaysWhatIsMissing() {
         QTemporaryDir dir;
