@@ -1,6 +1,5 @@
 #include "support/TestSupport.h"
 
-#include "base/SXSafeName.h"
 #include "engine/ConvertNaming.h"
 #include "framework/MTEAudioFileMgr.h"
 
@@ -37,33 +36,22 @@ private Q_SLOTS:
         QTest::newRow("no way up or out") << u"/../{album}//./x"_s << full << u"_/Live/_/x"_s;
         QTest::newRow("unknown field and lone brace")
             << u"{mood} {title"_s << full << u"{mood} {title"_s;
+        // Tag values are text from anywhere: each becomes one safe name.
+        const auto album = [](const QString& text) { return ConvertNameTags{.album = text}; };
+        QTest::newRow("slash inside a value") << u"{album}"_s << album(u"AC/DC"_s) << u"AC_DC"_s;
+        QTest::newRow("trailing space and dot")
+            << u"{album}"_s << album(u"Vol. 2. . "_s) << u"Vol. 2"_s;
+        QTest::newRow("control characters")
+            << u"{album}"_s << album(u"a\tb\nc"_s + QChar(1) + u"d"_s) << u"a b c d"_s;
+        QTest::newRow("nul") << u"{album}"_s << album(u"x\0y"_s) << u"x y"_s;
+        QTest::newRow("lone surrogate")
+            << u"{album}"_s << album(QString(QChar(0xD800)) + u"a"_s) << u"_a"_s;
     }
     void expansion() {
         QFETCH(QString, pattern);
         QFETCH(ConvertNameTags, tags);
-        QFETCH(QString, expected);
         tags.fileName = u"01 intro"_s;
-        QCOMPARE(ConvertNaming::expand(pattern, tags), expected);
-    }
-
-    // Tag values are text from anywhere: each becomes one safe name.
-    void components_data() {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("slash stays inside") << u"AC/DC"_s << u"AC_DC"_s;
-        QTest::newRow("leading dot") << u".hidden"_s << u"_hidden"_s;
-        QTest::newRow("leading dash") << u"-rf"_s << u"_rf"_s;
-        QTest::newRow("dots only") << u".."_s << u"_"_s;
-        QTest::newRow("trailing space and dot") << u"Vol. 2. . "_s << u"Vol. 2"_s;
-        QTest::newRow("control characters") << u"a\tb\nc"_s + QChar(1) + u"d"_s << u"a b c d"_s;
-        QTest::newRow("nul") << QString(u"x\0y"_s) << u"x y"_s;
-        QTest::newRow("empty") << u"  "_s << u"_"_s;
-        QTest::newRow("lone surrogate") << QString(QChar(0xD800)) + u"a"_s << u"_a"_s;
-    }
-    void components() {
-        QFETCH(QString, text);
-        QFETCH(QString, expected);
-        QCOMPARE(SXSafeName::component(text), expected);
+        QTEST(ConvertNaming::expand(pattern, tags), "expected");
     }
 
     // At most 255 bytes of UTF-8, cut between characters (two-, three- and four-byte ones), and
@@ -82,14 +70,13 @@ private Q_SLOTS:
     void longNamesAreCutAtCharacters() {
         QFETCH(QString, unit);
         QFETCH(int, reserved);
-        QFETCH(int, folderBytes);
         QFETCH(int, nameBytes);
         ConvertNameTags tags;
         tags.title = unit.repeated(300);
         const QStringList parts =
             ConvertNaming::expand(u"{title}/{title}"_s, tags, reserved).split(u'/');
         QCOMPARE(parts.size(), 2);
-        QCOMPARE(parts.first().toUtf8().size(), folderBytes);
+        QTEST(int(parts.first().toUtf8().size()), "folderBytes");
         QCOMPARE(parts.last().toUtf8().size(), nameBytes);
         QCOMPARE(parts.last(), unit.repeated(nameBytes / unit.toUtf8().size()));
     }
@@ -104,12 +91,12 @@ private Q_SLOTS:
         QTest::newRow("added alone") << u"/in/A/x.flac"_s << u""_s << u""_s;
         QTest::newRow("outside") << u"/other/x.flac"_s << u"/in"_s << u""_s;
         QTest::newRow("unsafe folder") << u"/in/.cache/-x/x.flac"_s << u"/in"_s << u"_cache/_x"_s;
+        QTest::newRow("blank folder") << u"/in/  /x.flac"_s << u"/in"_s << u"_"_s;
     }
     void mirroredFolders() {
         QFETCH(QString, source);
         QFETCH(QString, addedFrom);
-        QFETCH(QString, expected);
-        QCOMPARE(ConvertNaming::mirroredFolder(source, addedFrom), expected);
+        QTEST(ConvertNaming::mirroredFolder(source, addedFrom), "expected");
     }
 
     // The values come from a real file's tags, the disc number included.
