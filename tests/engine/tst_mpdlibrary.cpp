@@ -133,7 +133,7 @@ private Q_SLOTS:
     }
 
     // Over the local socket MPD tells its music folder itself; stored playlist names are
-    // case-sensitive.
+    // case-sensitive. Files MPD cannot take are refused with a reason.
     void deliversOnceToTheNamedPlaylistOrOnlyIndexes() {
         const QString first = tone(u"Sonoria/MP3/tone.mp3"_s);
         const QString awkward = tone(u"Sonoria/MP3/it's $(touch pwned); -x Ü.mp3"_s);
@@ -157,11 +157,8 @@ private Q_SLOTS:
         QVERIFY(inDatabase(u"solo/alone.mp3"_s));
         QCOMPARE(library.deliver(u""_s, single), Result::LibraryOnly);
         QCOMPARE(storedPlaylistNames(), playlists);
-    }
 
-    void filesMpdCannotTakeAreRefusedWithAReason() {
         LogCapture log;
-        const SXMpdLibrary library(server());
         const QString outside = m_root.filePath(u"tone.mp3"_s);
         QCOMPARE(library.deliver(u"Refused"_s, outside), Result::Failed);
         QVERIFY(log.contains(
