@@ -64,8 +64,7 @@ private Q_SLOTS:
         QObject::connect(&queue, &SXOperationQueue::operationFinished, [&finished] { ++finished; });
         for (const GatePtr& op : std::as_const(ops))
             queue.addOperation(op);
-        QVERIFY(ops[0]->entered.tryAcquire(1, 10000));
-        QVERIFY(ops[1]->entered.tryAcquire(1, 10000));
+        QVERIFY(ops[0]->entered.tryAcquire(1, 10000) && ops[1]->entered.tryAcquire(1, 10000));
         QVERIFY(ops[0]->isExecuting());
         QCOMPARE(queue.operations(), listed);
         ops[2]->cancel();
@@ -75,8 +74,7 @@ private Q_SLOTS:
 
         ops[0]->open.release();
         ops[1]->open.release();
-        QVERIFY(ops[3]->entered.tryAcquire(1, 10000));
-        QVERIFY(ops[4]->entered.tryAcquire(1, 10000));
+        QVERIFY(ops[3]->entered.tryAcquire(1, 10000) && ops[4]->entered.tryAcquire(1, 10000));
         queue.cancelAllOperations();
         // The first two may still be on their way out of the list.
         QTRY_COMPARE(queue.operations().size(), 2);

@@ -186,14 +186,13 @@ private Q_SLOTS:
         QFETCH(QString, encoder);
         QFETCH(bool, range);
         QFETCH(bool, forced);
-        QFETCH(bool, worker);
         Item item = makeItem(m_sources.filePath(u"mono.wav"_s), kSeconds, u"Test"_s, encoder);
         item.job.hasRange = range;
         if (forced)
             qputenv("SONORIA_ENGINE", "ffmpeg");
         const bool takes = ConvertEngineChoice::workerTakes(item.job);
         qunsetenv("SONORIA_ENGINE");
-        QCOMPARE(takes, worker);
+        QTEST(takes, "worker");
     }
 
 private:

@@ -46,29 +46,24 @@ private Q_SLOTS:
         const SXCueSheetResult sheet = SXCueSheet::parse(kSheet, u"/music/album.cue"_s);
         QVERIFY2(sheet.error.isEmpty(), qPrintable(sheet.error));
         QCOMPARE(sheet.tracks.size(), 3);
-        struct Expected {
-            QString title, performer;
-            qint64 start, end;
-        };
-        // The pregap of track 2 (00:01:50 to 00:02:00) stays with track 1; the last runs to the
-        // end.
-        const QList<Expected> expected{{u"Opening"_s, u"The Band"_s, 0, 150},
-                                       {u"Élan"_s, u"The Band"_s, 150, 4510},
-                                       {u"Coda"_s, u"A Guest"_s, 4510, -1}};
-        for (int i = 0; i < 3; ++i) {
-            const SXCueTrack& track = sheet.tracks.at(i);
-            QCOMPARE(track.number, i + 1);
-            QCOMPARE(track.total, 3);
-            QCOMPARE(track.title, expected.at(i).title);
-            QCOMPARE(track.performer, expected.at(i).performer);
-            QCOMPARE(track.startFrame, expected.at(i).start);
-            QCOMPARE(track.endFrame, expected.at(i).end);
-            QCOMPARE(track.album, u"Café Noël"_s);
-            QCOMPARE(track.albumPerformer, u"The Band"_s);
-            QCOMPARE(track.date, u"1999"_s);
-            QCOMPARE(track.genre, u"Jazz Rock"_s);
-            QCOMPARE(track.file, u"/music/album.flac"_s);
+        // "number/total title, performer, frames start to end": the pregap of track 2 (00:01:50
+        // to 00:02:00) stays with track 1; the last runs to the end. Every track carries the
+        // sheet's album fields and the audio's full path.
+        QStringList tracks;
+        for (const SXCueTrack& track : sheet.tracks) {
+            tracks << u"%1/%2 %3, %4, frames %5 to %6"_s.arg(track.number)
+                          .arg(track.total)
+                          .arg(track.title, track.performer)
+                          .arg(track.startFrame)
+                          .arg(track.endFrame);
+            QCOMPARE((QStringList{track.album, track.albumPerformer, track.date, track.genre,
+                                  track.file}),
+                     (QStringList{u"Café Noël"_s, u"The Band"_s, u"1999"_s, u"Jazz Rock"_s,
+                                  u"/music/album.flac"_s}));
         }
+        QCOMPARE(tracks, (QStringList{u"1/3 Opening, The Band, frames 0 to 150"_s,
+                                      u"2/3 Élan, The Band, frames 150 to 4510"_s,
+                                      u"3/3 Coda, A Guest, frames 4510 to -1"_s}));
         QCOMPARE(sheet.tracks.at(1).identity(), u"/music/album.cue#02"_s);
         QCOMPARE(sheet.tracks.at(1).seconds(100.0), 4360.0 / 75);
         QCOMPARE(sheet.tracks.at(2).seconds(100.0), 100.0 - 4510.0 / 75);
