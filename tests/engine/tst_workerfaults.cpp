@@ -73,9 +73,8 @@ struct Running {
 
 // A short source converted to its end: finished with a whole file.
 bool convertsAfterwards(const QString& folder, const QString& source) {
-    Recorder recorder;
     const Item next = makeItem(source, 1.0);
-    const ConvertOperationPtr operation = convert(next, folder, &recorder);
+    const ConvertOperationPtr operation = convert(next, folder, nullptr);
     return stateOf(next) == CvtStateFinished && QFileInfo(operation->strOutFilePath()).size() > 0;
 }
 } // namespace
