@@ -14,8 +14,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-const QString kUseSource = u"Use Source"_s;
-
 // One container setting per offered choice: the defaults, then each list varied on its own.
 QList<SXFormatSettingPtr> settingsToTry(const SXFormatSetting& catalogueRecord) {
     QList<SXFormatSettingPtr> settings{catalogueRecord.copy()};
@@ -119,9 +117,9 @@ private Q_SLOTS:
         QStringList failures;
         for (const SXFormatSettingPtr& setting : settingsToTry(*record)) {
             // The source's values are tried on every source.
-            const bool usesSource = setting->sampleRate() == kUseSource ||
-                                    setting->bitRate() == kUseSource ||
-                                    setting->channels() == kUseSource;
+            const bool usesSource =
+                QStringList{setting->sampleRate(), setting->bitRate(), setting->channels()}
+                    .contains(u"Use Source"_s);
             for (qsizetype s = 0; s < (usesSource ? m_sources.size() : 1); ++s) {
                 const QString out = m_dir.filePath(u"out.%1"_s.arg(ext));
                 if (const QString failure = convert(*setting, s, out); !failure.isEmpty())

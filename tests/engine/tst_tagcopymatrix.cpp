@@ -5,6 +5,7 @@
 #include "framework/MTETagReport.h"
 #include "support/TestSupport.h"
 
+#include <QHash>
 #include <QMultiMap>
 #include <QTemporaryDir>
 #include <array>
@@ -68,15 +69,9 @@ const char* const kPrivateField = "PRIVATEFIELD";
 // The encoder's name, which ffmpeg writes and which may stay, by Family.
 const std::array<const char*, 3> kEncoderKeys{"TSSE", "©too", "ENCODER"};
 
-Family familyOfExtension(const QString& extension) {
-    if (extension == "mp3"_L1)
-        return ID3v2;
-    if (extension == "m4a"_L1 || extension == "m4r"_L1)
-        return MP4;
-    if (extension == "flac"_L1 || extension == "ogg"_L1 || extension == "opus"_L1)
-        return Xiph;
-    return Other;
-}
+// The family of each output extension that has one.
+const QHash<QString, Family> kFamilies{{u"mp3"_s, ID3v2}, {u"m4a"_s, MP4},  {u"m4r"_s, MP4},
+                                       {u"flac"_s, Xiph}, {u"ogg"_s, Xiph}, {u"opus"_s, Xiph}};
 
 // What the output of a row must carry: the source's fields, none (a source without tags), or
 // the source's fields as the tag editor left them.
@@ -319,7 +314,7 @@ private Q_SLOTS:
                                                          ? kEditedTitle
                                                          : kFields[0].value));
         const QString output = operation->strOutFilePath();
-        const Family family = familyOfExtension(QFileInfo(output).suffix());
+        const Family family = kFamilies.value(QFileInfo(output).suffix(), Other);
         const QList<QByteArray> cover =
             content == Content::Tagged ? QList<QByteArray>{m_cover} : QList<QByteArray>();
         if (family == Other) {
