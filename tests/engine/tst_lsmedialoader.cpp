@@ -67,6 +67,14 @@ SXMusicInfoList makeItems(const QStringList& paths) {
 
 class TestLSMediaLoader : public QObject {
     Q_OBJECT
+    QTemporaryDir m_dir;
+    const QString m_mp3 = path("tone.mp3");
+    const QString m_flac = path("tone.flac");
+    const QString m_text = path("letter.mp3");
+    const QString m_ac3 = path("surround.ac3");
+    const QString m_mka = path("tone.mka");
+
+    QString path(const char* name) const { return m_dir.filePath(QString::fromUtf8(name)); }
 
 private Q_SLOTS:
     void initTestCase() {
@@ -179,16 +187,6 @@ private Q_SLOTS:
         QVERIFY(batch[1]->mediaInfo()->dFileSize() == 0 &&
                 batch[2]->mediaInfo()->audioSamplerate() == 0);
     }
-
-private:
-    QString path(const char* name) const { return m_dir.filePath(QString::fromUtf8(name)); }
-
-    QTemporaryDir m_dir;
-    const QString m_mp3 = path("tone.mp3");
-    const QString m_flac = path("tone.flac");
-    const QString m_text = path("letter.mp3");
-    const QString m_ac3 = path("surround.ac3");
-    const QString m_mka = path("tone.mka");
 };
 
 SONORIA_TEST_MAIN(TestLSMediaLoader)

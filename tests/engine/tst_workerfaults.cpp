@@ -81,6 +81,8 @@ bool convertsAfterwards(const QString& folder, const QString& source) {
 
 class WorkerFaultsTest : public QObject {
     Q_OBJECT
+    QTemporaryDir m_tone;
+
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY2(!ConvertEngineChoice::workerPath().isEmpty(), "sonoria-worker not found");
@@ -202,9 +204,6 @@ private Q_SLOTS:
             QCOMPARE(stateOf(item), int(CvtStateFinished));
         QCOMPARE(SonoriaTest::filesBelow(dir.path()).size(), 100);
     }
-
-private:
-    QTemporaryDir m_tone;
 };
 
 SONORIA_TEST_MAIN(WorkerFaultsTest)
