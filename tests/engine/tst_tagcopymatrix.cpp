@@ -181,15 +181,16 @@ struct SourceKind {
     const char* name;
     const char* extension;
     const char* codec;
+    Content content;
 };
 const SourceKind kSources[] = {
-    {"MP3 ID3v2.3", "mp3", "libmp3lame"},
-    {"MP3 ID3v2.4", "mp3", "libmp3lame"},
-    {"FLAC", "flac", "flac"},
-    {"M4A", "m4a", "aac"},
-    {"Ogg Vorbis", "ogg", "libvorbis"},
-    {"WAV", "wav", "pcm_s16le"},
-    {"M4A without tags", "m4a", "aac"},
+    {"MP3 ID3v2.3", "mp3", "libmp3lame", Content::Tagged},
+    {"MP3 ID3v2.4", "mp3", "libmp3lame", Content::Tagged},
+    {"FLAC", "flac", "flac", Content::Tagged},
+    {"M4A", "m4a", "aac", Content::Tagged},
+    {"Ogg Vorbis", "ogg", "libvorbis", Content::Tagged},
+    {"WAV", "wav", "pcm_s16le", Content::Tagged},
+    {"M4A without tags", "m4a", "aac", Content::Untagged},
 };
 
 struct OutputKind {
@@ -205,10 +206,6 @@ const OutputKind kOutputs[] = {
     {"AIFF", "pcm_s16be", "aiff"},      {"WMA", "wmav2", "wma"},
     {"WavPack", "wavpack", "wv"},
 };
-
-Content contentOf(const SourceKind& source) {
-    return QByteArray(source.name).endsWith("without tags") ? Content::Untagged : Content::Tagged;
-}
 
 const char* const kEditedTitle = "Edited ✓";
 
@@ -277,7 +274,7 @@ private Q_SLOTS:
             QVERIFY(SonoriaTest::makeTone(source, 1.0, {u"-c:a"_s, kind.codec}));
             QVERIFY2(tagSource(source, name, m_cover), kind.name);
             for (const OutputKind& output : kOutputs)
-                start(source, kind, output, contentOf(kind));
+                start(source, kind, output, kind.content);
             if (&kind == &kSources[0])
                 start(source, kind, kOutputs[4], Content::Edited);
         }
@@ -289,9 +286,8 @@ private Q_SLOTS:
         QTest::addColumn<Content>("content");
         for (const SourceKind& source : kSources) {
             for (const OutputKind& output : kOutputs) {
-                const Content content = contentOf(source);
-                QTest::newRow(qPrintable(row(source, output, content)))
-                    << row(source, output, content) << content;
+                const QString name = row(source, output, source.content);
+                QTest::newRow(qPrintable(name)) << name << source.content;
             }
         }
         const QString edited = row(kSources[0], kOutputs[4], Content::Edited);

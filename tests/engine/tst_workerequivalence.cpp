@@ -97,6 +97,8 @@ double snrDb(const QByteArray& signal, const QByteArray& test) {
 
 class WorkerEquivalenceTest : public QObject {
     Q_OBJECT
+    QTemporaryDir m_sources;
+
 private Q_SLOTS:
     void initTestCase() {
         QVERIFY2(!ConvertEngineChoice::workerPath().isEmpty(), "sonoria-worker not found");
@@ -194,9 +196,6 @@ private Q_SLOTS:
         qunsetenv("SONORIA_ENGINE");
         QTEST(takes, "worker");
     }
-
-private:
-    QTemporaryDir m_sources;
 };
 
 SONORIA_TEST_MAIN(WorkerEquivalenceTest)
